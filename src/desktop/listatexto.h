@@ -1,0 +1,90 @@
+// The one list of the program: rows of text cells under columns that are told as data.
+//
+// Rows are numbered from 0 in the order on screen, sorted or not; printing, export, searches and duplicate tests
+// read this model and see exactly what the operator sees. Cells are kept as compact UTF-8 columns (ColumnaTexto),
+// so a table's columns can be shown without a copy. Hidden columns are real columns.
+//
+// Sorting is stable and by text, with Spanish collation, case ignored only between equals.
+#pragma once
+
+#include "store/columna.h"
+
+#include <QAbstractTableModel>
+
+#include <memory>
+#include <vector>
+
+namespace tarvo {
+
+// Colour of a cell's text; estilo.h maps it to a colour. Normal is the list's own.
+enum class Tono : std::uint8_t { Normal, Verde, Rojo, Azul, Purpura };
+
+struct ColumnaLista {
+    QString titulo;
+    int ancho = 0; // twips, 15 to the pixel; a proportion more than a size
+    bool derecha = false; // numbers and amounts
+    bool oculta = false;
+    int claveOrden = -1; // column by whose text a click on this header sorts; -1: its own
+};
+
+class ListaTexto : public QAbstractTableModel {
+    Q_OBJECT
+  public:
+    explicit ListaTexto(std::vector<ColumnaLista> columnas, QObject *padre = nullptr);
+    ~ListaTexto() override;
+
+    const std::vector<ColumnaLista> &Columnas() const { return especificacion_; }
+    int Filas() const;
+    QString Celda(int fila, int columna) const;
+    std::string_view CeldaUtf8(int fila, int columna) const; // valid until the list is next changed
+
+    // Replaces all rows by these columns (one per column of the list, all of one length), in one reset; they come
+    // sorted when the list has a sort column. `tonos` gives each row's tone in column `columnaTono`.
+    void Asignar(std::vector<ColumnaTexto> celdas, int columnaTono = -1, std::vector<Tono> tonos = {});
+    void Limpiar();
+    // Adds a row, at its sorted place when the list has a sort column, else at the end; returns its number.
+    int AgregarFila(const QStringList &celdas);
+    void QuitarFila(int fila);
+    // Changes a cell; the row keeps its place and its tones.
+    void PonerCelda(int fila, int columna, const QString &texto);
+
+    Tono TonoDe(int fila, int columna) const;
+    void PonerTono(int fila, int columna, Tono tono);
+
+    // Check marks, for lists made checkable: shown in the first column.
+    void HacerMarcable();
+    bool Marcada(int fila) const;
+    void Marcar(int fila, bool marcada);
+
+    // First row from `desde` on whose cell in `columna` is exactly `texto`; -1 when there is none.
+    int Buscar(int columna, std::string_view utf8, int desde = 0) const;
+    // First row from `desde` on with a cell of `columnas` that contains `texto`, case ignored; -1 when none.
+    int BuscarParte(const std::vector<int> &columnas, const QString &texto, int desde = 0) const;
+
+    // Sort column (-1: none, the rows stand in the order in which they came) and direction.
+    int ColumnaOrden() const { return columnaOrden_; }
+    Qt::SortOrder Orden() const { return orden_; }
+    void Ordenar(int columna, Qt::SortOrder orden);
+    // A click on a header: another column sorts ascending, the same one turns round. The header shows the icon
+    // "arriba" (ascending) or "abajo" on the sort column (Qt::DecorationRole).
+    void ClicEncabezado(int columna);
+
+    // Width of a column in twips, when a window's resize rule changes it; and its caption.
+    void PonerTitulo(int columna, const QString &titulo);
+
+    int rowCount(const QModelIndex &padre = {}) const override;
+    int columnCount(const QModelIndex &padre = {}) const override;
+    QVariant data(const QModelIndex &indice, int rol = Qt::DisplayRole) const override;
+    bool setData(const QModelIndex &indice, const QVariant &valor, int rol = Qt::EditRole) override;
+    QVariant headerData(int seccion, Qt::Orientation orientacion, int rol = Qt::DisplayRole) const override;
+    Qt::ItemFlags flags(const QModelIndex &indice) const override;
+
+  private:
+    struct Privado;
+    std::vector<ColumnaLista> especificacion_;
+    int columnaOrden_ = -1;
+    Qt::SortOrder orden_ = Qt::AscendingOrder;
+    std::unique_ptr<Privado> d_;
+};
+
+} // namespace tarvo

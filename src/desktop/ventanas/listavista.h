@@ -1,0 +1,43 @@
+// The one list view: a flat tree view on a ListaTexto, with single selection of whole rows.
+#pragma once
+
+#include "desktop/listatexto.h"
+
+#include <QTreeView>
+
+namespace tarvo {
+
+class ListaVista : public QTreeView {
+    Q_OBJECT
+  public:
+    explicit ListaVista(QWidget *padre = nullptr);
+
+    // Shows `lista`: hidden columns are hidden, the visible ones share the width in proportion to their twips,
+    // a click on a header sorts.
+    void Mostrar(ListaTexto *lista);
+    ListaTexto *Lista() const { return lista_; }
+
+    int FilaActual() const; // selected row from 0, -1 when none
+    // Selects the row and scrolls it into view; -1 clears the selection.
+    void SeleccionarFila(int fila);
+    // Changes the width of a column, in twips, as a resize rule of a window asks.
+    void PonerAncho(int columna, int twips);
+    // True when the rows exceed Int(height / 210 - 1.5), height in twips: a scroll bar takes room.
+    bool DesbordaFilas() const;
+
+  signals:
+    void FilaPulsada(int fila);      // a click or an arrow key chose a row
+    void FilaDobleClic(int fila);
+    void Ordenada();                 // a header click has sorted
+
+  protected:
+    void resizeEvent(QResizeEvent *evento) override;
+    void currentChanged(const QModelIndex &actual, const QModelIndex &anterior) override;
+
+  private:
+    void RepartirAnchos();
+    ListaTexto *lista_ = nullptr;
+    std::vector<int> anchos_;
+};
+
+} // namespace tarvo

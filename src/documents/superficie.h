@@ -1,0 +1,55 @@
+// A printing surface: what all paper of the program is written on.
+//
+// It has a current font and a print head. Text goes to the right of the head; a column is counted in characters of
+// the current font and size from the left margin. SuperficieGrabada records a page dump that tests compare;
+// SuperficiePintada paints on any QPagedPaintDevice, so paper and PDF are the same code.
+#pragma once
+
+#include <QImage>
+#include <QString>
+
+namespace tarvo {
+
+struct Letra {
+    QString familia = QStringLiteral("Courier New");
+    double puntos = 10;
+    bool negrita = false;
+    bool cursiva = false;
+    bool tachada = false;
+    bool subrayada = false;
+    bool operator==(const Letra &) const = default;
+};
+
+class Superficie {
+  public:
+    virtual ~Superficie() = default;
+
+    const Letra &letra() const { return letra_; }
+    void Familia(const QString &familia) { letra_.familia = familia; }
+    void Tamano(double puntos) { letra_.puntos = puntos; }
+    void Negrita(bool si) { letra_.negrita = si; }
+
+    // Writes at the head and leaves the head behind the text.
+    virtual void Texto(const QString &texto) = 0;
+    // Moves the head so that `caracteres` characters lie to its left (0 or less: the first column). A place
+    // that the head has passed already is taken on the next line.
+    virtual void Columna(int caracteres) = 0;
+    virtual void FinLinea() = 0;
+    // Moves the head to a point of the page, in twips from its upper left printable corner.
+    virtual void Posicion(int xTwips, int yTwips) = 0;
+    // Draws a picture with its upper left corner at the point; size in twips.
+    virtual void Imagen(const QImage &imagen, int xTwips, int yTwips, int anchoTwips, int altoTwips) = 0;
+    virtual void NuevaPagina() = 0;
+    // Ends the document and hands it to the printer. Throws ErrorDatos(kImpresora) when the printer fails.
+    virtual void Terminar() = 0;
+
+    void Linea(const QString &texto) {
+        Texto(texto);
+        FinLinea();
+    }
+
+  protected:
+    Letra letra_;
+};
+
+} // namespace tarvo

@@ -1,0 +1,36 @@
+// The one error that the data layer throws: a number that handlers test and a text in Spanish for the operator.
+#pragma once
+
+#include <QString>
+
+#include <stdexcept>
+
+namespace tarvo {
+
+namespace errores {
+constexpr int kArchivoNoEncontrado = 53;
+constexpr int kAccesoRuta = 75;
+constexpr int kRutaNoEncontrada = 76;
+constexpr int kImagenInvalida = 481;
+constexpr int kImpresora = 482;
+constexpr int kBaseBloqueada = 3008;
+constexpr int kBaseNoEncontrada = 3024;
+constexpr int kBaseIlegible = 3049;   // not a database, damaged, a table or column is missing
+constexpr int kEscritura = 3027;      // the disk refused a write: full, read-only, input/output error
+constexpr int kSinRegistro = 3021;    // a field was written while no row is current
+constexpr int kDialogoCancelado = 32755;
+} // namespace errores
+
+class ErrorDatos : public std::runtime_error {
+  public:
+    ErrorDatos(int numero, const QString &descripcion)
+        : std::runtime_error(descripcion.toStdString()), numero_(numero), descripcion_(descripcion) {}
+    int Numero() const { return numero_; }
+    const QString &Descripcion() const { return descripcion_; }
+
+  private:
+    int numero_;
+    QString descripcion_;
+};
+
+} // namespace tarvo

@@ -1,0 +1,52 @@
+// Money and numbers as text, under the decimal separator and currency symbol read once at start.
+//
+// All rounding is half away from zero on the decimal reading of the number: 2.675 gives 2,68.
+// A double is read as the decimal number of 15 significant digits nearest to it before it is rounded.
+#pragma once
+
+#include <QString>
+
+#include <string>
+#include <string_view>
+
+namespace tarvo {
+
+class Moneda {
+  public:
+    // `decimal` is the separator ("," or "."), `simbolo` the currency symbol ("$", "Bs").
+    explicit Moneda(QString decimal = QStringLiteral(","), QString simbolo = QStringLiteral("$"));
+
+    const QString &sDecimal() const { return decimal_; }
+    const QString &sCurrency() const { return simbolo_; }
+
+    // `texto` with either separator, in the form "###0.00"; with `conSimbolo` behind the symbol and one blank.
+    // Empty text counts as 0; text that is no number (a thousands separator makes it none) stays as it stands.
+    QString FormatoMoneda(const QString &texto, bool conSimbolo) const;
+    QString FormatoMoneda(double valor, bool conSimbolo) const;
+    // The same, appended to `salida` as UTF-8: for lists of many rows.
+    void AgregarFormato(std::string &salida, std::string_view texto, bool conSimbolo) const;
+    void AgregarFormato(std::string &salida, double valor, bool conSimbolo) const;
+
+    // Money text without its first Len(sCurrency) + 1 characters.
+    QString SinSimbolo(const QString &monto) const;
+    std::string_view SinSimbolo(std::string_view monto) const;
+
+    // A number in the machine's locale: the leading number of `texto`, 0 when there is none.
+    double Numero(std::string_view texto) const;
+    double Numero(const QString &texto) const;
+    // Money text as a number: SinSimbolo, then Numero.
+    double Importe(const QString &monto) const { return Numero(SinSimbolo(monto)); }
+
+    // The neutral reading: blanks, an optional sign, digits and a point, up to the first other character.
+    // "21%" is 21, "10,5%" is 10.
+    static double NumeroNeutro(std::string_view texto);
+    static double NumeroNeutro(const QString &texto);
+
+  private:
+    QString decimal_;
+    QString simbolo_;
+    std::string decimal8_;
+    std::string simbolo8_;
+};
+
+} // namespace tarvo
