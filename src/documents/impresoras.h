@@ -1,7 +1,7 @@
 // The printers of the machine, by device name, and the one that is current in the program.
 //
-// Besides the installed ones there is always the built-in printer "PDF", which needs no system printer and writes
-// its documents into the folder `Impresos`.
+// Besides the installed ones there is always the built-in printer "PDF", which needs no system printer and
+// writes its documents into the folder `Impresos`.
 #pragma once
 
 #include "documents/superficie.h"
@@ -26,14 +26,14 @@ class Impresoras {
     virtual QString Actual() const = 0;
     // The current printer becomes the one of that name; another name changes nothing.
     virtual void HacerActual(const QString &nombre) = 0;
-    // A new document on the current printer. A ticket is paper of a roll, a listing a sheet; `titulo` names the
-    // document in the printer's queue and, for the PDF printer, its file. Throws ErrorDatos(kImpresora) when the
-    // printer is gone or can't be written.
+    // A new document on the current printer. A ticket is paper of a roll, a listing a sheet; `titulo` names
+    // the document in the printer's queue and, for the PDF printer, its file. Throws ErrorDatos: kImpresora
+    // when the printer is gone or refuses, kEscritura when the folder of the PDF printer can't be written.
     virtual std::unique_ptr<Superficie> NuevoDocumento(Proposito proposito, const QString &titulo) = 0;
 };
 
-// Makes the printer whose name is stored under "ImpTick" or "ImpList" the current one. Without a stored name, or
-// when no printer has it, the current printer stays. Returns the name of the current printer. Never fails.
+// Makes the printer whose name is stored under "ImpTick" or "ImpList" the current one. Without a stored name,
+// or when no printer has it, the current printer stays. Returns the name of the current printer. Never fails.
 QString ElegirImpresora(Impresoras &impresoras, const QSettings &ajustes, Proposito proposito);
 
 } // namespace tarvo

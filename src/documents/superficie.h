@@ -1,8 +1,8 @@
 // A printing surface: what all paper of the program is written on.
 //
-// It has a current font and a print head. Text goes to the right of the head; a column is counted in characters of
-// the current font and size from the left margin. SuperficieGrabada records a page dump that tests compare;
-// SuperficiePintada paints on any QPagedPaintDevice, so paper and PDF are the same code.
+// It has a current font and a print head. Text goes to the right of the head; a column is counted in
+// characters of the current font and size from the left margin. SuperficieGrabada records a page dump that
+// tests compare; SuperficiePintada paints on any QPagedPaintDevice, so paper and PDF are the same code.
 #pragma once
 
 #include <QImage>
@@ -22,14 +22,19 @@ struct Letra {
 
 class Superficie {
   public:
+    Superficie() = default;
     virtual ~Superficie() = default;
+    Superficie(const Superficie &) = delete;
+    Superficie &operator=(const Superficie &) = delete;
 
     const Letra &letra() const { return letra_; }
+    void PonerLetra(const Letra &letra) { letra_ = letra; }
     void Familia(const QString &familia) { letra_.familia = familia; }
     void Tamano(double puntos) { letra_.puntos = puntos; }
     void Negrita(bool si) { letra_.negrita = si; }
 
-    // Writes at the head and leaves the head behind the text.
+    // Writes at the head and leaves the head behind the text. Control characters and line ends print as
+    // blanks.
     virtual void Texto(const QString &texto) = 0;
     // Moves the head so that `caracteres` characters lie to its left (0 or less: the first column). A place
     // that the head has passed already is taken on the next line.
@@ -40,7 +45,8 @@ class Superficie {
     // Draws a picture with its upper left corner at the point; size in twips.
     virtual void Imagen(const QImage &imagen, int xTwips, int yTwips, int anchoTwips, int altoTwips) = 0;
     virtual void NuevaPagina() = 0;
-    // Ends the document and hands it to the printer. Throws ErrorDatos(kImpresora) when the printer fails.
+    // Ends the document and hands it to the printer. Throws ErrorDatos: kImpresora when the printer fails,
+    // kEscritura when the file of the PDF printer can't be written.
     virtual void Terminar() = 0;
 
     void Linea(const QString &texto) {
@@ -51,5 +57,10 @@ class Superficie {
   protected:
     Letra letra_;
 };
+
+// `texto` with a blank for each control character, as it stands on paper.
+QString TextoImprimible(const QString &texto);
+// The first `caracteres` characters of `texto`; a character of two code units isn't torn apart.
+QString Cortar(const QString &texto, qsizetype caracteres);
 
 } // namespace tarvo

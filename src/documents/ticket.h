@@ -1,5 +1,5 @@
-// The slips of the ticket printer: a grid of monospaced columns, Courier New, header in size 11, body in size 8 and
-// 39 columns wide. docs/papel.md shows each.
+// The slips of the ticket printer: a grid of monospaced columns, Courier New, header in size 11, body in size
+// 8 and 39 columns wide. Columns count the characters to their left. docs/papel.md shows each slip.
 #pragma once
 
 #include "documents/superficie.h"
@@ -22,7 +22,11 @@ using Cabecera = std::array<LineaCabecera, 5>;
 
 Cabecera LeerCabecera(FrmBases &frmBases);
 
-// Two empty lines, the five lines centred on column 14, date and time; leaves size 8.
+// The body's width, the rule's length and the column at which amounts end.
+inline constexpr int kColumnasTicket = 39;
+
+// Two empty lines, the five lines centred on column 14, date and time; leaves size 8 and the bold of line 5.
+void ImprimirCabecera(Superficie &papel, const Cabecera &cabecera, const QString &fecha, const QString &hora);
 void ImprimirCabecera(Superficie &papel, const Cabecera &cabecera, const QDateTime &momento);
 
 // One line of a sale; amounts as they stand on screen.
@@ -36,12 +40,12 @@ struct LineaTicket {
 // Everything that the ticket of a sale shows, read while the sale is still on screen.
 struct SolicitudTicket {
     Cabecera cabecera;
-    QString fecha; // dd/mm/yyyy, of the sale
-    QString hora;  // HH:nn
-    QString titulo; // "Factura contado", "Factura crédito"
-    QString numero; // may be empty
-    QString cliente; // empty: no customer line
-    QString idFiscal;
+    QString fecha;    // dd/mm/yyyy, of the sale; the header block shows it
+    QString hora;     // HH:nn
+    QString titulo;   // "Factura contado", "Factura crédito"
+    QString numero;   // may be empty
+    QString cliente;  // empty: no customer lines
+    QString idFiscal; // may be empty
     std::vector<LineaTicket> lineas;
     QString subtotal;
     QString iva;

@@ -1,0 +1,130 @@
+#include "documents/impresorapdf.h"
+
+#include "documents/listado.h"
+#include "documents/superficiegrabada.h"
+#include "documents/superficiepintada.h"
+#include "documents/ticket.h"
+#include "store/errordatos.h"
+
+#include <QBuffer>
+#include <QDir>
+#include <QFile>
+#include <QPdfWriter>
+#include <QRegularExpression>
+
+#include <utility>
+
+namespace tarvo {
+
+namespace {
+
+constexpr double kMargen = 4;         // millimetres
+constexpr double kAnchoRollo = 80;    // millimetres
+constexpr double kLargoMaximo = 5000; // millimetres; a PDF page can't be longer than 5080
+
+[[noreturn]] void FallarEscritura(const QString &ruta) {
+    throw ErrorDatos(errores::kEscritura, QStringLiteral("No se pudo escribir \"%1\".").arg(ruta));
+}
+
+QString NombreBase(const QString &titulo, const QDateTime &momento) {
+    static const QRegularExpression acentos(QStringLiteral("\\p{Mn}+"));
+    static const QRegularExpression otros(QStringLiteral("[^a-z0-9]+"));
+    QString nombre = titulo.normalized(QString::NormalizationForm_D).toLower().remove(acentos);
+    return nombre.replace(otros, QStringLiteral("-")) + momento.toString(QStringLiteral("-yyyyMMdd-HHmmss-"));
+}
+
+// Where the document goes when it is whole.
+struct Destino {
+    QString carpeta;
+    QString titulo;
+    QDateTime momento;
+
+    void Guardar(const QByteArray &datos) const {
+        QFile archivo;
+        AbrirLibre(archivo);
+        if (archivo.write(datos) == datos.size() && archivo.flush())
+            return;
+        archivo.remove();
+        FallarEscritura(archivo.fileName());
+    }
+
+  private:
+    void AbrirLibre(QFile &archivo) const {
+        const QString base = carpeta + QLatin1Char('/') + NombreBase(titulo, momento);
+        for (int numero = 1;; ++numero) {
+            archivo.setFileName(QStringLiteral("%1%2.pdf").arg(base).arg(numero, 3, 10, QLatin1Char('0')));
+            if (archivo.open(QIODevice::WriteOnly | QIODevice::NewOnly))
+                return;
+            if (!QFile::exists(archivo.fileName()))
+                FallarEscritura(archivo.fileName());
+        }
+    }
+};
+
+QPageLayout Hoja(const QPageSize &tamano) {
+    return {tamano, QPageLayout::Portrait, QMarginsF(kMargen, kMargen, kMargen, kMargen),
+            QPageLayout::Millimeter};
+}
+
+QPageLayout HojaRollo(double largo) {
+    return Hoja(
+        QPageSize(QSizeF(kAnchoRollo, largo), QPageSize::Millimeter, QString(), QPageSize::ExactMatch));
+}
+
+std::unique_ptr<SuperficiePintada> Pintada(QIODevice &salida, const QPageLayout &hoja, Proposito proposito,
+                                           const QString &titulo, std::function<void()> alTerminar = {}) {
+    auto escritor = std::make_unique<QPdfWriter>(&salida);
+    escritor->setTitle(titulo);
+    escritor->setCreator(QStringLiteral("Tarvo"));
+    escritor->setPageLayout(hoja);
+    return std::make_unique<SuperficiePintada>(std::move(escritor), RejillaDe(proposito),
+                                               std::move(alTerminar));
+}
+
+// Waits for the end of the slip, measures it, and cuts the paper there.
+class RolloPdf final : public SuperficieGrabada {
+  public:
+    explicit RolloPdf(Destino destino) : destino_(std::move(destino)) {}
+
+    void Terminar() override {
+        QBuffer salida;
+        const auto papel = Pintada(salida, HojaRollo(Largo()), Proposito::Ticket, destino_.titulo);
+        Repetir(*papel);
+        papel->Terminar();
+        destino_.Guardar(salida.data());
+        SuperficieGrabada::Terminar();
+    }
+
+  private:
+    double Largo() const {
+        QBuffer borrador;
+        const auto papel = Pintada(borrador, HojaRollo(kLargoMaximo), Proposito::Ticket, destino_.titulo);
+        Repetir(*papel);
+        return papel->Paginas() > 1 ? kLargoMaximo : papel->AltoUsado() + 2 * kMargen;
+    }
+    Destino destino_;
+};
+
+std::unique_ptr<Superficie> NuevoListado(const Destino &destino) {
+    const auto salida = std::make_shared<QBuffer>();
+    return Pintada(*salida, Hoja(QPageSize(QPageSize::A4)), Proposito::Listado, destino.titulo,
+                   [salida, destino] { destino.Guardar(salida->data()); });
+}
+
+} // namespace
+
+Rejilla RejillaDe(Proposito proposito) {
+    return proposito == Proposito::Ticket ? Rejilla{kColumnasTicket, 8} : Rejilla{kColumnasListado, 10};
+}
+
+std::unique_ptr<Superficie> NuevoDocumentoPdf(const QString &carpeta, Proposito proposito,
+                                              const QString &titulo, const QDateTime &momento) {
+    if (!QDir().mkpath(carpeta))
+        FallarEscritura(carpeta);
+    const Destino destino{carpeta, titulo, momento};
+    if (proposito == Proposito::Ticket)
+        return std::make_unique<RolloPdf>(destino);
+    return NuevoListado(destino);
+}
+
+} // namespace tarvo

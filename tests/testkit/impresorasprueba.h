@@ -1,0 +1,59 @@
+// Printers for tests: every document that is printed stays in memory as a page dump.
+#pragma once
+
+#include "documents/impresoras.h"
+#include "documents/superficiegrabada.h"
+#include "store/errordatos.h"
+
+#include <memory>
+#include <utility>
+#include <vector>
+
+namespace tarvo {
+
+class ImpresorasPrueba final : public Impresoras {
+  public:
+    QStringList nombres{QStringLiteral("Tickets"), QStringLiteral("Láser"),
+                        QString::fromLatin1(kImpresoraPdf)};
+    QString actual = QStringLiteral("Láser");
+    std::vector<std::shared_ptr<SuperficieGrabada>> documentos;
+    bool fallar = false; // the next documents fail as with a printer that is gone
+
+    QStringList Nombres() const override { return nombres; }
+    QString Actual() const override { return actual; }
+    void HacerActual(const QString &nombre) override {
+        if (nombres.contains(nombre))
+            actual = nombre;
+    }
+    std::unique_ptr<Superficie> NuevoDocumento(Proposito, const QString &) override {
+        if (fallar)
+            throw ErrorDatos(errores::kImpresora, QStringLiteral("No hay impresora."));
+        documentos.push_back(std::make_shared<SuperficieGrabada>());
+        return std::make_unique<Hoja>(documentos.back());
+    }
+
+  private:
+    // What the program writes on and throws away; the recording outlives it.
+    class Hoja final : public Superficie {
+      public:
+        explicit Hoja(std::shared_ptr<SuperficieGrabada> grabada) : grabada_(std::move(grabada)) {}
+        void Texto(const QString &texto) override { ConLetra().Texto(texto); }
+        void Columna(int caracteres) override { ConLetra().Columna(caracteres); }
+        void FinLinea() override { ConLetra().FinLinea(); }
+        void Posicion(int xTwips, int yTwips) override { ConLetra().Posicion(xTwips, yTwips); }
+        void Imagen(const QImage &imagen, int xTwips, int yTwips, int anchoTwips, int altoTwips) override {
+            ConLetra().Imagen(imagen, xTwips, yTwips, anchoTwips, altoTwips);
+        }
+        void NuevaPagina() override { grabada_->NuevaPagina(); }
+        void Terminar() override { grabada_->Terminar(); }
+
+      private:
+        Superficie &ConLetra() {
+            grabada_->PonerLetra(letra_);
+            return *grabada_;
+        }
+        std::shared_ptr<SuperficieGrabada> grabada_;
+    };
+};
+
+} // namespace tarvo
