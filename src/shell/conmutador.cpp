@@ -1,0 +1,327 @@
+#include "shell/conmutador.h"
+
+#include <QScopeGuard>
+#include <QStringList>
+
+#include <array>
+#include <vector>
+
+namespace tarvo {
+
+// A module that a handler asks about, and what the answer does to the buttons.
+struct Conmutador::Rechazo {
+    Modulo otro;
+    QString pendiente;      // No: the button that is pressed one tick later
+    QString alNoSuelta;     // No: the button that is un-pressed at once
+    QStringList alSiSuelta; // Yes: the buttons that are un-pressed once everything is closed
+};
+
+struct Conmutador::Manejador {
+    Modulo propio;
+    QString estadisticas; // the spelling of the third caller that this handler knows
+    std::vector<Rechazo> otros;
+};
+
+struct Conmutador::Dialogo {
+    QString llamador;
+    QString boton;
+    QString ingreso;
+};
+
+namespace {
+
+constexpr int kMarca = 2; // type of ActDesMenu that sets a check
+constexpr std::array kOrdenCierre{Modulo::Stats,   Modulo::Clientes, Modulo::Articulos,
+                                  Modulo::Estados, Modulo::Ventas,   Modulo::Proveedores};
+// Statistics are not among the modules that a dialog closes.
+constexpr std::array kOrdenDialogos{Modulo::Ventas, Modulo::Estados, Modulo::Articulos, Modulo::Proveedores,
+                                    Modulo::Clientes};
+
+const QString kVentas = QStringLiteral("ventas");
+const QString kArticulos = QStringLiteral("articulos");
+const QString kClientes = QStringLiteral("clientes");
+const QString kProveedores = QStringLiteral("proveedores");
+const QString kEstado = QStringLiteral("estado");
+const QString kEstadisticas = QStringLiteral("estadisticas");
+const QString kCalculadora = QStringLiteral("calculadora");
+
+} // namespace
+
+const DatosModulo &DatosDe(Modulo modulo) {
+    static const std::array<DatosModulo, 6> datos{{
+        {kVentas, kVentas, QStringLiteral("Confirma que desea salir sin completar la venta?"),
+         QStringLiteral("formulario de ventas")},
+        {kArticulos, kArticulos,
+         QStringLiteral("Confirma que desea salir sin completar el ingreso del artículo?"),
+         QStringLiteral("formulario de artículos")},
+        {kClientes, kClientes,
+         QStringLiteral("Confirma que desea salir sin completar el ingreso del cliente?"),
+         QStringLiteral("formulario de clientes")},
+        {kProveedores, kProveedores,
+         QStringLiteral("Confirma que desea salir sin completar el ingreso del proveedor?"),
+         QStringLiteral("formulario de proveedores")},
+        {kEstado, kEstado, QString(), QStringLiteral("formulario de estados de cuenta")},
+        {QStringLiteral("stats"), kEstadisticas, QString(), QString()},
+    }};
+    return datos[static_cast<std::size_t>(modulo)];
+}
+
+// The rows that look like slips are the program's own behaviour: which button is un-pressed or comes back is
+// not always that of the module asked about.
+const Conmutador::Manejador &Conmutador::ManejadorDe(Modulo modulo) {
+    using enum Modulo;
+    static const std::array<Manejador, 6> tabla{{
+        {Ventas,
+         kEstadisticas,
+         {{Articulos, kVentas, kVentas, {kEstado}},
+          {Proveedores, kProveedores, kVentas, {kEstado}},
+          {Clientes, kClientes, kVentas, {kClientes}}}},
+        {Articulos,
+         kEstadisticas,
+         {{Ventas, kVentas, kArticulos, {kVentas}},
+          {Clientes, kClientes, kArticulos, {kClientes}},
+          {Proveedores, kProveedores, kArticulos, {kProveedores}}}},
+        {Clientes,
+         kEstadisticas,
+         {{Ventas, kVentas, kClientes, {kVentas}},
+          {Articulos, kArticulos, kClientes, {kArticulos}},
+          {Proveedores, kProveedores, kArticulos, {kProveedores}}}},
+        {Proveedores,
+         QStringLiteral("estadísticas"),
+         {{Ventas, kVentas, kProveedores, {kVentas}},
+          {Articulos, kArticulos, kProveedores, {kArticulos}},
+          {Clientes, kClientes, kProveedores, {kClientes}}}},
+        {Estados,
+         kEstadisticas,
+         {{Ventas, kVentas, kEstado, {kVentas}},
+          {Articulos, kClientes, kEstado, {kArticulos}},
+          {Proveedores, kProveedores, kEstado, {kProveedores, kEstado}},
+          {Clientes, kClientes, kEstado, {kClientes}}}},
+        {Stats,
+         kEstadisticas,
+         {{Ventas, kVentas, kEstadisticas, {kVentas}},
+          {Articulos, kArticulos, kEstadisticas, {kArticulos}},
+          {Proveedores, kVentas, kEstadisticas, {kProveedores}},
+          {Clientes, kClientes, kEstadisticas, {kClientes}}}},
+    }};
+    return tabla[static_cast<std::size_t>(modulo)];
+}
+
+const Conmutador::Dialogo &Conmutador::Opciones() {
+    static const Dialogo dialogo{QStringLiteral("opciones"), QStringLiteral("config"),
+                                 QStringLiteral("las opciones del programa")};
+    return dialogo;
+}
+
+const Conmutador::Dialogo &Conmutador::Respaldo() {
+    static const Dialogo dialogo{QStringLiteral("respaldo"), QStringLiteral("respaldar"),
+                                 QStringLiteral("las opciones de respaldo")};
+    return dialogo;
+}
+
+Conmutador::Conmutador(TableroModulos &tablero, VentanasModulos &ventanas, Preguntas &preguntas)
+    : tablero_(tablero), ventanas_(ventanas), preguntas_(preguntas) {}
+
+void Conmutador::mnuVentas() {
+    Ejecutar(Modulo::Ventas);
+}
+void Conmutador::mnuArticulos() {
+    Ejecutar(Modulo::Articulos);
+}
+void Conmutador::mnuClientes() {
+    Ejecutar(Modulo::Clientes);
+}
+void Conmutador::mnuProveedores() {
+    Ejecutar(Modulo::Proveedores);
+}
+void Conmutador::mnuEstadosClientes() {
+    Ejecutar(Modulo::Estados);
+}
+void Conmutador::mnuStats() {
+    Ejecutar(Modulo::Stats);
+}
+
+bool Conmutador::Marcado(Modulo modulo) const {
+    return tablero_.MenuMarcado(DatosDe(modulo).clave);
+}
+
+bool Conmutador::EnCurso(Modulo modulo) const {
+    return !DatosDe(modulo).alSalir.isEmpty() && Marcado(modulo) && ventanas_.EntradaEnCurso(modulo);
+}
+
+bool Conmutador::Pregunta(const QString &texto) {
+    return preguntas_.Confirma(texto, Respuesta::No);
+}
+
+void Conmutador::Pendiente(const QString &boton) {
+    botonPendiente_ = boton;
+    tablero_.IniciarTimer1();
+}
+
+void Conmutador::Timer1_Timer() {
+    if (!botonPendiente_.isEmpty())
+        tablero_.PresionarBoton(botonPendiente_, true);
+    botonPendiente_.clear();
+}
+
+void Conmutador::Desmarcar(Modulo modulo) {
+    tablero_.ActDesMenu(kMarca, DatosDe(modulo).clave, false);
+    tablero_.PresionarBoton(DatosDe(modulo).boton, false);
+}
+
+void Conmutador::CerrarModulo(Modulo modulo) {
+    Desmarcar(modulo);
+    ventanas_.Cerrar(modulo);
+}
+
+void Conmutador::CerrarModulos() {
+    for (const Modulo modulo : kOrdenCierre) {
+        if (Marcado(modulo))
+            CerrarModulo(modulo);
+    }
+}
+
+void Conmutador::AbrirModulo(Modulo modulo) {
+    CerrarModulos();
+    tablero_.ActDesMenu(kMarca, DatosDe(modulo).clave, true);
+    // A window that could not be made must not leave its entry checked.
+    auto sinVentana = qScopeGuard([this, modulo] { Desmarcar(modulo); });
+    ventanas_.Mostrar(modulo);
+    sinVentana.dismiss();
+    tablero_.PresionarBoton(DatosDe(modulo).boton, true);
+}
+
+void Conmutador::Ejecutar(Modulo modulo) {
+    const Manejador &manejador = ManejadorDe(modulo);
+    if (llamador_ == Opciones().llamador || llamador_ == Respaldo().llamador ||
+        llamador_ == manejador.estadisticas) {
+        Responder(modulo);
+        return;
+    }
+    if (!PuedeConmutar(manejador))
+        return;
+    if (Marcado(modulo))
+        CerrarModulo(modulo);
+    else
+        AbrirModulo(modulo);
+    puedeCerrar_ = false;
+}
+
+// Nothing is closed here: the caller does it.
+void Conmutador::Responder(Modulo modulo) {
+    puedeCerrar_ = !EnCurso(modulo) || Pregunta(DatosDe(modulo).alSalir);
+    if (!puedeCerrar_)
+        Pendiente(DatosDe(modulo).boton);
+}
+
+// The module that is open is told by its menu check, not by the buttons: after some refusals a second button
+// looks pressed, and an entry must not be lost because of it.
+bool Conmutador::PuedeConmutar(const Manejador &manejador) {
+    const Modulo propio = manejador.propio;
+    if (Marcado(propio)) {
+        if (!EnCurso(propio) || Pregunta(DatosDe(propio).alSalir))
+            return true;
+        Pendiente(DatosDe(propio).boton);
+        return false;
+    }
+    for (const Rechazo &otro : manejador.otros) {
+        if (EnCurso(otro.otro) && !PuedeDejar(otro))
+            return false;
+    }
+    return true;
+}
+
+bool Conmutador::PuedeDejar(const Rechazo &otro) {
+    if (!Pregunta(DatosDe(otro.otro).alSalir)) {
+        tablero_.PresionarBoton(otro.alNoSuelta, false);
+        Pendiente(otro.pendiente);
+        return false;
+    }
+    CerrarModulos();
+    for (const QString &boton : otro.alSiSuelta)
+        tablero_.PresionarBoton(boton, false);
+    return true;
+}
+
+void Conmutador::mnuOpciones() {
+    const auto fin = qScopeGuard([this] {
+        abrirDisenador_ = false;
+        tablero_.PresionarBoton(Opciones().boton, false);
+    });
+    if (Despejar(Opciones()))
+        ventanas_.MostrarOpciones(abrirDisenador_);
+}
+
+void Conmutador::mnuRespaldar() {
+    const auto fin = qScopeGuard([this] { tablero_.PresionarBoton(Respaldo().boton, false); });
+    if (Despejar(Respaldo()))
+        ventanas_.MostrarRespaldo();
+}
+
+void Conmutador::mnuFactura() {
+    abrirDisenador_ = true;
+    mnuOpciones();
+}
+
+// Closes the module of the first pressed button, with its questions; false when the operator refused.
+bool Conmutador::Despejar(const Dialogo &dialogo) {
+    for (const Modulo modulo : kOrdenDialogos) {
+        if (tablero_.BotonPresionado(DatosDe(modulo).boton))
+            return DespejarModulo(modulo, dialogo);
+    }
+    return true;
+}
+
+bool Conmutador::DespejarModulo(Modulo modulo, const Dialogo &dialogo) {
+    const QString aviso = QStringLiteral("Al ingresar a %1 se cerrará el %2.\nDesea continuar?")
+                              .arg(dialogo.ingreso, DatosDe(modulo).formulario);
+    if (!EnCurso(modulo) && !Pregunta(aviso))
+        return false;
+    if (modulo == Modulo::Estados) {
+        mnuEstadosClientes();
+        return true;
+    }
+    puedeCerrar_ = true;
+    llamador_ = dialogo.llamador;
+    Ejecutar(modulo);
+    llamador_.clear();
+    if (!puedeCerrar_)
+        return false;
+    puedeCerrar_ = false;
+    CerrarModulo(modulo);
+    return true;
+}
+
+bool Conmutador::AbrirEstados() {
+    if (!Marcado(Modulo::Estados))
+        mnuEstadosClientes();
+    return Marcado(Modulo::Estados);
+}
+
+void Conmutador::mnuDevContado() {
+    if (AbrirEstados())
+        ventanas_.EjecutarContado();
+}
+
+void Conmutador::mnuDevCliente() {
+    if (AbrirEstados())
+        ventanas_.EjecutarPorCliente();
+}
+
+void Conmutador::mnuCalc() {
+    if (tablero_.MenuMarcado(kCalculadora)) {
+        ventanas_.CerrarCalculadora();
+        CalculadoraCerrada();
+        return;
+    }
+    ventanas_.MostrarCalculadora();
+    tablero_.ActDesMenu(kMarca, kCalculadora, true);
+    tablero_.PresionarBoton(kCalculadora, true);
+}
+
+void Conmutador::CalculadoraCerrada() {
+    tablero_.ActDesMenu(kMarca, kCalculadora, false);
+    tablero_.PresionarBoton(kCalculadora, false);
+}
+
+} // namespace tarvo

@@ -1,0 +1,37 @@
+// Sizes of the main window, in twips (15 to the pixel): how big it starts on which screen, which toolbar
+// buttons a narrow one gives up, how wide the hint panel of the status bar is.
+#pragma once
+
+#include <optional>
+
+namespace tarvo {
+
+constexpr int kTwipsPorPixel = 15;
+constexpr int ATwips(int pixeles) {
+    return pixeles * kTwipsPorPixel;
+}
+constexpr int APixeles(int twips) {
+    return twips / kTwipsPorPixel;
+}
+
+struct Tamano {
+    int ancho = 0; // twips
+    int alto = 0;
+    bool operator==(const Tamano &) const = default;
+};
+
+struct TamanoInicial {
+    std::optional<Tamano> tamano; // none: the design size stays
+    bool maximizada = false;
+    bool operator==(const TamanoInicial &) const = default;
+};
+
+TamanoInicial TamanoPorPantalla(int anchoPantalla);
+
+// One row of buttons must do on a small screen.
+bool CabeSalir(int anchoVentana);
+bool CabeAyuda(int anchoVentana);
+
+int AnchoSeparador(int anchoVentana, bool maximizada);
+
+} // namespace tarvo

@@ -1,0 +1,127 @@
+// A workspace without windows: sets of checked entries, pressed buttons and open windows, with a log of what
+// the switching rule did and asked.
+#pragma once
+
+#include "shell/conmutador.h"
+
+#include <QSet>
+#include <QStringList>
+
+#include <algorithm>
+#include <array>
+#include <stdexcept>
+
+namespace tarvo {
+
+constexpr std::array kModulos{Modulo::Ventas,      Modulo::Articulos, Modulo::Clientes,
+                              Modulo::Proveedores, Modulo::Estados,   Modulo::Stats};
+
+inline QString Junta(const QSet<QString> &claves) {
+    QStringList lista(claves.begin(), claves.end());
+    std::sort(lista.begin(), lista.end());
+    return lista.join(QLatin1Char(' '));
+}
+
+class MesaPrueba : public TableroModulos, public VentanasModulos, public Preguntas {
+  public:
+    QSet<QString> marcadas, presionados, abiertas, conEntrada;
+    QStringList hechos; // "+ventas" and "-ventas" buttons, "abre ventas", "cierra ventas", ...
+    QStringList preguntadas;
+    Respuesta respuesta = Respuesta::No;
+    int ticksPedidos = 0;
+    bool fallaMostrar = false;
+    Conmutador conmutador{*this, *this, *this};
+
+    // The module as it is when it was opened by the rule.
+    void Abierta(Modulo modulo, bool entrada) {
+        const DatosModulo &datos = DatosDe(modulo);
+        marcadas += datos.clave;
+        abiertas += datos.clave;
+        presionados += datos.boton;
+        if (entrada)
+            conEntrada += datos.clave;
+    }
+
+    void PorTecla(Modulo modulo) {
+        using enum Modulo;
+        switch (modulo) {
+        case Ventas:
+            return conmutador.mnuVentas();
+        case Articulos:
+            return conmutador.mnuArticulos();
+        case Clientes:
+            return conmutador.mnuClientes();
+        case Proveedores:
+            return conmutador.mnuProveedores();
+        case Estados:
+            return conmutador.mnuEstadosClientes();
+        case Stats:
+            return conmutador.mnuStats();
+        }
+    }
+    // A click has toggled the button before the handler runs.
+    void PorClic(Modulo modulo) {
+        const QString boton = DatosDe(modulo).boton;
+        presionados.contains(boton) ? presionados -= boton : presionados += boton;
+        PorTecla(modulo);
+    }
+    void Tick() {
+        for (; ticksPedidos > 0; --ticksPedidos)
+            conmutador.Timer1_Timer();
+    }
+
+    bool MenuMarcado(const QString &clave) const override { return marcadas.contains(clave); }
+    void ActDesMenu(int tipo, const QString &clave, bool valor) override {
+        if (tipo != 2)
+            throw std::logic_error("the rule only checks entries");
+        valor ? marcadas += clave : marcadas -= clave;
+    }
+    bool BotonPresionado(const QString &boton) const override { return presionados.contains(boton); }
+    void PresionarBoton(const QString &boton, bool valor) override {
+        hechos += (valor ? QLatin1Char('+') : QLatin1Char('-')) + boton;
+        valor ? presionados += boton : presionados -= boton;
+    }
+    void IniciarTimer1() override { ticksPedidos = 1; }
+
+    bool EntradaEnCurso(Modulo modulo) const override { return conEntrada.contains(DatosDe(modulo).clave); }
+    void Mostrar(Modulo modulo) override {
+        if (fallaMostrar)
+            throw std::runtime_error("no window");
+        abiertas += DatosDe(modulo).clave;
+        hechos += QStringLiteral("abre ") + DatosDe(modulo).clave;
+    }
+    void Cerrar(Modulo modulo) override {
+        const QString clave = DatosDe(modulo).clave;
+        if (!abiertas.contains(clave))
+            return;
+        abiertas -= clave;
+        conEntrada -= clave;
+        hechos += QStringLiteral("cierra ") + clave;
+    }
+    void MostrarOpciones(bool abrirDisenador) override {
+        hechos += abrirDisenador ? QStringLiteral("opciones y diseñador") : QStringLiteral("opciones");
+    }
+    void MostrarRespaldo() override { hechos += QStringLiteral("respaldo"); }
+    void EjecutarContado() override { hechos += QStringLiteral("contado"); }
+    void EjecutarPorCliente() override { hechos += QStringLiteral("por cliente"); }
+    void MostrarCalculadora() override { hechos += QStringLiteral("abre calculadora"); }
+    void CerrarCalculadora() override { hechos += QStringLiteral("cierra calculadora"); }
+
+    Respuesta Preguntar(const QString &texto, Respuesta preseleccionada) override {
+        if (preseleccionada != Respuesta::No)
+            throw std::logic_error("No is the preselected answer of every question");
+        preguntadas += texto;
+        return respuesta;
+    }
+    void Mostrar(const QString &, Icono) override { throw std::logic_error("the rule shows no messages"); }
+
+    // Checks, windows and buttons all tell the same: this module and no other.
+    bool SoloAbierta(Modulo modulo) const {
+        const DatosModulo &datos = DatosDe(modulo);
+        return marcadas == QSet{datos.clave} && abiertas == QSet{datos.clave} &&
+               presionados == QSet{datos.boton};
+    }
+    bool Vacia() const { return marcadas.isEmpty() && abiertas.isEmpty() && presionados.isEmpty(); }
+};
+
+} // namespace tarvo

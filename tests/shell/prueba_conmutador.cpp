@@ -1,0 +1,345 @@
+#include "mesaprueba.h"
+
+#include <gtest/gtest.h>
+
+namespace tarvo {
+namespace {
+
+using enum Modulo;
+
+std::string Nombre(Modulo modulo) {
+    return DatosDe(modulo).boton.toStdString();
+}
+
+constexpr std::array kConEntrada{Ventas, Articulos, Clientes, Proveedores};
+
+TEST(Conmutador, QuestionsOfTheModulesAreTheseTexts) {
+    EXPECT_EQ(DatosDe(Ventas).alSalir, QStringLiteral("Confirma que desea salir sin completar la venta?"));
+    EXPECT_EQ(DatosDe(Articulos).alSalir,
+              QStringLiteral("Confirma que desea salir sin completar el ingreso del artículo?"));
+    EXPECT_EQ(DatosDe(Clientes).alSalir,
+              QStringLiteral("Confirma que desea salir sin completar el ingreso del cliente?"));
+    EXPECT_EQ(DatosDe(Proveedores).alSalir,
+              QStringLiteral("Confirma que desea salir sin completar el ingreso del proveedor?"));
+}
+
+// Every module open without an entry (or none) x every handler x click or key: no question is asked.
+TEST(Conmutador, SwitchesFreelyWithoutAnEntry) {
+    for (const bool clic : {true, false}) {
+        for (const Modulo propio : kModulos) {
+            for (const Modulo abierta : kModulos) {
+                SCOPED_TRACE(Nombre(abierta) + " open, " + Nombre(propio) + (clic ? " by click" : " by key"));
+                MesaPrueba mesa;
+                mesa.Abierta(abierta, false);
+                clic ? mesa.PorClic(propio) : mesa.PorTecla(propio);
+                mesa.Tick();
+                EXPECT_TRUE(abierta == propio ? mesa.Vacia() : mesa.SoloAbierta(propio));
+                EXPECT_TRUE(mesa.preguntadas.isEmpty());
+            }
+            MesaPrueba mesa;
+            clic ? mesa.PorClic(propio) : mesa.PorTecla(propio);
+            EXPECT_TRUE(mesa.SoloAbierta(propio)) << Nombre(propio);
+        }
+    }
+}
+
+// Every module with an entry x every handler, answered Yes: one question, and the handler's module is the one
+// open.
+TEST(Conmutador, YesGivesTheEntryUp) {
+    for (const bool clic : {true, false}) {
+        for (const Modulo propio : kModulos) {
+            for (const Modulo abierta : kConEntrada) {
+                SCOPED_TRACE(Nombre(abierta) + " in progress, " + Nombre(propio));
+                MesaPrueba mesa;
+                mesa.Abierta(abierta, true);
+                mesa.respuesta = Respuesta::Si;
+                clic ? mesa.PorClic(propio) : mesa.PorTecla(propio);
+                mesa.Tick();
+                EXPECT_EQ(mesa.preguntadas, QStringList{DatosDe(abierta).alSalir});
+                EXPECT_TRUE(abierta == propio ? mesa.Vacia() : mesa.SoloAbierta(propio));
+                EXPECT_FALSE(mesa.conmutador.puedeCerrar());
+            }
+        }
+    }
+}
+
+struct CasoNo {
+    Modulo propio;
+    Modulo abierta;
+    const char *trasClic; // buttons pressed when the click's handler has ended
+    const char *trasTick; // ... and one tick later
+    const char *porTecla; // ... one tick after the handler ran by its key
+};
+
+// The same answered No. Where two buttons end up pressed, that is how the program behaves.
+constexpr CasoNo kCasosNo[] = {
+    {Ventas, Ventas, "", "ventas", "ventas"},
+    {Ventas, Articulos, "articulos", "articulos ventas", "articulos ventas"},
+    {Ventas, Proveedores, "proveedores", "proveedores", "proveedores"},
+    {Ventas, Clientes, "clientes", "clientes", "clientes"},
+    {Articulos, Articulos, "", "articulos", "articulos"},
+    {Articulos, Ventas, "ventas", "ventas", "ventas"},
+    {Articulos, Clientes, "clientes", "clientes", "clientes"},
+    {Articulos, Proveedores, "proveedores", "proveedores", "proveedores"},
+    {Clientes, Clientes, "", "clientes", "clientes"},
+    {Clientes, Ventas, "ventas", "ventas", "ventas"},
+    {Clientes, Articulos, "articulos", "articulos", "articulos"},
+    {Clientes, Proveedores, "clientes proveedores", "clientes proveedores", "proveedores"},
+    {Proveedores, Proveedores, "", "proveedores", "proveedores"},
+    {Proveedores, Ventas, "ventas", "ventas", "ventas"},
+    {Proveedores, Articulos, "articulos", "articulos", "articulos"},
+    {Proveedores, Clientes, "clientes", "clientes", "clientes"},
+    {Estados, Ventas, "ventas", "ventas", "ventas"},
+    {Estados, Articulos, "articulos", "articulos clientes", "articulos clientes"},
+    {Estados, Proveedores, "proveedores", "proveedores", "proveedores"},
+    {Estados, Clientes, "clientes", "clientes", "clientes"},
+    {Stats, Ventas, "ventas", "ventas", "ventas"},
+    {Stats, Articulos, "articulos", "articulos", "articulos"},
+    {Stats, Proveedores, "proveedores", "proveedores ventas", "proveedores ventas"},
+    {Stats, Clientes, "clientes", "clientes", "clientes"},
+};
+
+TEST(Conmutador, NoKeepsTheEntryAndPutsTheToolbarBack) {
+    for (const CasoNo &caso : kCasosNo) {
+        for (const bool clic : {true, false}) {
+            SCOPED_TRACE(Nombre(caso.abierta) + " in progress, " + Nombre(caso.propio));
+            MesaPrueba mesa;
+            mesa.Abierta(caso.abierta, true);
+            clic ? mesa.PorClic(caso.propio) : mesa.PorTecla(caso.propio);
+            EXPECT_EQ(mesa.preguntadas, QStringList{DatosDe(caso.abierta).alSalir});
+            if (clic) {
+                EXPECT_EQ(Junta(mesa.presionados), QLatin1String(caso.trasClic));
+            }
+            mesa.Tick();
+            EXPECT_EQ(Junta(mesa.presionados), QLatin1String(clic ? caso.trasTick : caso.porTecla));
+            EXPECT_TRUE(mesa.conmutador.botonPendiente().isEmpty());
+            EXPECT_EQ(Junta(mesa.marcadas), DatosDe(caso.abierta).clave);
+            EXPECT_EQ(mesa.abiertas, mesa.conEntrada);
+        }
+    }
+}
+
+// A customer refused while a supplier is typed leaves two buttons pressed; the supplier is still asked about.
+TEST(Conmutador, StrayButtonDoesNotLoseAnEntry) {
+    MesaPrueba mesa;
+    mesa.Abierta(Proveedores, true);
+    mesa.PorClic(Clientes);
+    mesa.Tick();
+    mesa.PorClic(Proveedores);
+    EXPECT_EQ(mesa.preguntadas.size(), 2);
+    EXPECT_EQ(Junta(mesa.abiertas), QStringLiteral("proveedores"));
+}
+
+TEST(Conmutador, YesUnpressesTheStatementsButtonInSomeHandlers) {
+    const auto trasSi = [](Modulo propio, Modulo abierta) {
+        MesaPrueba mesa;
+        mesa.Abierta(abierta, true);
+        mesa.presionados += QStringLiteral("estado");
+        mesa.respuesta = Respuesta::Si;
+        mesa.PorTecla(propio);
+        return mesa.hechos.contains(QStringLiteral("-estado"));
+    };
+    EXPECT_TRUE(trasSi(Ventas, Articulos));
+    EXPECT_TRUE(trasSi(Ventas, Proveedores));
+    EXPECT_FALSE(trasSi(Ventas, Clientes));
+    EXPECT_TRUE(trasSi(Estados, Proveedores));
+    EXPECT_FALSE(trasSi(Estados, Articulos));
+    EXPECT_FALSE(trasSi(Articulos, Proveedores));
+}
+
+TEST(Conmutador, AsksTheOtherModulesInTheHandlersOrder) {
+    const std::vector<std::pair<Modulo, std::vector<Modulo>>> ordenes{
+        {Articulos, {Ventas, Clientes, Proveedores}},
+        {Clientes, {Ventas, Articulos, Proveedores}},
+        {Proveedores, {Ventas, Articulos, Clientes}},
+        {Ventas, {Articulos, Proveedores, Clientes}},
+        {Estados, {Ventas, Articulos, Proveedores, Clientes}},
+        {Stats, {Ventas, Articulos, Proveedores, Clientes}},
+    };
+    for (const auto &[propio, otros] : ordenes) {
+        for (std::size_t primero = 0; primero < otros.size(); ++primero) {
+            MesaPrueba mesa;
+            for (std::size_t i = primero; i < otros.size(); ++i)
+                mesa.Abierta(otros[i], true);
+            mesa.PorTecla(propio);
+            EXPECT_EQ(mesa.preguntadas, QStringList{DatosDe(otros[primero]).alSalir}) << Nombre(propio);
+        }
+    }
+}
+
+TEST(Conmutador, EntryOfAnUncheckedModuleDoesNotCount) {
+    MesaPrueba mesa;
+    mesa.conEntrada += QStringLiteral("ventas");
+    mesa.PorClic(Articulos);
+    EXPECT_TRUE(mesa.preguntadas.isEmpty());
+}
+
+TEST(Conmutador, ClosesAllInItsOrderWithoutAQuestion) {
+    MesaPrueba mesa;
+    for (const Modulo modulo : kModulos)
+        mesa.Abierta(modulo, true);
+    mesa.conmutador.CerrarModulos();
+    QStringList cerradas = mesa.hechos.filter(QStringLiteral("cierra "));
+    EXPECT_EQ(cerradas.replaceInStrings(QStringLiteral("cierra "), QString()).join(QLatin1Char(' ')),
+              QStringLiteral("stats clientes articulos estado ventas proveedores"));
+    EXPECT_TRUE(mesa.Vacia());
+    EXPECT_TRUE(mesa.preguntadas.isEmpty());
+}
+
+TEST(Conmutador, WindowThatFailsToOpenLeavesNothingChecked) {
+    MesaPrueba mesa;
+    mesa.fallaMostrar = true;
+    EXPECT_THROW(mesa.PorClic(Ventas), std::runtime_error);
+    EXPECT_TRUE(mesa.Vacia());
+}
+
+struct CasoDialogo {
+    Modulo abierta;
+    const char *opciones;
+    const char *respaldo;
+};
+
+const CasoDialogo kDialogos[] = {
+    {Ventas, "Al ingresar a las opciones del programa se cerrará el formulario de ventas.\nDesea continuar?",
+     "Al ingresar a las opciones de respaldo se cerrará el formulario de ventas.\nDesea continuar?"},
+    {Estados,
+     "Al ingresar a las opciones del programa se cerrará el formulario de estados de cuenta.\nDesea "
+     "continuar?",
+     "Al ingresar a las opciones de respaldo se cerrará el formulario de estados de cuenta.\nDesea "
+     "continuar?"},
+    {Articulos,
+     "Al ingresar a las opciones del programa se cerrará el formulario de artículos.\nDesea continuar?",
+     "Al ingresar a las opciones de respaldo se cerrará el formulario de artículos.\nDesea continuar?"},
+    {Proveedores,
+     "Al ingresar a las opciones del programa se cerrará el formulario de proveedores.\nDesea continuar?",
+     "Al ingresar a las opciones de respaldo se cerrará el formulario de proveedores.\nDesea continuar?"},
+    {Clientes,
+     "Al ingresar a las opciones del programa se cerrará el formulario de clientes.\nDesea continuar?",
+     "Al ingresar a las opciones de respaldo se cerrará el formulario de clientes.\nDesea continuar?"},
+};
+
+// With an entry in progress only the module's own question is asked, else only the dialog's.
+TEST(ConmutadorDialogos, AskOnceAndCloseTheModuleOnYes) {
+    for (const CasoDialogo &caso : kDialogos) {
+        for (const bool opciones : {true, false}) {
+            for (const bool entrada : {true, false}) {
+                if (entrada && caso.abierta == Estados)
+                    continue;
+                for (const Respuesta respuesta : {Respuesta::Si, Respuesta::No}) {
+                    SCOPED_TRACE(Nombre(caso.abierta) + (opciones ? ", options" : ", backup") +
+                                 (entrada ? ", entry" : "") +
+                                 (respuesta == Respuesta::Si ? ", Yes" : ", No"));
+                    MesaPrueba mesa;
+                    mesa.Abierta(caso.abierta, entrada);
+                    mesa.presionados += opciones ? QStringLiteral("config") : QStringLiteral("respaldar");
+                    mesa.respuesta = respuesta;
+                    opciones ? mesa.conmutador.mnuOpciones() : mesa.conmutador.mnuRespaldar();
+                    mesa.Tick();
+                    const QString aviso = QString::fromUtf8(opciones ? caso.opciones : caso.respaldo);
+                    EXPECT_EQ(mesa.preguntadas, QStringList{entrada ? DatosDe(caso.abierta).alSalir : aviso});
+                    const bool abierto = mesa.hechos.contains(opciones ? QStringLiteral("opciones")
+                                                                       : QStringLiteral("respaldo"));
+                    EXPECT_EQ(abierto, respuesta == Respuesta::Si);
+                    EXPECT_TRUE(abierto ? mesa.Vacia() : mesa.SoloAbierta(caso.abierta));
+                    EXPECT_EQ(!abierto && entrada, !mesa.conEntrada.isEmpty());
+                    // The caller is gone: the handler opens and closes again.
+                    mesa.respuesta = Respuesta::Si;
+                    mesa.PorTecla(caso.abierta);
+                    EXPECT_EQ(mesa.Vacia(), !abierto);
+                }
+            }
+        }
+    }
+}
+
+TEST(ConmutadorDialogos, OpenAtOnceWithNoModuleOrWithStatistics) {
+    for (const bool conStats : {true, false}) {
+        MesaPrueba mesa;
+        if (conStats)
+            mesa.Abierta(Stats, false);
+        mesa.conmutador.mnuOpciones();
+        mesa.conmutador.mnuRespaldar();
+        EXPECT_TRUE(mesa.preguntadas.isEmpty());
+        EXPECT_TRUE(mesa.hechos.contains(QStringLiteral("opciones")));
+        EXPECT_TRUE(mesa.hechos.contains(QStringLiteral("respaldo")));
+        EXPECT_EQ(mesa.abiertas.size(), conStats ? 1 : 0);
+    }
+}
+
+TEST(ConmutadorDialogos, ActOnTheFirstPressedButton) {
+    MesaPrueba mesa;
+    mesa.Abierta(Articulos, true);
+    mesa.presionados += QStringLiteral("ventas"); // as a refused sale leaves it
+    mesa.conmutador.mnuOpciones();
+    EXPECT_EQ(mesa.preguntadas, QStringList{QString::fromUtf8(kDialogos[0].opciones)});
+}
+
+TEST(ConmutadorDialogos, DesignerIsAskedForOnceOnly) {
+    MesaPrueba mesa;
+    mesa.conmutador.mnuFactura();
+    mesa.conmutador.mnuOpciones();
+    EXPECT_EQ(mesa.hechos.filter(QStringLiteral("opciones")),
+              (QStringList{QStringLiteral("opciones y diseñador"), QStringLiteral("opciones")}));
+
+    MesaPrueba negada;
+    negada.Abierta(Ventas, true);
+    negada.conmutador.mnuFactura();
+    EXPECT_TRUE(negada.hechos.filter(QStringLiteral("opciones")).isEmpty());
+    EXPECT_EQ(negada.preguntadas, QStringList{DatosDe(Ventas).alSalir});
+    EXPECT_TRUE(negada.SoloAbierta(Ventas));
+    negada.respuesta = Respuesta::Si;
+    negada.conmutador.mnuOpciones();
+    EXPECT_EQ(negada.hechos.filter(QStringLiteral("opciones")), QStringList{QStringLiteral("opciones")});
+}
+
+// The suppliers' handler knows the third caller in another spelling, and so acts as if nobody had called it.
+TEST(ConmutadorLlamador, OnlyAnswersWhetherTheModuleMayClose) {
+    for (const Modulo modulo : kModulos) {
+        SCOPED_TRACE(Nombre(modulo));
+        MesaPrueba mesa;
+        mesa.Abierta(modulo, false);
+        mesa.conmutador.PonerLlamador(QStringLiteral("estadisticas"));
+        mesa.PorTecla(modulo);
+        EXPECT_EQ(mesa.Vacia(), modulo == Proveedores);
+        EXPECT_EQ(mesa.conmutador.puedeCerrar(), modulo != Proveedores);
+    }
+    MesaPrueba mesa;
+    mesa.Abierta(Proveedores, true);
+    mesa.conmutador.PonerLlamador(QStringLiteral("estadísticas"));
+    mesa.PorTecla(Proveedores);
+    EXPECT_FALSE(mesa.conmutador.puedeCerrar());
+    EXPECT_EQ(mesa.conmutador.botonPendiente(), QStringLiteral("proveedores"));
+    EXPECT_TRUE(mesa.SoloAbierta(Proveedores));
+}
+
+TEST(ConmutadorDevoluciones, OpenTheStatementsOnlyWhenTheyAreClosed) {
+    MesaPrueba mesa;
+    mesa.conmutador.mnuDevContado();
+    mesa.conmutador.mnuDevCliente();
+    EXPECT_EQ(mesa.hechos, (QStringList{QStringLiteral("abre estado"), QStringLiteral("+estado"),
+                                        QStringLiteral("contado"), QStringLiteral("por cliente")}));
+
+    MesaPrueba negada;
+    negada.Abierta(Ventas, true);
+    negada.conmutador.mnuDevContado();
+    EXPECT_FALSE(negada.hechos.contains(QStringLiteral("contado")));
+    EXPECT_EQ(Junta(negada.abiertas), QStringLiteral("ventas"));
+}
+
+TEST(ConmutadorCalculadora, TogglesBesideAnyModule) {
+    MesaPrueba mesa;
+    mesa.Abierta(Ventas, true);
+    mesa.conmutador.mnuCalc();
+    EXPECT_EQ(Junta(mesa.marcadas), QStringLiteral("calculadora ventas"));
+    EXPECT_EQ(Junta(mesa.presionados), QStringLiteral("calculadora ventas"));
+    mesa.conmutador.mnuCalc();
+    EXPECT_TRUE(mesa.SoloAbierta(Ventas));
+    mesa.conmutador.mnuCalc();
+    mesa.conmutador.CalculadoraCerrada(); // closed by its own means
+    EXPECT_TRUE(mesa.SoloAbierta(Ventas));
+    EXPECT_EQ(mesa.hechos.count(QStringLiteral("cierra calculadora")), 1);
+    EXPECT_TRUE(mesa.preguntadas.isEmpty());
+}
+
+} // namespace
+} // namespace tarvo
