@@ -1,0 +1,64 @@
+// The built program as a process, in a folder of its own, driven by keys.
+#pragma once
+
+#include "programa/pantalla.h"
+
+#include <QProcess>
+
+#include <string>
+#include <vector>
+
+namespace tarvo {
+
+// A folder with a copy of the program; settings and data of the user lie in it too.
+class Carpeta {
+  public:
+    Carpeta();
+    QString Ruta(const char *nombre) const { return raiz_.filePath(QLatin1String(nombre)); }
+    QString Raiz() const { return raiz_.path(); }
+    // Rows of a query on one of the five files, which the program must have closed: cells as text.
+    std::vector<std::vector<std::string>> Filas(const char *archivo, const char *consulta) const;
+    std::string Valor(const char *archivo, const char *consulta) const;
+
+  private:
+    QTemporaryDir raiz_;
+};
+
+class ProgramaEnPantalla {
+  public:
+    explicit ProgramaEnPantalla(const Carpeta &carpeta);
+    ~ProgramaEnPantalla();
+    ProgramaEnPantalla(const ProgramaEnPantalla &) = delete;
+    ProgramaEnPantalla &operator=(const ProgramaEnPantalla &) = delete;
+
+    // Until the splash is gone and the main window has the keyboard.
+    void EsperarPrincipal();
+    // Until a window other than the main one has the keyboard: a question, a message, a dialog. A window that
+    // was there before doesn't count.
+    void EsperarCuadro();
+    // Until the main window has the keyboard again.
+    void EsperarVuelta();
+    // Keys by their X names, in turn.
+    void Teclas(const QStringList &teclas);
+    void Escribir(const QString &texto);
+    // What a barcode scanner sends, and the Enter that adds the article.
+    void Escanear(const std::string &codigo);
+    void Foto(const QString &archivo) const;
+
+    QStringList VentanasVisibles() const;
+    bool HayVentanaPrincipal() const { return !BuscarPrincipal().isEmpty(); }
+    // Waits for the end of the process by itself.
+    int CodigoSalida();
+    void Matar();
+    // Alt+F4, until the process has ended.
+    void Cerrar();
+
+  private:
+    QString BuscarPrincipal() const;
+    QString Activa() const;
+    QProcess proceso_;
+    QString principal_;
+    QString cuadro_;
+};
+
+} // namespace tarvo
