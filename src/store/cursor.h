@@ -1,9 +1,10 @@
 // The table cursor and its column fields: the only way to the rows of a table.
 //
-// A cursor has one current row, or none (before the first move, on an empty table, behind the last row).
-// Columns are loaded into memory when they are first touched; own writes are applied to that copy, so that
-// `Refresh` with nothing changed reloads nothing. A write of a field is a pending edit of the current row: it
-// reaches the file with the next move or `Refresh`, in the transaction that is open or in one of its own.
+// A cursor has one current row, or none (on an empty table, behind the last row). It is the first row when
+// the cursor has been opened, and again when a transaction that it wrote in was taken back. Columns are
+// loaded into memory when they are first touched; own writes are applied to that copy, so that `Refresh` with
+// nothing changed reloads nothing. A write of a field is a pending edit of the current row: it reaches the
+// file with the next move or `Refresh`, in the transaction that is open or in one of its own.
 #pragma once
 
 #include "store/columna.h"
@@ -11,8 +12,8 @@
 #include <QString>
 
 #include <initializer_list>
-#include <map>
 #include <memory>
+#include <string>
 #include <vector>
 
 namespace tarvo {
@@ -47,15 +48,17 @@ class Campo {
 
   private:
     friend class Cursor;
+    std::string_view TextoId() const;
+
     Cursor *cursor_;
     const char *nombre_;
-    int indice_; // position in the cursor's columns; -1 is `id`
+    int posicion_; // position in the cursor's columns; -1 is `id`
 };
 
 class Cursor {
   public:
-    // `esquema` is the attached name of the file ("main" for config), `tabla` its table, `indice` the name that
-    // Index accepts (empty: the table has none).
+    // `esquema` is the attached name of the file ("main" for config), `tabla` its table, `indice` the name
+    // that Index accepts (empty: the table has none).
     Cursor(const char *esquema, const char *tabla, const char *indice = "");
     ~Cursor();
     Cursor(const Cursor &) = delete;
@@ -76,7 +79,8 @@ class Cursor {
     void Delete();
     void Index(const QString &nombre);
     // With "=" and a value: the row with that id becomes current; false, and no row is current, when there is
-    // none. Costs the same on a table of any size.
+    // none. Costs the same on a table of any size. Needs Index before it, and "=": throws ErrorDatos(kIndice)
+    // else.
     bool Seek(const QString &comparacion, const QString &valor);
 
     bool Abierto() const { return conexion_ != nullptr; }
@@ -96,10 +100,23 @@ class Cursor {
     void Invalidar();
     // Commits a pending edit of an existing row; a pending new row is dropped.
     void CerrarEdicion();
+    // Commits a pending edit of an existing row; a pending new row stays pending.
+    void ConfirmarEdicion();
+    // Drops a pending edit or new row.
+    void DescartarEdicion();
+    // "ventas"."Ventas", for the engine.
+    std::string NombreCompleto() const;
 
   private:
     friend class Campo;
     struct Datos;
+    std::int64_t Filas();
+    void Cargar(const std::vector<int> &posiciones);
+    void Guardar();
+    void GuardarNueva();
+    void GuardarEdicion();
+    void ExigirFila() const;
+
     Conexion *conexion_ = nullptr;
     const char *esquema_;
     const char *tabla_;
@@ -108,7 +125,8 @@ class Cursor {
     std::unique_ptr<Datos> d_;
 };
 
-// The walk: from the first row until `cumple` is true, which leaves that row current. False when no row matches.
+// The walk: from the first row until `cumple` is true, which leaves that row current. False when no row
+// matches.
 template <typename Condicion> bool Recorrer(Cursor &cursor, Condicion cumple) {
     const int filas = cursor.RecordCount();
     if (filas == 0)

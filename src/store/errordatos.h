@@ -1,4 +1,5 @@
-// The one error that the data layer throws: a number that handlers test and a text in Spanish for the operator.
+// The one error that the data layer throws: a number that handlers test and a text in Spanish for the
+// operator.
 #pragma once
 
 #include <QString>
@@ -15,9 +16,10 @@ constexpr int kImagenInvalida = 481;
 constexpr int kImpresora = 482;
 constexpr int kBaseBloqueada = 3008;
 constexpr int kBaseNoEncontrada = 3024;
-constexpr int kBaseIlegible = 3049;   // not a database, damaged, a table or column is missing
-constexpr int kEscritura = 3027;      // the disk refused a write: full, read-only, input/output error
-constexpr int kSinRegistro = 3021;    // a field was written while no row is current
+constexpr int kBaseIlegible = 3049; // not a database, damaged, a table or column is missing
+constexpr int kEscritura = 3027;    // the disk refused a write: full, read-only, input/output error
+constexpr int kIndice = 3015;       // Index with a name that the table doesn't have, or Seek without Index
+constexpr int kSinRegistro = 3021;  // a field was written while no row is current
 constexpr int kDialogoCancelado = 32755;
 } // namespace errores
 

@@ -8,9 +8,10 @@
 
 namespace tarvo {
 
-// The folder `Datos` to work on: the one beside the program when it exists or can be made there, else the one of
-// the per-user data folder. Makes it, with its templates in `vacio`, when there is none: whole or not at all, and
-// never inside a folder that exists. Throws ErrorDatos(kAccesoRuta) when neither place can be written.
+// The folder `Datos` to work on: the one beside the program when it exists or can be made there, else the one
+// of the per-user data folder. Makes it, with its templates in `vacio`, when there is none: whole or not at
+// all, and never inside a folder that exists. Throws ErrorDatos(kAccesoRuta) when neither place can be
+// written.
 QString PrepararDatos(const QString &carpetaPrograma, const QString &carpetaUsuario);
 
 // Separator and symbol: the settings "sDecimal" and "sCurrency" when they are set, else the locale of the

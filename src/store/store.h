@@ -1,8 +1,8 @@
 // The data layer: `frmBases`, one object for the life of the program, with one open cursor per table.
 //
-// The five files (config, clientes, proveedores, articulos, ventas, each ".mdb") are SQLite files in the folder
-// `Datos`. They are opened as one connection, exclusively; docs/datos.md tells the tables and the file format.
-// The layer never asks the operator anything: what fails is returned or thrown.
+// The five files (config, clientes, proveedores, articulos, ventas, each ".mdb") are SQLite files in the
+// folder `Datos`. They are opened as one connection, exclusively; docs/datos.md tells the tables and the file
+// format. The layer never asks the operator anything: what fails is returned or thrown.
 #pragma once
 
 #include "store/cursor.h"
@@ -24,8 +24,10 @@ enum class EstadoApertura {
 
 struct ResultadoApertura {
     EstadoApertura estado = EstadoApertura::Completa;
-    QString archivo; // name of the file that failed, "clientes.mdb"; empty when all opened
-    QString motivo;  // what was wrong with it, in Spanish
+    // Name of the file that failed, "clientes.mdb"; empty when all opened, and when one of them is busy and
+    // the engine doesn't tell which.
+    QString archivo;
+    QString motivo; // what was wrong with it, in Spanish
 };
 
 class FrmBases {
@@ -51,6 +53,9 @@ class FrmBases {
 
   private:
     friend class Transaccion;
+    friend class DatosPrueba; // tests read the open files through the connection that holds them
+    void AbrirTablas(ResultadoApertura &resultado);
+
     QString carpeta_;
     Moneda moneda_;
     std::unique_ptr<Conexion> conexion_;

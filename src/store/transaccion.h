@@ -1,8 +1,8 @@
 // One action of the operator that writes: everything of it is in all files, or nothing is.
 //
-// Open it before the first write and call Confirmar when the action is whole; without that, or after an error,
-// its end takes everything back and the cursors forget what they had in memory. Nothing interactive belongs
-// between the two. Transactions don't nest.
+// Open it before the first write and call Confirmar when the action is whole; without that, or after an
+// error, its end takes everything back and the cursors forget what they had in memory. Nothing interactive
+// belongs between the two. Transactions don't nest.
 #pragma once
 
 namespace tarvo {

@@ -1,0 +1,145 @@
+#include "store/conexion.h"
+
+#include "store/cursor.h"
+
+#include <QFileInfo>
+#include <QUrl>
+
+#include <algorithm>
+#include <sqlite3.h>
+
+namespace tarvo {
+
+namespace {
+
+std::string Uri(const QString &archivo) {
+    const QByteArray ruta = QUrl::toPercentEncoding(QFileInfo(archivo).absoluteFilePath(), "/");
+    return "file:" + ruta.toStdString() + "?mode=rw";
+}
+
+// What the engine would create, or read as an empty database, is refused before it sees it.
+const QString &Existente(const QString &archivo) {
+    const QFileInfo info(archivo);
+    if (!info.exists())
+        throw ErrorDatos(errores::kBaseNoEncontrada, QStringLiteral("El archivo no existe."));
+    if (!info.isFile())
+        throw ErrorDatos(errores::kBaseIlegible, QStringLiteral("No es un archivo."));
+    if (info.size() == 0)
+        throw ErrorDatos(errores::kBaseIlegible, QStringLiteral("El archivo está vacío."));
+    return archivo;
+}
+
+ErrorDatos ErrorLectura(const SQLite::Exception &error) {
+    return tarvo::ErrorLectura(error.getExtendedErrorCode(), error.what());
+}
+
+SQLite::Database AbrirBase(const QString &archivo) {
+    try {
+        constexpr int kModo = SQLITE_OPEN_READWRITE | SQLITE_OPEN_URI | SQLITE_OPEN_NOMUTEX;
+        return SQLite::Database(Uri(Existente(archivo)), kModo);
+    } catch (const SQLite::Exception &error) {
+        throw ErrorLectura(error);
+    }
+}
+
+} // namespace
+
+Conexion::Conexion(const QString &archivo) : base_(AbrirBase(archivo)) {
+    sqlite3_extended_result_codes(base_.getHandle(), 1);
+    Asegurar(archivo, "main");
+}
+
+void Conexion::Adjuntar(const QString &archivo, const char *esquema) {
+    Existente(archivo);
+    try {
+        SQLite::Statement sentencia(base_, std::string("ATTACH ? AS ") + esquema);
+        sentencia.bind(1, Uri(archivo));
+        sentencia.exec();
+    } catch (const SQLite::Exception &error) {
+        throw ErrorLectura(error);
+    }
+    try {
+        Asegurar(archivo, esquema);
+    } catch (const ErrorDatos &) {
+        Separar(esquema);
+        throw;
+    }
+}
+
+void Conexion::Separar(const char *esquema) {
+    try {
+        base_.exec(std::string("DETACH ") + esquema);
+    } catch (const SQLite::Exception &error) {
+        throw ErrorLectura(error);
+    }
+}
+
+std::string Conexion::Pragma(const char *esquema, const char *texto) {
+    std::string valor;
+    Recorrer(std::string("PRAGMA ") + esquema + "." + texto, [&](sqlite3_stmt *sentencia) {
+        const auto *celda = reinterpret_cast<const char *>(sqlite3_column_text(sentencia, 0));
+        valor = celda == nullptr ? "" : celda;
+    });
+    return valor;
+}
+
+// Sets and reads back how the file is held; the first reading of it shows whether it is a database at all.
+void Conexion::Asegurar(const QString &archivo, const char *esquema) {
+    Pragma(esquema, "locking_mode=EXCLUSIVE");
+    const std::int64_t paginas = std::stoll("0" + Pragma(esquema, "page_count"));
+    const std::int64_t tamano = std::stoll("0" + Pragma(esquema, "page_size"));
+    if (QFileInfo(archivo).size() < paginas * tamano)
+        throw ErrorDatos(errores::kBaseIlegible, QStringLiteral("El archivo está cortado."));
+    if (sqlite3_db_readonly(base_.getHandle(), esquema) != 0)
+        throw ErrorDatos(errores::kEscritura, QStringLiteral("El archivo es de solo lectura."));
+    Pragma(esquema, "journal_mode=TRUNCATE");
+    Pragma(esquema, "synchronous=FULL");
+    if (Pragma(esquema, "locking_mode") != "exclusive" || Pragma(esquema, "journal_mode") != "truncate" ||
+        Pragma(esquema, "synchronous") != "2")
+        throw ErrorDatos(errores::kBaseIlegible,
+                         QStringLiteral("El archivo no se puede abrir de forma segura."));
+}
+
+void Conexion::Bloquear() {
+    try {
+        base_.exec("BEGIN EXCLUSIVE");
+        base_.exec("COMMIT");
+    } catch (const SQLite::Exception &error) {
+        throw ErrorLectura(error);
+    }
+}
+
+void Conexion::ComprobarTabla(const char *esquema, const char *tabla,
+                              const std::vector<const char *> &columnas) {
+    const auto nombre = QString::fromUtf8(tabla);
+    int clave = 0;
+    const char *tipo = nullptr;
+    const auto hay = [&](const char *columna) {
+        return sqlite3_table_column_metadata(base_.getHandle(), esquema, tabla, columna, &tipo, nullptr,
+                                             nullptr, &clave, nullptr) == SQLITE_OK;
+    };
+    if (!hay(nullptr))
+        throw ErrorDatos(errores::kBaseIlegible, QStringLiteral("Falta la tabla %1.").arg(nombre));
+    for (const char *columna : columnas)
+        if (!hay(columna))
+            throw ErrorDatos(errores::kBaseIlegible, QStringLiteral("Falta la columna %1 de la tabla %2.")
+                                                         .arg(QString::fromUtf8(columna), nombre));
+    if (!hay("id") || clave == 0 || sqlite3_stricmp(tipo, "INTEGER") != 0)
+        throw ErrorDatos(errores::kBaseIlegible,
+                         QStringLiteral("La tabla %1 no tiene el contador id.").arg(nombre));
+}
+
+Conexion::Sentencia Conexion::Preparar(const std::string &sql) {
+    sqlite3_stmt *sentencia = nullptr;
+    const int codigo =
+        sqlite3_prepare_v2(base_.getHandle(), sql.c_str(), static_cast<int>(sql.size()), &sentencia, nullptr);
+    if (codigo != SQLITE_OK)
+        throw tarvo::ErrorLectura(codigo, base_.getErrorMsg());
+    return Sentencia(sentencia);
+}
+
+void Conexion::Baja(Cursor &cursor) {
+    cursores_.erase(std::remove(cursores_.begin(), cursores_.end(), &cursor), cursores_.end());
+}
+
+} // namespace tarvo

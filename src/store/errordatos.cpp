@@ -1,0 +1,62 @@
+// The engine's result codes in words for the operator.
+#include "store/errordatos.h"
+
+#include "store/conexion.h"
+
+#include <sqlite3.h>
+
+namespace tarvo {
+
+namespace {
+
+QString Motivo(int codigo, const char *mensaje) {
+    switch (codigo & 0xff) {
+    case SQLITE_FULL:
+        return QStringLiteral("el disco está lleno");
+    case SQLITE_READONLY:
+        return QStringLiteral("el archivo es de solo lectura");
+    case SQLITE_IOERR:
+        return QStringLiteral("error de entrada o salida");
+    case SQLITE_CANTOPEN:
+        return QStringLiteral("no se puede abrir un archivo");
+    case SQLITE_PERM:
+    case SQLITE_AUTH:
+        return QStringLiteral("acceso denegado");
+    case SQLITE_NOTADB:
+        return QStringLiteral("el archivo no es una base de datos");
+    case SQLITE_CORRUPT:
+        return QStringLiteral("el archivo está dañado");
+    case SQLITE_NOMEM:
+        return QStringLiteral("no hay memoria suficiente");
+    case SQLITE_TOOBIG:
+        return QStringLiteral("el texto es demasiado largo");
+    default:
+        return QString::fromUtf8(mensaje);
+    }
+}
+
+bool Ocupada(int codigo) {
+    return (codigo & 0xff) == SQLITE_BUSY || (codigo & 0xff) == SQLITE_LOCKED;
+}
+
+ErrorDatos Bloqueada() {
+    return {errores::kBaseBloqueada, QStringLiteral("La base de datos está abierta en modo exclusivo.")};
+}
+
+} // namespace
+
+ErrorDatos ErrorLectura(int codigo, const char *mensaje) {
+    if (Ocupada(codigo))
+        return Bloqueada();
+    return {errores::kBaseIlegible,
+            QStringLiteral("No se pudo leer la base de datos: %1.").arg(Motivo(codigo, mensaje))};
+}
+
+ErrorDatos ErrorEscritura(int codigo, const char *mensaje) {
+    if (Ocupada(codigo))
+        return Bloqueada();
+    return {errores::kEscritura,
+            QStringLiteral("No se pudo escribir en la base de datos: %1.").arg(Motivo(codigo, mensaje))};
+}
+
+} // namespace tarvo

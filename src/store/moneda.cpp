@@ -1,0 +1,207 @@
+#include "store/moneda.h"
+
+#include <array>
+#include <charconv>
+#include <cmath>
+
+namespace tarvo {
+
+namespace {
+
+bool EsDigito(char c) {
+    return c >= '0' && c <= '9';
+}
+
+bool EsSeparador(char c) {
+    return c == '.' || c == ',';
+}
+
+std::string_view Recortar(std::string_view texto) {
+    const auto inicio = texto.find_first_not_of(" \t\r\n");
+    if (inicio == std::string_view::npos)
+        return {};
+    return texto.substr(inicio, texto.find_last_not_of(" \t\r\n") - inicio + 1);
+}
+
+std::string_view Vista(const QByteArray &bytes) {
+    return {bytes.constData(), static_cast<std::size_t>(bytes.size())};
+}
+
+// A decimal number as its digits stand in a text.
+struct Decimal {
+    bool negativo = false;
+    std::string_view enteros;
+    std::string_view decimales;
+};
+
+// The number at the start of `texto`, whose decimal separator is one that `separa` accepts; returns how many
+// bytes it takes, 0 when there is none.
+template <typename Separador> std::size_t Leer(std::string_view texto, Separador separa, Decimal &numero) {
+    std::size_t i = 0;
+    if (i < texto.size() && (texto[i] == '-' || texto[i] == '+'))
+        numero.negativo = texto[i++] == '-';
+    std::size_t inicio = i;
+    while (i < texto.size() && EsDigito(texto[i]))
+        ++i;
+    numero.enteros = texto.substr(inicio, i - inicio);
+    if (i < texto.size() && separa(texto[i])) {
+        inicio = ++i;
+        while (i < texto.size() && EsDigito(texto[i]))
+            ++i;
+        numero.decimales = texto.substr(inicio, i - inicio);
+    }
+    return numero.enteros.empty() && numero.decimales.empty() ? 0 : i;
+}
+
+double Valor(const Decimal &numero) {
+    std::string texto(numero.negativo ? "-" : "");
+    texto.append(numero.enteros.empty() ? "0" : numero.enteros)
+        .append(".")
+        .append(numero.decimales)
+        .append("0");
+    double valor = 0;
+    std::from_chars(texto.data(), texto.data() + texto.size(), valor);
+    return valor;
+}
+
+template <typename Separador> double NumeroInicial(std::string_view texto, Separador separa) {
+    Decimal numero;
+    return Leer(Recortar(texto), separa, numero) == 0 ? 0.0 : Valor(numero);
+}
+
+// Adds one hundredth to the amount at the end of `salida`, which starts at `desde` and may hold a separator.
+void SumarCentesimo(std::string &salida, std::size_t desde) {
+    for (std::size_t i = salida.size(); i-- > desde;) {
+        if (!EsDigito(salida[i]))
+            continue;
+        if (salida[i] != '9') {
+            ++salida[i];
+            return;
+        }
+        salida[i] = '0';
+    }
+    salida.insert(desde, 1, '1');
+}
+
+bool EsCero(std::string_view monto) {
+    return monto.find_first_of("123456789") == std::string_view::npos;
+}
+
+// Appends the number with two decimals, rounded half away from zero on its digits.
+void AgregarDecimal(std::string &salida, const Decimal &numero, std::string_view separador) {
+    const std::size_t signo = salida.size();
+    const auto ceros = std::min(numero.enteros.find_first_not_of('0'), numero.enteros.size());
+    const std::string_view enteros = numero.enteros.substr(ceros);
+    const std::string_view decimales = numero.decimales;
+    salida.append(enteros.empty() ? "0" : enteros).append(separador);
+    salida += !decimales.empty() ? decimales[0] : '0';
+    salida += decimales.size() > 1 ? decimales[1] : '0';
+    if (decimales.size() > 2 && decimales[2] >= '5')
+        SumarCentesimo(salida, signo);
+    if (numero.negativo && !EsCero(std::string_view(salida).substr(signo)))
+        salida.insert(signo, 1, '-');
+}
+
+// The decimal digits of a double: 15 significant ones, written out without an exponent.
+struct Digitos {
+    std::array<char, 15> cifras{};
+    int exponente = 0; // of ten, of the first digit
+    bool negativo = false;
+};
+
+Digitos DigitosDe(double valor) {
+    std::array<char, 32> bufer{};
+    const auto fin = std::to_chars(bufer.data(), bufer.data() + bufer.size(), std::fabs(valor),
+                                   std::chars_format::scientific, 14);
+    Digitos digitos;
+    digitos.negativo = std::signbit(valor);
+    digitos.cifras[0] = bufer[0];
+    for (std::size_t i = 1; i < digitos.cifras.size(); ++i)
+        digitos.cifras[i] = bufer[i + 1];
+    const char *exponente = bufer.data() + 17; // behind "d.dddddddddddddde"
+    std::from_chars(*exponente == '+' ? exponente + 1 : exponente, fin.ptr, digitos.exponente);
+    return digitos;
+}
+
+} // namespace
+
+Moneda::Moneda(QString decimal, QString simbolo)
+    : decimal_(std::move(decimal)),
+      simbolo_(std::move(simbolo)),
+      decimal8_(decimal_.toStdString()),
+      simbolo8_(simbolo_.toStdString()) {}
+
+void Moneda::AgregarFormato(std::string &salida, std::string_view texto, bool conSimbolo) const {
+    const std::string_view recortado = Recortar(texto);
+    Decimal numero;
+    if (!recortado.empty() && Leer(recortado, EsSeparador, numero) != recortado.size()) {
+        salida.append(texto);
+        return;
+    }
+    if (conSimbolo)
+        salida.append(simbolo8_).append(1, ' ');
+    AgregarDecimal(salida, numero, decimal8_);
+}
+
+void Moneda::AgregarFormato(std::string &salida, double valor, bool conSimbolo) const {
+    const Digitos digitos = DigitosDe(std::isfinite(valor) ? valor : 0.0);
+    const std::string_view cifras(digitos.cifras.data(), digitos.cifras.size());
+    std::string enteros;
+    std::string decimales;
+    if (digitos.exponente < 0) {
+        decimales.assign(static_cast<std::size_t>(std::min(-digitos.exponente - 1, 3)), '0').append(cifras);
+    } else {
+        enteros.assign(cifras.substr(0, static_cast<std::size_t>(digitos.exponente) + 1));
+        decimales.assign(cifras.substr(enteros.size()));
+        enteros.resize(static_cast<std::size_t>(digitos.exponente) + 1, '0');
+    }
+    if (conSimbolo)
+        salida.append(simbolo8_).append(1, ' ');
+    AgregarDecimal(salida, {digitos.negativo, enteros, decimales}, decimal8_);
+}
+
+QString Moneda::FormatoMoneda(const QString &texto, bool conSimbolo) const {
+    std::string salida;
+    AgregarFormato(salida, Vista(texto.toUtf8()), conSimbolo);
+    return QString::fromStdString(salida);
+}
+
+QString Moneda::FormatoMoneda(double valor, bool conSimbolo) const {
+    std::string salida;
+    AgregarFormato(salida, valor, conSimbolo);
+    return QString::fromStdString(salida);
+}
+
+QString Moneda::SinSimbolo(const QString &monto) const {
+    return monto.mid(simbolo_.size() + 1);
+}
+
+std::string_view Moneda::SinSimbolo(std::string_view monto) const {
+    qsizetype faltan = simbolo_.size() + 1; // in UTF-16 units, as a QString counts them
+    std::size_t i = 0;
+    while (i < monto.size() && faltan > 0) {
+        faltan -= (static_cast<unsigned char>(monto[i]) & 0xf8) == 0xf0 ? 2 : 1;
+        ++i;
+        while (i < monto.size() && (static_cast<unsigned char>(monto[i]) & 0xc0) == 0x80)
+            ++i;
+    }
+    return monto.substr(i);
+}
+
+double Moneda::Numero(std::string_view texto) const {
+    return NumeroInicial(texto, [this](char c) { return !decimal8_.empty() && c == decimal8_[0]; });
+}
+
+double Moneda::Numero(const QString &texto) const {
+    return Numero(Vista(texto.toUtf8()));
+}
+
+double Moneda::NumeroNeutro(std::string_view texto) {
+    return NumeroInicial(texto, [](char c) { return c == '.'; });
+}
+
+double Moneda::NumeroNeutro(const QString &texto) {
+    return NumeroNeutro(Vista(texto.toUtf8()));
+}
+
+} // namespace tarvo

@@ -1,0 +1,15 @@
+// The empty database files: tables, columns and the rows that every file has from the start.
+#pragma once
+
+#include <QString>
+
+namespace tarvo {
+
+// Makes the five files in the folder `carpeta`, which holds none of them, and brings them to the disk. Throws
+// ErrorDatos(kAccesoRuta).
+void CrearPlantillas(const QString &carpeta);
+
+// Brings a file, or the entries of a folder, to the disk. Throws ErrorDatos(kAccesoRuta).
+void Sincronizar(const QString &ruta);
+
+} // namespace tarvo

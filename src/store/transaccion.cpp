@@ -1,0 +1,28 @@
+#include "store/transaccion.h"
+
+#include "store/conexion.h"
+#include "store/store.h"
+
+namespace tarvo {
+
+Transaccion::Transaccion(FrmBases &bases) : bases_(bases) {
+    if (!bases_.conexion_)
+        throw ErrorDatos(errores::kEscritura, QStringLiteral("La base de datos está cerrada."));
+    bases_.conexion_->Empezar();
+}
+
+Transaccion::~Transaccion() {
+    if (abierta_ && bases_.conexion_)
+        bases_.conexion_->Deshacer();
+}
+
+void Transaccion::Confirmar() {
+    if (!abierta_ || !bases_.conexion_)
+        throw ErrorDatos(errores::kEscritura, QStringLiteral("La transacción ya está cerrada."));
+    for (Cursor *cursor : bases_.conexion_->Cursores())
+        cursor->ConfirmarEdicion();
+    abierta_ = false;
+    bases_.conexion_->Confirmar();
+}
+
+} // namespace tarvo

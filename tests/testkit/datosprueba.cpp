@@ -1,0 +1,67 @@
+#include "testkit/datosprueba.h"
+
+#include "store/conexion.h"
+#include "store/plantillas.h"
+
+#include <QDir>
+
+#include <gtest/gtest.h>
+
+namespace tarvo {
+
+namespace {
+
+SQLite::Database AbrirCrudo(const QString &carpeta) {
+    const QDir dir(carpeta);
+    SQLite::Database base(dir.filePath(QStringLiteral("config.mdb")).toStdString(), SQLite::OPEN_READWRITE);
+    for (const char *nombre : {"clientes", "proveedores", "articulos", "ventas"}) {
+        SQLite::Statement adjuntar(base, std::string("ATTACH ? AS ") + nombre);
+        adjuntar.bind(1, dir.filePath(QString::fromUtf8(nombre) + QLatin1String(".mdb")).toStdString());
+        adjuntar.exec();
+    }
+    return base;
+}
+
+std::vector<std::vector<QString>> Leer(SQLite::Database &base, const char *sql) {
+    std::vector<std::vector<QString>> filas;
+    SQLite::Statement consulta(base, sql);
+    while (consulta.executeStep()) {
+        std::vector<QString> &fila = filas.emplace_back();
+        for (int i = 0; i < consulta.getColumnCount(); ++i)
+            fila.push_back(QString::fromStdString(consulta.getColumn(i).getString()));
+    }
+    return filas;
+}
+
+} // namespace
+
+DatosPrueba::DatosPrueba(Moneda moneda)
+    : bases_(std::make_unique<FrmBases>(carpeta_.path(), std::move(moneda))) {
+    CrearPlantillas(carpeta_.path());
+    Ejecutar("DELETE FROM Iva; DELETE FROM Categorias; DELETE FROM Vendedores; DELETE FROM sqlite_sequence;");
+}
+
+void DatosPrueba::Ejecutar(const char *sql) {
+    ASSERT_FALSE(bases_->conexion_) << "raw SQL needs the files closed";
+    SQLite::Database base = AbrirCrudo(carpeta_.path());
+    base.exec("PRAGMA synchronous=OFF; BEGIN");
+    base.exec(sql);
+    base.exec("COMMIT");
+}
+
+std::vector<std::vector<QString>> DatosPrueba::Filas(const char *sql) {
+    if (bases_->conexion_)
+        return Leer(bases_->conexion_->Base(), sql);
+    SQLite::Database base = AbrirCrudo(carpeta_.path());
+    return Leer(base, sql);
+}
+
+FrmBases &DatosPrueba::Abrir() {
+    if (!bases_->conexion_) {
+        const ResultadoApertura resultado = bases_->Abrir();
+        EXPECT_EQ(resultado.estado, EstadoApertura::Completa) << resultado.motivo.toStdString();
+    }
+    return *bases_;
+}
+
+} // namespace tarvo
