@@ -22,7 +22,8 @@ InstalarPaquetes() {
     [ ${#faltan[@]} -gt 0 ] || return 0
     echo "Se instalan: ${faltan[*]}"
     [ "$(id -u)" -eq 0 ] || como_root=(sudo)
-    "${como_root[@]}" apt-get update -qq
+    # A foreign package source that fails is no reason to stop: the installation tells.
+    "${como_root[@]}" apt-get update -qq || true
     "${como_root[@]}" env DEBIAN_FRONTEND=noninteractive \
         apt-get install -y -qq --no-install-recommends "${faltan[@]}" </dev/null >/dev/null
 }

@@ -52,6 +52,10 @@ ProgramaEnPantalla::ProgramaEnPantalla(const Carpeta &carpeta) {
     proceso_.start(carpeta.Ruta("tarvo"), QStringList());
     if (!proceso_.waitForStarted())
         throw std::runtime_error("the program did not start");
+    Esperar("splash", [this] {
+        cuadro_ = VentanasVisibles().value(0);
+        return !cuadro_.isEmpty();
+    });
 }
 
 ProgramaEnPantalla::~ProgramaEnPantalla() {

@@ -26,6 +26,7 @@ class Carpeta {
 
 class ProgramaEnPantalla {
   public:
+    // Returns when the splash is on screen.
     explicit ProgramaEnPantalla(const Carpeta &carpeta);
     ~ProgramaEnPantalla();
     ProgramaEnPantalla(const ProgramaEnPantalla &) = delete;

@@ -125,11 +125,12 @@ const char *Siguiente(std::int64_t &resto, const std::vector<const char *> &list
     return elegido;
 }
 
-std::string Nombre(const Familia &familia, int numero) {
+// `desfase` makes each family start elsewhere in its combinations.
+std::string Nombre(const Familia &familia, int numero, int desfase) {
     const auto combinaciones = static_cast<std::int64_t>(familia.productos.size() * familia.variantes.size() *
                                                          kMarcas.size() * familia.tamanos.size());
     constexpr std::int64_t kPaso = 6151; // prime, so that the walk over the combinations meets each once
-    std::int64_t resto = numero % combinaciones * kPaso % combinaciones;
+    std::int64_t resto = (numero + desfase) % combinaciones * kPaso % combinaciones;
     std::string nombre = Siguiente(resto, familia.productos);
     for (const auto *lista : {&familia.variantes, &kMarcas, &familia.tamanos})
         nombre.append(" ").append(Siguiente(resto, *lista));
@@ -182,7 +183,7 @@ ArticuloMuestra HacerArticulo(int indice, int proveedores, Sorteo &sorteo) {
     std::snprintf(texto, sizeof texto, "7791%08d", indice + 1);
     articulo.codigoBarras = texto;
     articulo.codigoBarras += DigitoControl(articulo.codigoBarras);
-    articulo.nombre = Nombre(familia, indice / static_cast<int>(familias.size()));
+    articulo.nombre = Nombre(familia, indice / static_cast<int>(familias.size()), 977 * (clase + 1));
     articulo.descripcion = std::string(familia.categoria) + ": " + articulo.nombre;
     articulo.unidad = familia.unidad;
     articulo.categoria = clase;

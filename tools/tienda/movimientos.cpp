@@ -2,6 +2,8 @@
 
 #include <cstdio>
 
+using namespace std::string_literals;
+
 namespace tarvo {
 
 namespace {
@@ -65,16 +67,16 @@ void Movimientos::HacerVenta(bool seDevuelve) {
     const int descuento = sorteo_.Cae(10) ? 5 * sorteo_.Entre(1, 4) : 0;
     char numero[24];
     std::snprintf(numero, sizeof numero, "0001-%08d", ++comprobante_);
-    actual_.idCliente = conCliente ? std::to_string(sorteo_.Entre(1, clientes_)) : "0";
+    actual_.idCliente = conCliente ? std::to_string(sorteo_.Entre(1, clientes_)) : "0"s;
     actual_.idOperador = std::to_string(sorteo_.Entre(1, vendedores_));
     actual_.numComp = numero;
-    actual_.tipo = contado ? "Contado" : "Credito";
-    actual_.descripcion = contado ? "Factura contado" : "Factura crédito";
+    actual_.tipo = contado ? "Contado"s : "Credito"s;
+    actual_.descripcion = contado ? "Factura contado"s : "Factura crédito"s;
     actual_.subtotal = Dinero(importes.subtotal);
     actual_.iva = Dinero(importes.iva);
     actual_.total = Dinero(((importes.subtotal + importes.iva) * (100 - descuento) + 50) / 100);
     if (seDevuelve) {
-        actual_.descripcion += " (D)";
+        actual_.descripcion += " (D)"s;
         pendientes_.push_back(
             {contado, actual_.fecha + " - " + actual_.hora, actual_.idCliente, actual_.total});
     }
@@ -84,10 +86,10 @@ void Movimientos::HacerRecibo() {
     actual_.idCliente = std::to_string(sorteo_.Entre(1, clientes_));
     actual_.idOperador.clear();
     actual_.numComp.clear();
-    actual_.tipo = "Recibo";
-    actual_.descripcion = "Recibo";
+    actual_.tipo = "Recibo"s;
+    actual_.descripcion = "Recibo"s;
     actual_.subtotal.clear();
-    actual_.iva = "0";
+    actual_.iva = "0"s;
     actual_.total = Dinero(500 * sorteo_.Entre(1, 12));
 }
 
@@ -97,11 +99,11 @@ void Movimientos::HacerDevolucion() {
     actual_.idCliente = devolucion.idCliente;
     actual_.idOperador.clear();
     actual_.numComp.clear();
-    actual_.tipo = devolucion.contado ? "DevContado" : "NotaCredito";
-    actual_.descripcion = devolucion.contado ? "Devolución contado (" : "Nota de crédito (";
+    actual_.tipo = devolucion.contado ? "DevContado"s : "NotaCredito"s;
+    actual_.descripcion = devolucion.contado ? "Devolución contado ("s : "Nota de crédito ("s;
     actual_.descripcion += devolucion.momento + ")";
     actual_.subtotal.clear();
-    actual_.iva = "0";
+    actual_.iva = "0"s;
     actual_.total = devolucion.total;
 }
 
