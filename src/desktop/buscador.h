@@ -1,8 +1,8 @@
 // The search of all windows: a case-insensitive search for a part of a cell that starts at a remembered row.
 //
-// The start row (from 1) grows by one with each hit, from its own old value: it doesn't jump behind the row found,
-// so the next search may find the same row again. Operators know this slow advance, it stays. A start row behind
-// the last row becomes 1; the end without a hit leaves it as it is.
+// The start row (from 1) grows by one with each hit, from its own old value: it doesn't jump behind the row
+// found, so the next search may find the same row again. Operators know this slow advance, it stays. A start
+// row behind the last row becomes 1; the end without a hit leaves it as it is.
 #pragma once
 
 #include "desktop/listatexto.h"

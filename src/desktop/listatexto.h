@@ -1,12 +1,14 @@
 // The one list of the program: rows of text cells under columns that are told as data.
 //
-// Rows are numbered from 0 in the order on screen, sorted or not; printing, export, searches and duplicate tests
-// read this model and see exactly what the operator sees. Cells are kept as compact UTF-8 columns (ColumnaTexto),
-// so a table's columns can be shown without a copy. Hidden columns are real columns.
+// Rows are numbered from 0 in the order on screen, sorted or not; printing, export, searches and duplicate
+// tests read this model and see exactly what the operator sees. Cells are kept as compact UTF-8 columns
+// (ColumnaTexto), so a table's columns can be shown without a copy. Hidden columns are real columns.
 //
-// Sorting is stable and by text, with Spanish collation, case ignored only between equals.
+// Sorting is stable and by text, with Spanish collation and case ignored: rows with equal texts keep the
+// order in which they came, in both directions. No column sorts by number: "$ 9,00" stands behind "$ 10,00".
 #pragma once
 
+#include "desktop/tono.h"
 #include "store/columna.h"
 
 #include <QAbstractTableModel>
@@ -16,12 +18,9 @@
 
 namespace tarvo {
 
-// Colour of a cell's text; estilo.h maps it to a colour. Normal is the list's own.
-enum class Tono : std::uint8_t { Normal, Verde, Rojo, Azul, Purpura };
-
 struct ColumnaLista {
     QString titulo;
-    int ancho = 0; // twips, 15 to the pixel; a proportion more than a size
+    int ancho = 0;        // twips, 15 to the pixel; a proportion more than a size
     bool derecha = false; // numbers and amounts
     bool oculta = false;
     int claveOrden = -1; // column by whose text a click on this header sorts; -1: its own
@@ -38,8 +37,8 @@ class ListaTexto : public QAbstractTableModel {
     QString Celda(int fila, int columna) const;
     std::string_view CeldaUtf8(int fila, int columna) const; // valid until the list is next changed
 
-    // Replaces all rows by these columns (one per column of the list, all of one length), in one reset; they come
-    // sorted when the list has a sort column. `tonos` gives each row's tone in column `columnaTono`.
+    // Replaces all rows by these columns (one per column of the list, all of one length), in one reset; they
+    // come sorted when the list has a sort column. `tonos` gives each row's tone in column `columnaTono`.
     void Asignar(std::vector<ColumnaTexto> celdas, int columnaTono = -1, std::vector<Tono> tonos = {});
     void Limpiar();
     // Adds a row, at its sorted place when the list has a sort column, else at the end; returns its number.
@@ -61,15 +60,16 @@ class ListaTexto : public QAbstractTableModel {
     // First row from `desde` on with a cell of `columnas` that contains `texto`, case ignored; -1 when none.
     int BuscarParte(const std::vector<int> &columnas, const QString &texto, int desde = 0) const;
 
-    // Sort column (-1: none, the rows stand in the order in which they came) and direction.
+    // Direction, and the column whose texts are compared; -1: the rows stand in the order in which they came.
     int ColumnaOrden() const { return columnaOrden_; }
     Qt::SortOrder Orden() const { return orden_; }
     void Ordenar(int columna, Qt::SortOrder orden);
-    // A click on a header: another column sorts ascending, the same one turns round. The header shows the icon
-    // "arriba" (ascending) or "abajo" on the sort column (Qt::DecorationRole).
+    // A click on a header: another column sorts ascending (by its key column, when it has one), the same one
+    // turns round. The header that leads to the sort column shows the icon "arriba" (ascending) or "abajo"
+    // (Qt::DecorationRole).
     void ClicEncabezado(int columna);
 
-    // Width of a column in twips, when a window's resize rule changes it; and its caption.
+    // Caption of a column, when a window's resize rule changes it.
     void PonerTitulo(int columna, const QString &titulo);
 
     int rowCount(const QModelIndex &padre = {}) const override;
@@ -80,6 +80,9 @@ class ListaTexto : public QAbstractTableModel {
     Qt::ItemFlags flags(const QModelIndex &indice) const override;
 
   private:
+    void SeguirIndices(const QModelIndexList &antes, const std::vector<std::uint32_t> &guardadas);
+    bool LlevaIcono(int columna) const;
+
     struct Privado;
     std::vector<ColumnaLista> especificacion_;
     int columnaOrden_ = -1;

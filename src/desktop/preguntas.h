@@ -1,5 +1,5 @@
-// How the program speaks to its operator: questions, messages, picks. Windows and rules use this interface; the
-// real one (PreguntasQt) is the only file with message boxes, the testkit has a scripted one.
+// How the program speaks to its operator: questions, messages, picks. Windows and rules use this interface;
+// the real one (PreguntasQt) is the only file with message boxes, the testkit has a scripted one.
 #pragma once
 
 #include <QString>

@@ -17,7 +17,11 @@ class RelojSistema final : public Reloj {
 };
 
 // "dd/mm/yyyy" and "HH:nn", the forms in which dates and times are shown and stored.
-inline QString TextoFecha(const QDateTime &momento) { return momento.toString(QStringLiteral("dd/MM/yyyy")); }
-inline QString TextoHora(const QDateTime &momento) { return momento.toString(QStringLiteral("HH:mm")); }
+inline QString TextoFecha(const QDateTime &momento) {
+    return momento.toString(QStringLiteral("dd/MM/yyyy"));
+}
+inline QString TextoHora(const QDateTime &momento) {
+    return momento.toString(QStringLiteral("HH:mm"));
+}
 
 } // namespace tarvo

@@ -1,7 +1,8 @@
-// The look: colours, style sheet, palette. One place, on the Fusion style, light whatever the desktop's theme.
+// The look: colours, style sheet, palette. One place, on the Fusion style, light whatever the desktop's
+// theme.
 #pragma once
 
-#include "desktop/listatexto.h"
+#include "desktop/tono.h"
 
 #include <QColor>
 
@@ -22,12 +23,10 @@ inline const QColor kTexto(27, 35, 56);
 inline const QColor kTextoTenue(92, 103, 132);
 } // namespace colores
 
-QColor ColorDe(Tono tono); // invalid for Tono::Normal
-
-// Style, palette, style sheet and font of the whole program. Widgets get their part by these dynamic properties:
-// QFrame "tarjeta" = true (white card, radius 4), QLabel "titulo" = true (title bar of a module window),
-// QLabel "tenue" = true (dim caption), QLabel "grande" = true (the big total), QPushButton "principal" = true
-// (the main button), QLineEdit "sinDatos" = true (grey, disabled for lack of data).
+// Style, palette, style sheet and font of the whole program. Widgets get their part by these dynamic
+// properties: QFrame "tarjeta" = true (white card, radius 4), QLabel "titulo" = true (title bar of a module
+// window), QLabel "tenue" = true (dim caption), QLabel "grande" = true (the big total), QPushButton
+// "principal" = true (the main button), QLineEdit "sinDatos" = true (grey, disabled for lack of data).
 void AplicarEstilo(QApplication &aplicacion);
 
 } // namespace tarvo

@@ -1,14 +1,18 @@
 // Enter, Escape and the selection of fields, in one event filter for each window.
 //
-// Enter in a text field or combo moves to the next control (and is never typed in); a field that gets the focus has
-// its text selected. A window names its exceptions. The colour of the field with the focus comes from the style.
+// Enter in a text field or combo moves to the next control (and is never typed in), on a button it presses
+// it; a field that gets the focus has its text selected. A window names its exceptions. The colour of the
+// field with the focus comes from the style. A field keeps the focus while another window (a question) is
+// active: neither end is told.
 #pragma once
 
 #include <QHash>
 #include <QObject>
+#include <QPointer>
 
 #include <functional>
 
+class QKeyEvent;
 class QLineEdit;
 class QWidget;
 
@@ -24,9 +28,10 @@ class FiltroCampos : public QObject {
     void AlEntrar(QWidget *control, std::function<void()> accion);
     // The Delete key in `control` runs `accion`.
     void AlSuprimir(QWidget *control, std::function<void()> accion);
-    // `accion` runs after `control` got (true) or lost (false) the focus, and after the text was selected.
+    // `accion` runs after `control` got (true) or lost (false) the focus; what is then in the field is
+    // selected after it.
     void AlFoco(QWidget *control, std::function<void(bool entra)> accion);
-    // Up (+1) and down (-1) arrows in `control`.
+    // The up (+1) and down (-1) arrows in `control`.
     void AlFlecha(QWidget *control, std::function<void(int paso)> accion);
     // Escape anywhere in the window; the action returns false when it had nothing to do.
     void AlEscapar(std::function<bool()> accion);
@@ -36,16 +41,26 @@ class FiltroCampos : public QObject {
 
   private:
     void Vigilar(QWidget *control);
-    bool Tecla(QWidget *control, class QKeyEvent *evento);
+    QWidget *ControlDe(QWidget *recibe) const;
+    bool Tecla(QWidget *recibe, QKeyEvent *evento);
+    bool Entrar(QWidget *control, const QKeyEvent &evento);
+    bool Escapar();
+    void CambiarFoco(QWidget *ahora);
+    void AvisarFoco(QWidget *control, bool entra);
+
     QWidget *ventana_;
     QHash<QObject *, std::function<void()>> alEntrar_;
     QHash<QObject *, std::function<void()>> alSuprimir_;
     QHash<QObject *, std::function<void(bool)>> alFoco_;
     QHash<QObject *, std::function<void(int)>> alFlecha_;
     std::function<bool()> alEscapar_;
+    QPointer<QWidget> enfocado_; // control whose entering was told; stays it while another window is active
+    QPointer<QWidget> porRaton_; // field that a mouse button, still down, gave the focus
+    bool escapeVisto_ = false;   // this stroke found nothing to do and is on its way up to the window
 };
 
-// Lets only the characters of `permitidos` into the field, typed or pasted: the others are dropped, the rest stays.
+// Lets only the characters of `permitidos` into the field, typed or pasted: the others are dropped, the rest
+// stays. Text that the program itself puts there isn't touched.
 void SoloCaracteres(QLineEdit *campo, const QString &permitidos);
 
 } // namespace tarvo

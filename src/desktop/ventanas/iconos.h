@@ -1,5 +1,5 @@
-// The pictures of the program by their image key ("ventas", "cliente", "arriba", ...), drawn for it as SVG and
-// compiled in under :/iconos/. A key without a picture gives a null icon.
+// The pictures of the program by their image key ("ventas", "cliente", "arriba", ...), drawn for it as SVG
+// and compiled in under :/iconos/. A key without a picture gives a null icon.
 #pragma once
 
 #include <QIcon>

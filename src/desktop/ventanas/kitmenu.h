@@ -23,7 +23,8 @@ struct EntradaMenu {
     bool EsSeparador() const { return clave.isEmpty() && texto.isEmpty(); }
 };
 
-// Adds the entries to `menu`. The actions belong to it and carry their key as objectName; a submenu's action too.
+// Adds the entries to `menu`. The actions belong to it and carry their key as objectName; a submenu's action
+// too.
 void LlenarMenu(QMenu *menu, const QList<EntradaMenu> &entradas);
 // Action of that key below `raiz`, null when there is none.
 QAction *AccionDe(const QWidget *raiz, const QString &clave);

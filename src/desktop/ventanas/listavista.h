@@ -3,6 +3,7 @@
 
 #include "desktop/listatexto.h"
 
+#include <QPointer>
 #include <QTreeView>
 
 namespace tarvo {
@@ -12,10 +13,10 @@ class ListaVista : public QTreeView {
   public:
     explicit ListaVista(QWidget *padre = nullptr);
 
-    // Shows `lista`: hidden columns are hidden, the visible ones share the width in proportion to their twips,
-    // a click on a header sorts.
+    // Shows `lista`: hidden columns are hidden, the visible ones share the width in proportion to their
+    // twips, a click on a header sorts.
     void Mostrar(ListaTexto *lista);
-    ListaTexto *Lista() const { return lista_; }
+    ListaTexto *Lista() const { return lista_.data(); }
 
     int FilaActual() const; // selected row from 0, -1 when none
     // Selects the row and scrolls it into view; -1 clears the selection.
@@ -26,18 +27,27 @@ class ListaVista : public QTreeView {
     bool DesbordaFilas() const;
 
   signals:
-    void FilaPulsada(int fila);      // a click or an arrow key chose a row
+    void FilaPulsada(int fila); // a click or an arrow key chose a row
     void FilaDobleClic(int fila);
-    void Ordenada();                 // a header click has sorted
+    void Ordenada(); // a header click has sorted
+
+    // Rows are all of one height, so both are told from the row number, whatever the number of rows.
+    QRect visualRect(const QModelIndex &indice) const override;
+    void scrollTo(const QModelIndex &indice, ScrollHint donde = EnsureVisible) override;
 
   protected:
     void resizeEvent(QResizeEvent *evento) override;
-    void currentChanged(const QModelIndex &actual, const QModelIndex &anterior) override;
+    void keyPressEvent(QKeyEvent *evento) override;
+    void mousePressEvent(QMouseEvent *evento) override;
+    void mouseMoveEvent(QMouseEvent *evento) override;
 
   private:
+    void Encabezar();
     void RepartirAnchos();
-    ListaTexto *lista_ = nullptr;
-    std::vector<int> anchos_;
+    void Arrastrado();
+    QPointer<ListaTexto> lista_;
+    std::vector<int> anchos_; // twips, by column
+    bool repartiendo_ = false;
 };
 
 } // namespace tarvo

@@ -1,4 +1,5 @@
-// The real questions: message boxes with Spanish buttons ("Sí", "No", "Aceptar") whatever the system's language.
+// The real questions: message boxes with Spanish buttons ("Sí", "No", "Aceptar") whatever the system's
+// language.
 #pragma once
 
 #include "desktop/preguntas.h"

@@ -1,0 +1,63 @@
+#include "desktop/ventanas/estilo.h"
+
+#include "desktop/ventanas/iconos.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QFont>
+#include <QPalette>
+#include <QStyleFactory>
+
+namespace tarvo {
+
+namespace {
+
+QPalette PaletaClara() {
+    using namespace colores;
+    QPalette paleta(kFondo);
+    for (const auto &[papel, color] : std::initializer_list<std::pair<QPalette::ColorRole, QColor>>{
+             {QPalette::Window, kFondo},
+             {QPalette::WindowText, kTexto},
+             {QPalette::Base, Qt::white},
+             {QPalette::AlternateBase, kSegundaFila},
+             {QPalette::Text, kTexto},
+             {QPalette::Button, QColor(249, 250, 253)},
+             {QPalette::ButtonText, kTexto},
+             {QPalette::BrightText, Qt::white},
+             {QPalette::ToolTipBase, Qt::white},
+             {QPalette::ToolTipText, kTexto},
+             {QPalette::PlaceholderText, kTextoTenue},
+             {QPalette::Highlight, kPresionado},
+             {QPalette::HighlightedText, kTexto},
+             {QPalette::Link, kTitulo},
+             {QPalette::LinkVisited, kTitulo},
+         })
+        paleta.setColor(papel, color);
+    for (const QPalette::ColorRole papel : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        paleta.setColor(QPalette::Disabled, papel, QColor(150, 158, 178));
+    return paleta;
+}
+
+QFont LetraDelPrograma() {
+    QFont letra;
+    letra.setFamilies(
+        {QStringLiteral("Noto Sans"), QStringLiteral("DejaVu Sans"), QStringLiteral("sans-serif")});
+    letra.setPointSizeF(9);
+    letra.setStyleHint(QFont::SansSerif);
+    return letra;
+}
+
+} // namespace
+
+void AplicarEstilo(QApplication &aplicacion) {
+    // The first picture asked for registers the resources, the style sheet among them.
+    aplicacion.setWindowIcon(IconoDe(QStringLiteral("tarvo")));
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setPalette(PaletaClara());
+    QApplication::setFont(LetraDelPrograma());
+    QFile hoja(QStringLiteral(":/estilo.qss"));
+    if (hoja.open(QIODevice::ReadOnly))
+        aplicacion.setStyleSheet(QString::fromUtf8(hoja.readAll()));
+}
+
+} // namespace tarvo

@@ -1,0 +1,230 @@
+#include "desktop/ventanas/filtrocampos.h"
+
+#include <QAbstractButton>
+#include <QAbstractSpinBox>
+#include <QApplication>
+#include <QCheckBox>
+#include <QChildEvent>
+#include <QComboBox>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QMouseEvent>
+
+#include <algorithm>
+
+namespace tarvo {
+
+namespace {
+
+bool EsCampo(const QWidget *control) {
+    return qobject_cast<const QLineEdit *>(control) != nullptr ||
+           qobject_cast<const QComboBox *>(control) != nullptr ||
+           qobject_cast<const QAbstractSpinBox *>(control) != nullptr;
+}
+
+bool EsEntrar(const QKeyEvent &evento) {
+    return evento.key() == Qt::Key_Return || evento.key() == Qt::Key_Enter;
+}
+
+bool SinModificador(const QKeyEvent &evento) {
+    return (evento.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+}
+
+// What the Tab key would do, so that the tab order of the window is the one order that there is.
+void PasarAlSiguiente(QWidget *control) {
+    QKeyEvent tabulador(QEvent::KeyPress, Qt::Key_Tab, Qt::NoModifier);
+    QCoreApplication::sendEvent(control, &tabulador);
+}
+
+template <typename Accion>
+void Anotar(QObject *filtro, QHash<QObject *, Accion> &tabla, QWidget *control, Accion accion) {
+    tabla.insert(control, std::move(accion));
+    QObject::connect(control, &QObject::destroyed, filtro,
+                     [&tabla](QObject *muerto) { tabla.remove(muerto); });
+}
+
+} // namespace
+
+FiltroCampos::FiltroCampos(QWidget *ventana) : QObject(ventana), ventana_(ventana) {
+    Vigilar(ventana);
+    connect(qApp, &QApplication::focusChanged, this,
+            [this](QWidget *, QWidget *ahora) { CambiarFoco(ahora); });
+}
+
+void FiltroCampos::AlEntrar(QWidget *control, std::function<void()> accion) {
+    Anotar(this, alEntrar_, control, std::move(accion));
+}
+
+void FiltroCampos::AlSuprimir(QWidget *control, std::function<void()> accion) {
+    Anotar(this, alSuprimir_, control, std::move(accion));
+}
+
+void FiltroCampos::AlFoco(QWidget *control, std::function<void(bool)> accion) {
+    Anotar(this, alFoco_, control, std::move(accion));
+}
+
+void FiltroCampos::AlFlecha(QWidget *control, std::function<void(int)> accion) {
+    Anotar(this, alFlecha_, control, std::move(accion));
+}
+
+void FiltroCampos::AlEscapar(std::function<bool()> accion) {
+    alEscapar_ = std::move(accion);
+}
+
+void FiltroCampos::Vigilar(QWidget *control) {
+    control->installEventFilter(this);
+    for (QObject *hijo : control->children())
+        if (hijo->isWidgetType())
+            Vigilar(static_cast<QWidget *>(hijo));
+}
+
+// The editor inside a combo or a date is that combo or date.
+QWidget *FiltroCampos::ControlDe(QWidget *recibe) const {
+    QWidget *const padre = recibe->parentWidget();
+    const bool interior = qobject_cast<QLineEdit *>(recibe) != nullptr && padre != nullptr && EsCampo(padre);
+    return interior ? padre : recibe;
+}
+
+bool FiltroCampos::eventFilter(QObject *objeto, QEvent *evento) {
+    auto *const recibe = static_cast<QWidget *>(objeto);
+    switch (evento->type()) {
+    case QEvent::ChildAdded: {
+        QObject *const hijo = static_cast<QChildEvent *>(evento)->child();
+        if (hijo->isWidgetType())
+            Vigilar(static_cast<QWidget *>(hijo));
+        return false;
+    }
+    case QEvent::ShortcutOverride:
+    case QEvent::KeyRelease:
+        escapeVisto_ = false;
+        return false;
+    case QEvent::KeyPress:
+        return recibe->window() == ventana_->window() && Tecla(recibe, static_cast<QKeyEvent *>(evento));
+    case QEvent::FocusIn:
+        if (static_cast<QFocusEvent *>(evento)->reason() == Qt::MouseFocusReason)
+            porRaton_ = recibe;
+        return false;
+    case QEvent::MouseButtonRelease:
+        // The click that brought the focus has put the cursor somewhere; a text dragged over stays as
+        // selected.
+        if (auto *campo = qobject_cast<QLineEdit *>(recibe);
+            campo != nullptr && campo == porRaton_ && !campo->hasSelectedText())
+            campo->selectAll();
+        porRaton_ = nullptr;
+        return false;
+    default:
+        return false;
+    }
+}
+
+bool FiltroCampos::Tecla(QWidget *recibe, QKeyEvent *evento) {
+    if (evento->key() == Qt::Key_Escape && SinModificador(*evento)) {
+        const bool hecho = Escapar();
+        escapeVisto_ = !hecho && recibe != ventana_;
+        return hecho;
+    }
+    if (recibe == ventana_ || !SinModificador(*evento))
+        return false;
+    QWidget *const control = ControlDe(recibe);
+    if (EsEntrar(*evento))
+        return Entrar(control, *evento);
+    if (evento->key() == Qt::Key_Delete && alSuprimir_.contains(control)) {
+        alSuprimir_.value(control)();
+        return true;
+    }
+    if ((evento->key() == Qt::Key_Up || evento->key() == Qt::Key_Down) && alFlecha_.contains(control)) {
+        alFlecha_.value(control)(evento->key() == Qt::Key_Up ? 1 : -1);
+        return true;
+    }
+    return false;
+}
+
+bool FiltroCampos::Entrar(QWidget *control, const QKeyEvent &evento) {
+    if (alEntrar_.contains(control)) {
+        alEntrar_.value(control)();
+        return true;
+    }
+    if (auto *boton = qobject_cast<QAbstractButton *>(control); boton != nullptr && !boton->isCheckable()) {
+        if (!evento.isAutoRepeat())
+            boton->click();
+        return true;
+    }
+    if (!EsCampo(control) && qobject_cast<QAbstractButton *>(control) == nullptr)
+        return false;
+    PasarAlSiguiente(control);
+    return true;
+}
+
+// A stroke that a control leaves alone is offered to its parents, one by one; the action is asked the first
+// time only.
+bool FiltroCampos::Escapar() {
+    return !escapeVisto_ && alEscapar_ && alEscapar_();
+}
+
+void FiltroCampos::CambiarFoco(QWidget *ahora) {
+    if (ahora == nullptr || ahora->window() != ventana_->window())
+        return;
+    QWidget *const control = ControlDe(ahora);
+    if (control == enfocado_)
+        return;
+    const QPointer<QWidget> antes = enfocado_;
+    enfocado_ = control;
+    if (!antes.isNull())
+        AvisarFoco(antes, false);
+    if (enfocado_ != control || !(control == ventana_ || ventana_->isAncestorOf(control)))
+        return;
+    AvisarFoco(control, true);
+    if (auto *campo = qobject_cast<QLineEdit *>(ahora); campo != nullptr && campo->hasFocus())
+        campo->selectAll();
+}
+
+void FiltroCampos::AvisarFoco(QWidget *control, bool entra) {
+    if (alFoco_.contains(control))
+        alFoco_.value(control)(entra);
+}
+
+// --- SoloCaracteres
+
+namespace {
+
+class FiltroCaracteres final : public QObject {
+  public:
+    FiltroCaracteres(QLineEdit *campo, const QString &permitidos)
+        : QObject(campo), campo_(campo), permitidos_(permitidos) {
+        campo->installEventFilter(this);
+        connect(campo, &QLineEdit::textEdited, this, &FiltroCaracteres::Limpiar);
+    }
+
+  protected:
+    bool eventFilter(QObject *, QEvent *evento) override {
+        if (evento->type() != QEvent::KeyPress)
+            return false;
+        const QString texto = static_cast<QKeyEvent *>(evento)->text();
+        return texto.size() == 1 && texto.front().isPrint() && !permitidos_.contains(texto.front());
+    }
+
+  private:
+    // What came in by other ways than a key stroke: pasted, dropped, composed.
+    void Limpiar(const QString &texto) {
+        const auto sobra = [this](QChar c) { return !permitidos_.contains(c); };
+        if (std::none_of(texto.begin(), texto.end(), sobra))
+            return;
+        QString delante = texto.left(campo_->cursorPosition());
+        delante.removeIf(sobra);
+        QString limpio = texto;
+        limpio.removeIf(sobra);
+        campo_->setText(limpio);
+        campo_->setCursorPosition(static_cast<int>(delante.size()));
+    }
+
+    QLineEdit *campo_;
+    QString permitidos_;
+};
+
+} // namespace
+
+void SoloCaracteres(QLineEdit *campo, const QString &permitidos) {
+    new FiltroCaracteres(campo, permitidos);
+}
+
+} // namespace tarvo

@@ -1,0 +1,105 @@
+#include "desktop/ventanas/girador.h"
+
+#include "desktop/ventanas/estilo.h"
+#include "store/moneda.h"
+
+#include <QLineEdit>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QSignalBlocker>
+#include <QWheelEvent>
+
+#include <algorithm>
+
+namespace tarvo {
+
+namespace {
+
+// Far beyond every limit of a field: a longer number only has to count as too much.
+constexpr double kDemasiado = 1e6;
+
+int NumeroDe(const QString &texto) {
+    return int(std::min(Moneda::NumeroNeutro(texto), kDemasiado));
+}
+
+} // namespace
+
+Girador::Girador(QWidget *padre) : QAbstractSlider(padre) {
+    setOrientation(Qt::Vertical);
+    setFocusPolicy(Qt::NoFocus);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Ignored);
+    setSingleStep(1);
+}
+
+void Girador::Acompanar(QLineEdit *campo, int minimo, int maximo) {
+    campo_ = campo;
+    setRange(-maximo, -minimo);
+    setAccessibleName(campo->accessibleName());
+    connect(campo, &QLineEdit::textChanged, this, &Girador::Seguir);
+    connect(this, &QAbstractSlider::valueChanged, campo,
+            [this] { campo_->setText(QString::number(-value())); });
+    Seguir();
+}
+
+void Girador::Seguir() {
+    const QSignalBlocker sinAviso(this); // the limits of the arrows must not be written back over typed text
+    setValue(-NumeroDe(campo_->text()));
+    update();
+}
+
+void Girador::Paso(int paso) {
+    const int numero = NumeroDe(campo_->text());
+    if (paso > 0 ? numero < -minimum() : numero > -maximum())
+        campo_->setText(QString::number(numero + paso));
+}
+
+QSize Girador::sizeHint() const {
+    return {fontMetrics().height() + 4, 0};
+}
+
+void Girador::PintarFlecha(QPainter &pintor, const QRect &zona, bool arriba) {
+    const SliderAction accion = arriba ? SliderSingleStepSub : SliderSingleStepAdd;
+    if (pulsada_ == accion)
+        pintor.fillRect(zona, colores::kPresionado);
+    const double mitad = std::min(zona.width(), zona.height()) / 4.0 + 0.5;
+    const double alto = arriba ? -mitad / 2 : mitad / 2;
+    const QPointF centro = QRectF(zona).center();
+    pintor.setPen(Qt::NoPen);
+    pintor.setBrush(isEnabled() ? colores::kTitulo : colores::kLineas);
+    pintor.drawPolygon(QPolygonF(
+        {centro + QPointF(-mitad, -alto), centro + QPointF(mitad, -alto), centro + QPointF(0, alto)}));
+}
+
+void Girador::paintEvent(QPaintEvent *) {
+    QPainter pintor(this);
+    pintor.setRenderHint(QPainter::Antialiasing);
+    pintor.setPen(colores::kLineas);
+    pintor.setBrush(Qt::white);
+    pintor.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 3, 3);
+    const QRect dentro = rect().adjusted(1, 1, -1, -1);
+    PintarFlecha(pintor, dentro.adjusted(0, 0, 0, -dentro.height() / 2), true);
+    PintarFlecha(pintor, dentro.adjusted(0, dentro.height() / 2, 0, 0), false);
+}
+
+void Girador::mousePressEvent(QMouseEvent *evento) {
+    if (evento->button() != Qt::LeftButton)
+        return;
+    pulsada_ = evento->position().y() < height() / 2.0 ? SliderSingleStepSub : SliderSingleStepAdd;
+    triggerAction(pulsada_);
+    setRepeatAction(pulsada_);
+    update();
+}
+
+void Girador::mouseReleaseEvent(QMouseEvent *) {
+    pulsada_ = SliderNoAction;
+    setRepeatAction(SliderNoAction);
+    update();
+}
+
+void Girador::wheelEvent(QWheelEvent *evento) {
+    if (evento->angleDelta().y() != 0)
+        triggerAction(evento->angleDelta().y() > 0 ? SliderSingleStepSub : SliderSingleStepAdd);
+    evento->accept();
+}
+
+} // namespace tarvo

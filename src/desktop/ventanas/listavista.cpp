@@ -1,0 +1,167 @@
+#include "desktop/ventanas/listavista.h"
+
+#include "desktop/anchos.h"
+#include "desktop/ventanas/delegadolista.h"
+
+#include <QHeaderView>
+#include <QMouseEvent>
+#include <QScopedValueRollback>
+#include <QScrollBar>
+
+namespace tarvo {
+
+namespace {
+
+constexpr int kTwipsPorPunto = 15;
+constexpr int kTwipsPorFila = 210;
+
+} // namespace
+
+ListaVista::ListaVista(QWidget *padre) : QTreeView(padre) {
+    setItemDelegate(new DelegadoLista(this));
+    setRootIsDecorated(false);
+    setItemsExpandable(false);
+    setExpandsOnDoubleClick(false);
+    setUniformRowHeights(true);
+    setAllColumnsShowFocus(true);
+    setAlternatingRowColors(true);
+    setSelectionMode(SingleSelection);
+    setSelectionBehavior(SelectRows);
+    setEditTriggers(NoEditTriggers);
+    setTextElideMode(Qt::ElideRight);
+    setTabKeyNavigation(false);
+    setAutoScroll(false);
+    Encabezar();
+    connect(this, &QAbstractItemView::doubleClicked, this,
+            [this](const QModelIndex &indice) { emit FilaDobleClic(indice.row()); });
+}
+
+void ListaVista::Encabezar() {
+    header()->setSectionsMovable(false);
+    header()->setSectionsClickable(true);
+    header()->setHighlightSections(false);
+    header()->setStretchLastSection(false);
+    header()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    connect(header(), &QHeaderView::sectionClicked, this, [this](int columna) {
+        lista_->ClicEncabezado(columna);
+        scrollTo(currentIndex());
+        emit Ordenada();
+    });
+    connect(header(), &QHeaderView::sectionResized, this, &ListaVista::Arrastrado);
+}
+
+void ListaVista::Mostrar(ListaTexto *lista) {
+    lista_ = lista;
+    setModel(lista);
+    anchos_.clear();
+    const std::vector<ColumnaLista> &columnas = lista->Columnas();
+    for (std::size_t i = 0; i < columnas.size(); ++i) {
+        anchos_.push_back(columnas[i].ancho);
+        setColumnHidden(static_cast<int>(i), columnas[i].oculta);
+    }
+    RepartirAnchos();
+}
+
+int ListaVista::FilaActual() const {
+    if (selectionModel() == nullptr)
+        return -1;
+    const QItemSelection seleccion = selectionModel()->selection();
+    return seleccion.isEmpty() ? -1 : seleccion.first().top();
+}
+
+void ListaVista::SeleccionarFila(int fila) {
+    if (fila < 0) {
+        selectionModel()->clear();
+        return;
+    }
+    const QModelIndex indice = lista_->index(fila, 0);
+    selectionModel()->setCurrentIndex(indice,
+                                      QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    scrollTo(indice);
+}
+
+void ListaVista::PonerAncho(int columna, int twips) {
+    anchos_[static_cast<std::size_t>(columna)] = twips;
+    RepartirAnchos();
+}
+
+bool ListaVista::DesbordaFilas() const {
+    const double caben = static_cast<double>(height()) * kTwipsPorPunto / kTwipsPorFila - 1.5;
+    return lista_->Filas() > static_cast<int>(caben);
+}
+
+QRect ListaVista::visualRect(const QModelIndex &indice) const {
+    if (!indice.isValid() || isIndexHidden(indice))
+        return {};
+    const int alto = indexRowSizeHint(indice);
+    return {columnViewportPosition(indice.column()), indice.row() * alto - verticalOffset(),
+            columnWidth(indice.column()), alto};
+}
+
+void ListaVista::scrollTo(const QModelIndex &indice, ScrollHint donde) {
+    if (!indice.isValid())
+        return;
+    executeDelayedItemsLayout();
+    const int fila = indice.row();
+    const int caben = std::max(1, viewport()->height() / std::max(1, indexRowSizeHint(indice)));
+    const int primera = verticalScrollBar()->value();
+    if (donde == PositionAtTop || fila < primera)
+        verticalScrollBar()->setValue(fila);
+    else if (donde == PositionAtBottom || fila >= primera + caben)
+        verticalScrollBar()->setValue(fila - caben + 1);
+}
+
+void ListaVista::resizeEvent(QResizeEvent *evento) {
+    QTreeView::resizeEvent(evento);
+    RepartirAnchos();
+}
+
+void ListaVista::keyPressEvent(QKeyEvent *evento) {
+    const int antes = FilaActual();
+    QTreeView::keyPressEvent(evento);
+    if (FilaActual() >= 0 && FilaActual() != antes)
+        emit FilaPulsada(FilaActual());
+}
+
+void ListaVista::mousePressEvent(QMouseEvent *evento) {
+    QTreeView::mousePressEvent(evento);
+    if (evento->button() == Qt::LeftButton && indexAt(evento->position().toPoint()).isValid() &&
+        FilaActual() >= 0)
+        emit FilaPulsada(FilaActual());
+}
+
+// The row that was pressed stays the chosen one while the mouse moves over others.
+void ListaVista::mouseMoveEvent(QMouseEvent *evento) {
+    if (evento->buttons() == Qt::NoButton)
+        QTreeView::mouseMoveEvent(evento);
+}
+
+void ListaVista::RepartirAnchos() {
+    if (lista_.isNull())
+        return;
+    std::vector<int> columnas;
+    std::vector<int> pesos;
+    std::vector<int> minimos;
+    for (int i = 0; i < static_cast<int>(anchos_.size()); ++i) {
+        if (isColumnHidden(i))
+            continue;
+        columnas.push_back(i);
+        pesos.push_back(anchos_[static_cast<std::size_t>(i)]);
+        minimos.push_back(header()->sectionSizeHint(i));
+    }
+    const std::vector<int> anchos = RepartirAncho(viewport()->width(), pesos, minimos);
+    const QScopedValueRollback repartiendo(repartiendo_, true);
+    for (std::size_t i = 0; i < columnas.size(); ++i)
+        setColumnWidth(columnas[i], anchos[i]);
+}
+
+// The operator has dragged a border: what is seen now is the proportion from here on.
+void ListaVista::Arrastrado() {
+    if (repartiendo_ || lista_.isNull())
+        return;
+    for (int i = 0; i < static_cast<int>(anchos_.size()); ++i)
+        if (!isColumnHidden(i))
+            anchos_[static_cast<std::size_t>(i)] = columnWidth(i) * kTwipsPorPunto;
+}
+
+} // namespace tarvo

@@ -1,0 +1,49 @@
+// The operator's hands: a shown window, keys and clicks on controls that are found by their names.
+#pragma once
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QTest>
+
+#include <stdexcept>
+#include <string>
+
+namespace tarvo {
+
+// The control of that objectName below `raiz`; throws when there is none, which fails the test.
+template <typename T> T *Control(const QWidget &raiz, const char *nombre) {
+    T *control = raiz.findChild<T *>(QString::fromUtf8(nombre));
+    if (control == nullptr)
+        throw std::runtime_error(std::string("no control ") + nombre);
+    return control;
+}
+
+// Shows the window and waits until it has the keyboard.
+inline void MostrarVentana(QWidget &ventana) {
+    ventana.show();
+    ventana.activateWindow();
+    if (!QTest::qWaitForWindowActive(&ventana))
+        throw std::runtime_error("the window did not become active");
+}
+
+// Types into the control; it gets the focus first, as by a click.
+inline void Teclear(QWidget *control, const QString &texto) {
+    control->setFocus(Qt::OtherFocusReason);
+    QTest::keyClicks(control, texto);
+}
+
+inline void Tecla(QWidget *control, Qt::Key tecla, Qt::KeyboardModifiers modificadores = Qt::NoModifier) {
+    QTest::keyClick(control, tecla, modificadores);
+}
+
+inline void Pulsar(QWidget *control) {
+    QTest::mouseClick(control, Qt::LeftButton);
+}
+
+// Name of the control that has the focus; empty when none has it.
+inline QString ConFoco() {
+    const QWidget *const control = QApplication::focusWidget();
+    return control == nullptr ? QString() : control->objectName();
+}
+
+} // namespace tarvo
