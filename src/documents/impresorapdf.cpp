@@ -44,7 +44,8 @@ struct Destino {
         AbrirLibre(archivo);
         if (archivo.write(datos) == datos.size() && archivo.flush())
             return;
-        archivo.remove();
+        archivo.close();
+        QFile::remove(archivo.fileName());
         FallarEscritura(archivo.fileName());
     }
 
@@ -71,8 +72,9 @@ QPageLayout HojaRollo(double largo) {
         QPageSize(QSizeF(kAnchoRollo, largo), QPageSize::Millimeter, QString(), QPageSize::ExactMatch));
 }
 
-std::unique_ptr<SuperficiePintada> Pintada(QIODevice &salida, const QPageLayout &hoja, Proposito proposito,
+std::unique_ptr<SuperficiePintada> Pintada(QBuffer &salida, const QPageLayout &hoja, Proposito proposito,
                                            const QString &titulo, std::function<void()> alTerminar = {}) {
+    salida.open(QIODevice::WriteOnly);
     auto escritor = std::make_unique<QPdfWriter>(&salida);
     escritor->setTitle(titulo);
     escritor->setCreator(QStringLiteral("Tarvo"));

@@ -32,7 +32,8 @@ void SuperficieGrabada::Repetir(Superficie &otra) const {
 
 void SuperficieGrabada::Texto(const QString &texto) {
     Anotar([texto](Superficie &otra) { otra.Texto(texto); });
-    trozos_.push_back({pagina_, cabezal_.linea, cabezal_.columna, TextoImprimible(texto), letra_});
+    if (!texto.isEmpty())
+        trozos_.push_back({pagina_, cabezal_.linea, cabezal_.columna, TextoImprimible(texto), letra_});
     cabezal_.columna += static_cast<int>(texto.size());
     int &lineas = lineasDePagina_.back();
     lineas = std::max(lineas, cabezal_.linea + 1);
@@ -112,8 +113,6 @@ QString SuperficieGrabada::Volcado() const {
     double puntos = 0;
     bool negrita = false;
     const auto conMarcas = [&](const Trozo &trozo) {
-        if (trozo.texto.isEmpty())
-            return trozo.texto;
         QString texto = trozo.texto;
         if (std::exchange(negrita, trozo.letra.negrita) != trozo.letra.negrita)
             texto.prepend(trozo.letra.negrita ? QStringLiteral("[n]") : QStringLiteral("[/n]"));
