@@ -23,15 +23,8 @@ struct MundoPrueba {
     EscritorioPrueba escritorio;
     QSettings ajustes{datos.Carpeta() + QStringLiteral("/ajustes.ini"), QSettings::IniFormat};
 
-    FrmBases &frmBases() {
-        if (frmBases_ == nullptr)
-            frmBases_ = &datos.Abrir();
-        return *frmBases_;
-    }
+    FrmBases &frmBases() { return datos.Abrir(); }
     Servicios servicios() { return {frmBases(), preguntas, reloj, impresoras, ajustes, escritorio}; }
-
-  private:
-    FrmBases *frmBases_ = nullptr;
 };
 
 } // namespace tarvo

@@ -26,14 +26,14 @@ class ListaVista : public QTreeView {
     // True when the rows exceed Int(height / 210 - 1.5), height in twips: a scroll bar takes room.
     bool DesbordaFilas() const;
 
+    // Rows are all of one height, so both are told from the row number, whatever the number of rows.
+    QRect visualRect(const QModelIndex &indice) const override;
+    void scrollTo(const QModelIndex &indice, ScrollHint donde = EnsureVisible) override;
+
   signals:
     void FilaPulsada(int fila); // a click or an arrow key chose a row
     void FilaDobleClic(int fila);
     void Ordenada(); // a header click has sorted
-
-    // Rows are all of one height, so both are told from the row number, whatever the number of rows.
-    QRect visualRect(const QModelIndex &indice) const override;
-    void scrollTo(const QModelIndex &indice, ScrollHint donde = EnsureVisible) override;
 
   protected:
     void resizeEvent(QResizeEvent *evento) override;
