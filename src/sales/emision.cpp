@@ -1,0 +1,137 @@
+#include "sales/emision.h"
+
+#include "desktop/preguntas.h"
+#include "documents/impresoras.h"
+#include "store/errordatos.h"
+#include "store/store.h"
+#include "store/transaccion.h"
+
+namespace tarvo {
+
+namespace {
+
+void EscribirDocumento(FrmBases &bases, const Venta &venta, const DatosComprobante &comprobante) {
+    const ClienteVenta &cliente = venta.Cliente();
+    bases.datVentas.AddNew();
+    bases.camVentFecha = comprobante.fecha;
+    bases.camVentHora = comprobante.hora;
+    bases.camVentIdCliente = cliente.nombre.isEmpty() ? QStringLiteral("0") : cliente.id;
+    bases.camVentTipo = venta.pago() == Pago::Contado ? QStringLiteral("Contado") : QStringLiteral("Credito");
+    bases.camVentDescripcion = DescripcionFactura(venta.pago());
+    bases.camVentSubtotal = comprobante.totales.subtotal;
+    bases.camVentIVA = comprobante.totales.iva;
+    bases.camVentTotal = comprobante.totales.conDescuento;
+    bases.camVentNumComp = comprobante.numComp;
+    bases.camVentIdOperador = IdVendedor(bases, comprobante.vendedor);
+    bases.datVentas.Refresh();
+}
+
+// The working stock is written as it stands, not as a difference: a change made elsewhere since the list was
+// filled is lost. A line whose article is gone, from the list or from the table, writes nothing.
+void EscribirStock(FrmBases &bases, const Venta &venta) {
+    const ListaTexto &detalle = venta.Detalle();
+    bases.datArticulos.Index(QStringLiteral("primarykey"));
+    for (int fila = 0; fila < detalle.Filas(); ++fila) {
+        const QString id = detalle.Celda(fila, linea::IdArticulo);
+        const int filaArticulo = venta.FilaArticulo(id);
+        if (filaArticulo < 0)
+            continue;
+        bases.datArticulos.Refresh();
+        if (bases.datArticulos.Seek(QStringLiteral("="), id))
+            bases.camArtStock = venta.Articulos().Celda(filaArticulo, articulo::Stock);
+    }
+    bases.datArticulos.Refresh();
+}
+
+bool IntentarGuardar(const Servicios &servicios, const Venta &venta, const DatosComprobante &comprobante) {
+    try {
+        GuardarVenta(servicios.frmBases, venta, comprobante);
+        return true;
+    } catch (const ErrorDatos &error) {
+        servicios.preguntas.Mostrar(
+            QStringLiteral(
+                "No se pudo guardar la venta: %1\n\nNo se registró nada y la venta sigue en pantalla: "
+                "puede emitirla otra vez.")
+                .arg(error.Descripcion()),
+            Icono::Critico);
+        return false;
+    }
+}
+
+void OfrecerTicket(const Servicios &servicios, const Venta &venta, const DatosComprobante &comprobante) {
+    if (!servicios.preguntas.Confirma(QStringLiteral("Desea imprimir el ticket?"), Respuesta::Si))
+        return;
+    try {
+        const SolicitudTicket solicitud = PedirTicket(servicios.frmBases, venta, comprobante);
+        servicios.impresoras.HacerActual(comprobante.impresora);
+        const auto papel = servicios.impresoras.NuevoDocumento(Proposito::Ticket, solicitud.titulo);
+        ImprimirTicket(*papel, solicitud);
+    } catch (const ErrorDatos &error) {
+        servicios.preguntas.Mostrar(
+            QStringLiteral("No se pudo imprimir el ticket: %1\n\nLa venta quedó guardada.")
+                .arg(error.Descripcion()),
+            Icono::Critico);
+    }
+}
+
+} // namespace
+
+QString DescripcionFactura(Pago pago) {
+    return pago == Pago::Contado ? QStringLiteral("Factura contado") : QStringLiteral("Factura crédito");
+}
+
+void GuardarVenta(FrmBases &frmBases, const Venta &venta, const DatosComprobante &comprobante) {
+    Transaccion transaccion(frmBases);
+    EscribirDocumento(frmBases, venta, comprobante);
+    EscribirStock(frmBases, venta);
+    transaccion.Confirmar();
+}
+
+SolicitudTicket PedirTicket(FrmBases &frmBases, const Venta &venta, const DatosComprobante &comprobante) {
+    SolicitudTicket ticket;
+    ticket.cabecera = LeerCabecera(frmBases);
+    ticket.fecha = comprobante.fecha;
+    ticket.hora = comprobante.hora;
+    ticket.titulo = DescripcionFactura(venta.pago());
+    ticket.numero = comprobante.numComp;
+    ticket.cliente = venta.Cliente().nombre;
+    ticket.idFiscal = venta.Cliente().ruc;
+    const ListaTexto &detalle = venta.Detalle();
+    for (int fila = 0; fila < detalle.Filas(); ++fila)
+        ticket.lineas.push_back({detalle.Celda(fila, linea::Nombre), detalle.Celda(fila, linea::Cantidad),
+                                 detalle.Celda(fila, linea::Precio), detalle.Celda(fila, linea::Subtotal)});
+    ticket.subtotal = comprobante.totales.subtotal;
+    ticket.iva = comprobante.totales.iva;
+    if (const ImpuestoPersonalizado impuesto = venta.Impuesto(); impuesto.utilizar) {
+        ticket.nombreImpuesto = impuesto.nombre;
+        ticket.impuesto = comprobante.totales.impuesto;
+    }
+    ticket.total = comprobante.totales.total;
+    ticket.descuento = venta.TextoDescuento();
+    ticket.totalConDescuento = comprobante.totales.conDescuento;
+    ticket.vendedor = comprobante.vendedor;
+    return ticket;
+}
+
+ResultadoEmision Emitir(const Servicios &servicios, const Venta &venta,
+                        const std::function<DatosComprobante()> &leer) {
+    Preguntas &preguntas = servicios.preguntas;
+    if (!venta.EnCurso()) {
+        preguntas.Informar(QStringLiteral("Debe agregar al menos un artículo a la lista."));
+        return ResultadoEmision::SinLineas;
+    }
+    if (leer().vendedor == SinVendedor()) {
+        preguntas.Mostrar(QStringLiteral("Debe seleccionar un vendedor."), Icono::Ninguno);
+        return ResultadoEmision::SinVendedor;
+    }
+    if (!preguntas.Confirma(QStringLiteral("Confirma la emisión de la factura?"), Respuesta::Si))
+        return ResultadoEmision::NoConfirmada;
+    const DatosComprobante comprobante = leer();
+    if (!IntentarGuardar(servicios, venta, comprobante))
+        return ResultadoEmision::NoGuardada;
+    OfrecerTicket(servicios, venta, comprobante);
+    preguntas.Informar(QStringLiteral("La venta se realizó con exito."));
+    return ResultadoEmision::Emitida;
+}
+
+} // namespace tarvo

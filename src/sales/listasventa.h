@@ -1,0 +1,47 @@
+// The lists of the sale window: their columns, and how they are filled from the store.
+//
+// A fill replaces all rows. The store's columns are shared with the list and not copied; only the price, the
+// IVA and the tones of the stock are worked out per row. A fill that the store refuses leaves its list empty,
+// and so does a table that could not be opened.
+#pragma once
+
+#include "desktop/listatexto.h"
+
+#include <QStringList>
+
+namespace tarvo {
+
+class FrmBases;
+class Moneda;
+
+// Columns of LVArticulos. The stock is the working copy: every add and remove of the sale changes it.
+namespace articulo {
+enum Columna { Codigo, CodBarras, Nombre, Stock, Precio, Iva, Id, TipoIva };
+}
+// Columns of LVDetalle, the document in progress. The article's id is the key of a line.
+namespace linea {
+enum Columna { Codigo, Nombre, Precio, Cantidad, Subtotal, IdArticulo, Iva };
+}
+// Columns of LVClientes.
+namespace cliente {
+enum Columna { Codigo, Nombre, Telefono, IFiscal, Id };
+}
+
+std::vector<ColumnaLista> ColumnasArticulos();
+std::vector<ColumnaLista> ColumnasDetalle();
+std::vector<ColumnaLista> ColumnasClientes();
+
+void CargarArticulos(FrmBases &frmBases, ListaTexto &articulos);
+void CargarClientes(FrmBases &frmBases, ListaTexto &clientes);
+
+// First entry of the seller combo: no seller chosen.
+QString SinVendedor();
+// The entries of the seller combo, the first one is SinVendedor().
+QStringList CargarVendedores(FrmBases &frmBases);
+// `id` of the seller whose entry reads `texto`; empty when there is none (any more).
+QString IdVendedor(FrmBases &frmBases, const QString &texto);
+
+// Tone of a stock cell: green at 0, red below, normal above.
+Tono TonoStock(double stock);
+
+} // namespace tarvo

@@ -1,0 +1,131 @@
+#include "sales/venta.h"
+
+#include "store/store.h"
+
+#include <algorithm>
+
+namespace tarvo {
+
+namespace {
+
+QString TextoNumero(double valor, const Moneda &moneda) {
+    return QString::number(valor, 'g', 15).replace(QLatin1Char('.'), moneda.sDecimal());
+}
+
+} // namespace
+
+Venta::Venta(FrmBases &frmBases)
+    : frmBases_(frmBases), articulos_(ColumnasArticulos()), detalle_(ColumnasDetalle()) {}
+
+void Venta::CargarArticulos() {
+    filasConocidas_.clear();
+    tarvo::CargarArticulos(frmBases_, articulos_);
+}
+
+int Venta::Agregar(int fila, qint64 cantidad) {
+    if (fila < 0 || fila >= articulos_.Filas())
+        return -1;
+    const QString id = articulos_.Celda(fila, articulo::Id);
+    filasConocidas_.insert(id, fila);
+    int renglon = detalle_.Buscar(linea::IdArticulo, articulos_.CeldaUtf8(fila, articulo::Id));
+    qint64 total = cantidad;
+    if (renglon >= 0)
+        total += detalle_.Celda(renglon, linea::Cantidad).toLongLong();
+    else
+        renglon = detalle_.AgregarFila({articulos_.Celda(fila, articulo::Codigo),
+                                        articulos_.Celda(fila, articulo::Nombre),
+                                        articulos_.Celda(fila, articulo::Precio),
+                                        {},
+                                        {},
+                                        id,
+                                        {}});
+    DescontarStock(fila, cantidad);
+    CompletarLinea(renglon, total, fila);
+    return renglon;
+}
+
+void Venta::CompletarLinea(int fila, qint64 cantidad, int filaArticulo) {
+    const Moneda &moneda = frmBases_.moneda();
+    const auto unidades = static_cast<double>(cantidad);
+    const double precioLinea = moneda.Importe(detalle_.Celda(fila, linea::Precio));
+    const double precio = moneda.Importe(articulos_.Celda(filaArticulo, articulo::Precio));
+    // The neutral reading stops at a comma: 10,5% is charged as 10.
+    const double porcentaje = Moneda::NumeroNeutro(articulos_.CeldaUtf8(filaArticulo, articulo::Iva));
+    detalle_.PonerCelda(fila, linea::Cantidad, QString::number(cantidad));
+    detalle_.PonerCelda(fila, linea::Subtotal, moneda.FormatoMoneda(unidades * precioLinea, true));
+    detalle_.PonerCelda(fila, linea::Iva, moneda.FormatoMoneda(precio * (porcentaje / 100) * unidades, true));
+}
+
+void Venta::DescontarStock(int fila, qint64 cantidad) {
+    const Moneda &moneda = frmBases_.moneda();
+    const double stock =
+        moneda.Numero(articulos_.CeldaUtf8(fila, articulo::Stock)) - static_cast<double>(cantidad);
+    articulos_.PonerCelda(fila, articulo::Stock, TextoNumero(stock, moneda));
+    articulos_.PonerTono(fila, articulo::Stock, TonoStock(stock));
+}
+
+void Venta::Quitar(int fila) {
+    if (fila < 0 || fila >= detalle_.Filas())
+        return;
+    const int filaArticulo = FilaArticulo(detalle_.Celda(fila, linea::IdArticulo));
+    if (filaArticulo >= 0)
+        DescontarStock(filaArticulo, -detalle_.Celda(fila, linea::Cantidad).toLongLong());
+    detalle_.QuitarFila(fila);
+}
+
+void Venta::Reiniciar() {
+    CargarArticulos();
+    detalle_.Limpiar();
+    QuitarCliente();
+    consumidorFinal_ = true;
+}
+
+bool Venta::PonerPago(Pago pago) {
+    if (pago == Pago::Credito && cliente_.nombre.isEmpty())
+        return false;
+    pago_ = pago;
+    return true;
+}
+
+void Venta::QuitarCliente() {
+    cliente_ = {};
+    pago_ = Pago::Contado;
+}
+
+void Venta::ElegirCliente(const ListaTexto &clientes, int fila) {
+    cliente_ = {clientes.Celda(fila, cliente::Nombre), clientes.Celda(fila, cliente::IFiscal),
+                clientes.Celda(fila, cliente::Id)};
+    consumidorFinal_ = cliente_.ruc.isEmpty();
+}
+
+void Venta::PonerConsumidorFinal(bool si) {
+    if (si && !cliente_.ruc.isEmpty())
+        QuitarCliente();
+    consumidorFinal_ = si || cliente_.ruc.isEmpty();
+}
+
+QString Venta::TextoDescuento() const {
+    return QStringLiteral("%1 %").arg(descuento_);
+}
+
+void Venta::PonerDescuento(const QString &tecleado) {
+    // Read as a double, so that any number of digits is just a big number.
+    descuento_ = static_cast<int>(std::clamp(tecleado.toDouble(), 0.0, 100.0));
+}
+
+Totales Venta::CalcularTotales() const {
+    return tarvo::CalcularTotales(detalle_, Impuesto(), !cliente_.ruc.isEmpty(), descuento_,
+                                  frmBases_.moneda());
+}
+
+int Venta::FilaArticulo(const QString &id) const {
+    const QByteArray utf8 = id.toUtf8();
+    const std::string_view buscado(utf8.constData(), static_cast<std::size_t>(utf8.size()));
+    const int conocida = filasConocidas_.value(id, -1);
+    if (conocida >= 0 && conocida < articulos_.Filas() &&
+        articulos_.CeldaUtf8(conocida, articulo::Id) == buscado)
+        return conocida;
+    return articulos_.Buscar(articulo::Id, buscado);
+}
+
+} // namespace tarvo

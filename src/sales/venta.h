@@ -1,0 +1,90 @@
+// The sale in progress: its article list with the working stock, its lines, customer, payment kind and
+// discount.
+//
+// It lives in memory alone. Nothing reaches the store before the issue (emision.h), and a fresh article list
+// drops the working stock. Rows are those of the lists, in the order on screen.
+#pragma once
+
+#include "sales/listasventa.h"
+#include "sales/totales.h"
+
+#include <QHash>
+
+namespace tarvo {
+
+class FrmBases;
+
+enum class Pago { Contado, Credito };
+
+struct ClienteVenta {
+    QString nombre;
+    QString ruc; // fiscal id
+    QString id;
+};
+
+class Venta {
+  public:
+    explicit Venta(FrmBases &frmBases);
+
+    ListaTexto &Articulos() { return articulos_; }
+    const ListaTexto &Articulos() const { return articulos_; }
+    ListaTexto &Detalle() { return detalle_; }
+    const ListaTexto &Detalle() const { return detalle_; }
+    bool EnCurso() const { return detalle_.Filas() > 0; }
+
+    // Fills the article list anew from the store.
+    void CargarArticulos();
+
+    // Adds `cantidad` units of the article in row `fila`: to its line, or as a new line at the end. There is
+    // no check against the stock, which may fall below zero. Returns the line; -1, and nothing changes,
+    // without such a row.
+    int Agregar(int fila, qint64 cantidad);
+    // Removes the whole line and gives its quantity back to the working stock.
+    void Quitar(int fila);
+
+    // Starts over: no lines, no customer, cash, consumer final, fresh stock. The discount stays.
+    void Reiniciar();
+
+    Pago pago() const { return pago_; }
+    // False, and nothing changes, for credit without a customer.
+    bool PonerPago(Pago pago);
+
+    const ClienteVenta &Cliente() const { return cliente_; }
+    // The customer in row `fila` of a list with the columns of LVClientes. A fiscal id switches "consumer
+    // final" off, its absence on; the payment kind stays.
+    void ElegirCliente(const ListaTexto &clientes, int fila);
+
+    bool ConsumidorFinal() const { return consumidorFinal_; }
+    // The operator's switch. On, with a fiscal customer: the customer is dropped and the sale is cash again.
+    // Off, without one: it stays on.
+    void PonerConsumidorFinal(bool si);
+
+    int Descuento() const { return descuento_; }
+    QString TextoDescuento() const; // "10 %"
+    // The field as the operator left it: digits; empty is 0, above 100 is 100.
+    void PonerDescuento(const QString &tecleado);
+
+    ImpuestoPersonalizado Impuesto() const { return LeerImpuesto(frmBases_); }
+    Totales CalcularTotales() const;
+
+    // Row of LVArticulos of that article, -1 when the list does not have it.
+    int FilaArticulo(const QString &id) const;
+
+  private:
+    void QuitarCliente();
+    void DescontarStock(int fila, qint64 cantidad);
+    void CompletarLinea(int fila, qint64 cantidad, int filaArticulo);
+
+    FrmBases &frmBases_;
+    ListaTexto articulos_;
+    ListaTexto detalle_;
+    // Where the articles of the lines were when they were added: the first place to look, since the list may
+    // hold many thousands and seldom changes its order.
+    QHash<QString, int> filasConocidas_;
+    ClienteVenta cliente_;
+    Pago pago_ = Pago::Contado;
+    bool consumidorFinal_ = true;
+    int descuento_ = 0;
+};
+
+} // namespace tarvo

@@ -1,0 +1,95 @@
+#include "sales/ventanas/barrabusqueda.h"
+
+#include "desktop/preguntas.h"
+#include "desktop/ventanas/filtrocampos.h"
+#include "desktop/ventanas/iconos.h"
+#include "desktop/ventanas/kitmenu.h"
+#include "desktop/ventanas/listavista.h"
+
+#include <QAction>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPushButton>
+#include <QStyle>
+#include <QToolBar>
+#include <QToolButton>
+
+namespace tarvo {
+
+BarraBusqueda::BarraBusqueda(const ControlesBusqueda &controles, std::vector<ModoBusqueda> modos,
+                             Buscador &buscador, Preguntas &preguntas, FiltroCampos &filtro)
+    : QObject(controles.barra),
+      c_(controles),
+      modos_(std::move(modos)),
+      actual_(modos_.front()),
+      buscador_(buscador),
+      preguntas_(preguntas),
+      buscar_(new QAction(IconoDe(QStringLiteral("buscar")), QStringLiteral("Buscar"), controles.barra)) {
+    buscar_->setObjectName(QStringLiteral("buscar"));
+    buscar_->setCheckable(true);
+    buscar_->setChecked(true);
+    c_.barra->addAction(buscar_);
+    PonerMenu();
+    c_.boton->setText(actual_.titulo);
+    connect(buscar_, &QAction::toggled, this, &BarraBusqueda::Usar);
+    connect(c_.boton, &QPushButton::clicked, this, &BarraBusqueda::Buscar);
+    connect(c_.campo, &QLineEdit::textChanged, this, [this] { buscador_.Reiniciar(); });
+    filtro.AlEntrar(c_.campo, [this] { Buscar(); });
+}
+
+void BarraBusqueda::PonerMenu() {
+    auto *menu = new QMenu(c_.barra);
+    QList<EntradaMenu> entradas;
+    for (const ModoBusqueda &modo : modos_)
+        entradas.append({modo.clave, modo.menu, QString(), modo.clave, QString(), false, {}});
+    LlenarMenu(menu, entradas);
+    for (const ModoBusqueda &modo : modos_)
+        connect(AccionDe(menu, modo.clave), &QAction::triggered, this, [this, &modo] { ElegirModo(modo); });
+    buscar_->setMenu(menu);
+    if (auto *boton = qobject_cast<QToolButton *>(c_.barra->widgetForAction(buscar_)))
+        boton->setPopupMode(QToolButton::MenuButtonPopup);
+}
+
+void BarraBusqueda::ElegirModo(const ModoBusqueda &modo) {
+    actual_ = modo;
+    c_.boton->setText(modo.titulo);
+    buscar_->setChecked(true);
+    c_.campo->setFocus();
+}
+
+void BarraBusqueda::Usar(bool si) {
+    c_.campo->setEnabled(si);
+    c_.boton->setEnabled(si);
+    c_.campo->setProperty("sinDatos", !si);
+    c_.campo->style()->polish(c_.campo);
+}
+
+bool BarraBusqueda::EnUso() const {
+    return buscar_->isChecked();
+}
+
+void BarraBusqueda::Empezar() {
+    c_.campo->clear();
+    buscar_->setChecked(true);
+    c_.campo->setFocus();
+}
+
+void BarraBusqueda::Buscar() {
+    const QString texto = c_.campo->text();
+    if (texto.isEmpty()) {
+        c_.campo->setFocus();
+        return;
+    }
+    const int fila = buscador_.Buscar(*c_.lista->Lista(), {actual_.columna}, texto);
+    if (fila < 0) {
+        preguntas_.Informar(QStringLiteral("La búsqueda ha finalizado."));
+        c_.lista->setFocus();
+        emit Terminado();
+        return;
+    }
+    c_.lista->SeleccionarFila(fila);
+    c_.campo->selectAll();
+    emit Encontrado(actual_.clave);
+}
+
+} // namespace tarvo

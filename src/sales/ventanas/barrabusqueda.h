@@ -1,0 +1,69 @@
+// The search bar of a list: a toolbar with the check button `buscar` and its menu of search modes, a field,
+// and a button whose caption is the current mode.
+//
+// The check button gives or takes the use of field and button; a mode of the menu gives it and moves the
+// focus to the field. The start row lies in a Buscador that several bars of one window may share.
+#pragma once
+
+#include "desktop/buscador.h"
+
+#include <QObject>
+
+class QAction;
+class QLineEdit;
+class QPushButton;
+class QToolBar;
+
+namespace tarvo {
+
+class FiltroCampos;
+class ListaVista;
+class Preguntas;
+
+struct ModoBusqueda {
+    QString clave;  // objectName of the menu entry, and its picture
+    QString menu;   // its caption
+    QString titulo; // the caption that it puts on the button
+    int columna = 0;
+};
+
+// The controls of a bar, all of one window.
+struct ControlesBusqueda {
+    QToolBar *barra;
+    QLineEdit *campo;
+    QPushButton *boton;
+    ListaVista *lista;
+};
+
+class BarraBusqueda : public QObject {
+    Q_OBJECT
+  public:
+    // The first of `modos` is current.
+    BarraBusqueda(const ControlesBusqueda &controles, std::vector<ModoBusqueda> modos, Buscador &buscador,
+                  Preguntas &preguntas, FiltroCampos &filtro);
+
+    // Searches on from the start row: selects the row of a hit and the text in the field, tells the end.
+    void Buscar();
+    // Empties the field, presses the button `buscar` and moves the focus to the field.
+    void Empezar();
+    // The button `buscar` is pressed.
+    bool EnUso() const;
+
+  signals:
+    void Encontrado(const QString &modo); // its key
+    void Terminado();                     // the end without a hit, after the operator was told
+
+  private:
+    void PonerMenu();
+    void ElegirModo(const ModoBusqueda &modo);
+    void Usar(bool si);
+
+    ControlesBusqueda c_;
+    std::vector<ModoBusqueda> modos_;
+    ModoBusqueda actual_;
+    Buscador &buscador_;
+    Preguntas &preguntas_;
+    QAction *buscar_;
+};
+
+} // namespace tarvo
