@@ -1,0 +1,30 @@
+// How the options read and write their one-row tables: a read that fails leaves the panel as it is and says
+// nothing, a write is one transaction and a refusal is told.
+#pragma once
+
+#include "desktop/servicios.h"
+#include "store/errordatos.h"
+
+#include <functional>
+
+namespace tarvo {
+
+class Cursor;
+
+// Makes the only row of a one-row table current. False when the table is closed or has lost its row.
+bool FilaUnica(Cursor &cursor);
+
+// What `leer` gives, or an empty value when the table can't be read.
+template <typename Leer> auto LeerCallando(Leer leer) -> decltype(leer()) {
+    try {
+        return leer();
+    } catch (const ErrorDatos &) {
+        return {};
+    }
+}
+
+// Runs `escribir`, which writes fields of the only row of `cursor`, as one transaction. When the row isn't
+// there or the disk refuses, nothing is written, the operator reads why, and the result is false.
+bool EscribirFilaUnica(const Servicios &servicios, Cursor &cursor, const std::function<void()> &escribir);
+
+} // namespace tarvo

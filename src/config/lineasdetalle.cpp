@@ -1,0 +1,30 @@
+#include "config/lineasdetalle.h"
+
+#include "config/escritura.h"
+#include "desktop/preguntas.h"
+#include "store/store.h"
+
+namespace tarvo {
+
+QString LineasDetalle::Cargar() {
+    return LeerCallando([&bases = servicios_.frmBases] {
+        FilaUnica(bases.datFactura);
+        return bases.camFacCantLineas.Texto();
+    });
+}
+
+bool LineasDetalle::Escribir(const QString &texto) {
+    const QString numero = QString::number(Moneda::NumeroNeutro(texto), 'f', 0);
+    return EscribirFilaUnica(servicios_, servicios_.frmBases.datFactura,
+                             [&] { servicios_.frmBases.camFacCantLineas = numero; });
+}
+
+bool LineasDetalle::Admite(const QString &texto) {
+    if (Moneda::NumeroNeutro(texto) <= kMaximo)
+        return true;
+    servicios_.preguntas.Informar(
+        QStringLiteral("La cantidad de lineas de detalle debe ser menor o igual a 30."));
+    return false;
+}
+
+} // namespace tarvo

@@ -1,0 +1,114 @@
+#include "config/ventanas/frmconfig.h"
+
+#include "config/nodosopciones.h"
+#include "config/ventanas/panelcategorias.h"
+#include "config/ventanas/panelimpresion.h"
+#include "config/ventanas/panelimpuestos.h"
+#include "config/ventanas/panellista.h"
+#include "config/ventanas/panelticket.h"
+#include "config/ventanas/panelvendedores.h"
+#include "desktop/ventanas/filtrocampos.h"
+#include "desktop/ventanas/iconos.h"
+#include "ui_frmconfig.h"
+
+#include <QKeyEvent>
+#include <QStandardItemModel>
+
+namespace tarvo {
+
+FrmConfig::FrmConfig(const Servicios &servicios, bool abrirDisenador, QWidget *padre)
+    : QDialog(padre), ui_(std::make_unique<Ui::FrmConfig>()), arbol_(new QStandardItemModel(this)) {
+    ui_->setupUi(this);
+    CrearPaneles(servicios);
+    CrearArbol();
+    Llenar();
+    ConectarTeclas();
+    SeleccionarNodo(abrirDisenador ? kNodoImpresion : 0);
+}
+
+FrmConfig::~FrmConfig() = default;
+
+void FrmConfig::CrearPaneles(const Servicios &servicios) {
+    frImpuestos = new PanelImpuestos(servicios);
+    frCategorias = new PanelCategorias(servicios);
+    frVendedores = new PanelVendedores(servicios);
+    frImpresion = new PanelImpresion(servicios);
+    for (QWidget *panel :
+         std::initializer_list<QWidget *>{frImpuestos, frCategorias, frVendedores, frImpresion})
+        ui_->paneles->addWidget(panel);
+    for (PanelLista *lista : {&frImpuestos->Lista(), &frCategorias->Lista(), &frVendedores->Lista()})
+        connect(lista, &PanelLista::ListaHabilitada, ui_->TVOpciones, &QWidget::setEnabled);
+    picTicket = new PanelTicket(servicios, frImpresion->ImpresoraTicket(), this);
+    ui_->rejilla->addWidget(picTicket, 0, 0, Qt::AlignCenter);
+    picTicket->hide();
+    connect(frImpresion, &PanelImpresion::LineasTicketPedidas, this, [this] { MostrarTicket(true); });
+    connect(picTicket, &PanelTicket::CierrePedido, this, [this] { MostrarTicket(false); });
+}
+
+void FrmConfig::CrearArbol() {
+    for (const NodoOpciones &nodo : NodosOpciones()) {
+        auto *fila = new QStandardItem(IconoDe(nodo.imagen), nodo.texto);
+        fila->setData(nodo.clave, Qt::UserRole);
+        arbol_->appendRow(fila);
+    }
+    ui_->TVOpciones->setModel(arbol_);
+    connect(ui_->TVOpciones->selectionModel(), &QItemSelectionModel::currentChanged, this,
+            [this](const QModelIndex &nodo) { MostrarPanel(nodo.row()); });
+}
+
+void FrmConfig::Llenar() {
+    for (PanelLista *lista : {&frImpuestos->Lista(), &frCategorias->Lista(), &frVendedores->Lista()})
+        lista->Logica().LlenarLista();
+    frImpuestos->CargarPersonalizado();
+    frImpresion->LlenarImpresoras();
+    picTicket->Cargar();
+    frImpresion->CargarDetalle();
+}
+
+void FrmConfig::ConectarTeclas() {
+    auto *filtro = new FiltroCampos(this);
+    frImpuestos->ConectarTeclas(*filtro);
+    frCategorias->ConectarTeclas(*filtro);
+    frVendedores->ConectarTeclas(*filtro);
+    frImpresion->ConectarTeclas(*filtro);
+    filtro->AlEscapar([this] {
+        if (picTicket->isVisible())
+            MostrarTicket(false);
+        else
+            reject();
+        return true;
+    });
+}
+
+void FrmConfig::SeleccionarNodo(int nodo) {
+    ui_->TVOpciones->setCurrentIndex(arbol_->index(nodo, 0));
+}
+
+void FrmConfig::MostrarPanel(int nodo) {
+    const NodoOpciones &elegido = NodosOpciones().at(std::size_t(nodo));
+    ui_->paneles->setCurrentWidget(ui_->paneles->findChild<QWidget *>(elegido.panel));
+    ui_->lblTitulo->setText(elegido.titulo);
+}
+
+void FrmConfig::MostrarTicket(bool visible) {
+    ui_->frFondo->setEnabled(!visible);
+    picTicket->setVisible(visible);
+    if (!visible)
+        return;
+    picTicket->raise();
+    picTicket->setFocus();
+}
+
+void FrmConfig::done(int resultado) {
+    if (frImpresion->EnDetalle() && !frImpresion->PermiteSalirDeDetalle())
+        return;
+    QDialog::done(resultado);
+}
+
+// Enter is for the fields and for the button with the focus; it never presses another one.
+void FrmConfig::keyPressEvent(QKeyEvent *evento) {
+    if (evento->key() != Qt::Key_Return && evento->key() != Qt::Key_Enter)
+        QDialog::keyPressEvent(evento);
+}
+
+} // namespace tarvo

@@ -1,0 +1,112 @@
+// The options window as a whole: tree, titles, keys.
+#include "config/nodosopciones.h"
+#include "opcionesprueba.h"
+
+#include <QLabel>
+
+using namespace tarvo;
+
+namespace {
+
+class Ventana : public OpcionesPrueba {
+  protected:
+    QString Titulo() { return Control<QLabel>(*ventana, "lblTitulo")->text(); }
+    QString PanelesVisibles() {
+        QStringList visibles;
+        for (const char *panel : {"frImpuestos", "frCategorias", "frVendedores", "frImpresion"})
+            if (Control<QWidget>(*ventana, panel)->isVisible())
+                visibles << QString::fromLatin1(panel);
+        return visibles.join(QLatin1Char(' '));
+    }
+};
+
+TEST_F(Ventana, TheTreeShowsOnePanelUnderItsTitle) {
+    struct Nodo {
+        const char *clave;
+        const char *texto;
+        const char *panel;
+        const char *titulo;
+    };
+    const Nodo nodos[] = {
+        {"Impuestos", "Impuestos", "frImpuestos", "Configuración de impuestos"},
+        {"Categorías", "Artículos", "frCategorias", "Configuración de categorías"},
+        {"Vendedores", "Vendedores", "frVendedores", "Configuración de vendedores"},
+        {"Impresión", "Impresión", "frImpresion", "Configuración de impresión"},
+    };
+    Abrir();
+    EXPECT_EQ(ventana->windowTitle(), QStringLiteral("Opciones"));
+    auto *arbol = Control<QTreeView>(*ventana, "TVOpciones");
+    ASSERT_EQ(arbol->model()->rowCount(), 4);
+    arbol->setFocus();
+    for (int i = 0; i < 4; ++i) {
+        const Nodo &nodo = nodos[i];
+        const QModelIndex fila = arbol->model()->index(i, 0);
+        EXPECT_EQ(arbol->currentIndex(), fila);
+        EXPECT_EQ(fila.data(Qt::UserRole).toString(), QString::fromUtf8(nodo.clave));
+        EXPECT_EQ(fila.data().toString(), QString::fromUtf8(nodo.texto));
+        EXPECT_FALSE(fila.data(Qt::DecorationRole).value<QIcon>().isNull());
+        EXPECT_EQ(PanelesVisibles(), QString::fromUtf8(nodo.panel));
+        EXPECT_EQ(Titulo(), QString::fromUtf8(nodo.titulo));
+        Tecla(arbol, Qt::Key_Down);
+    }
+}
+
+TEST_F(Ventana, TheRequestForTheDesignerStartsOnThePrintPanel) {
+    Abrir(true);
+    EXPECT_EQ(PanelesVisibles(), QStringLiteral("frImpresion"));
+    EXPECT_EQ(Titulo(), QStringLiteral("Configuración de impresión"));
+}
+
+TEST_F(Ventana, ASellerIsEnteredWithTheKeyboardAlone) {
+    Abrir();
+    ElegirNodo(2);
+    Boton("cmdVenNuevo")->setFocus();
+    Tecla(Boton("cmdVenNuevo"), Qt::Key_Return);
+    for (const char *texto : {"1", "Ñandú", "30-1", "Calle 2", "555", "a@b", "ninguno"}) {
+        tarvo::Teclear(QApplication::focusWidget(), QString::fromUtf8(texto));
+        Tecla(QApplication::focusWidget(), Qt::Key_Return);
+    }
+    EXPECT_EQ(ConFoco(), QStringLiteral("cmdVenGuardar"));
+    Tecla(QApplication::focusWidget(), Qt::Key_Return);
+    EXPECT_EQ(Filas("SELECT codigo, nombre, documento, direccion, telefono, mail, otros FROM Vendedores"),
+              QStringLiteral("1|Ñandú|30-1|Calle 2|555|a@b|ninguno"));
+    EXPECT_EQ(ConFoco(), QStringLiteral("LVVendedores"));
+}
+
+TEST_F(Ventana, EnterInTheCategoryNameSavesAndInAListPressesNothing) {
+    Abrir();
+    ElegirNodo(1);
+    Pulsar("cmdCatNuevo");
+    Teclear("txtCatCodigo", "1x2");
+    Tecla(Campo("txtCatCodigo"), Qt::Key_Return);
+    tarvo::Teclear(QApplication::focusWidget(), QStringLiteral("Bebidas"));
+    Tecla(QApplication::focusWidget(), Qt::Key_Return);
+    EXPECT_EQ(Filas("SELECT codigo, categoria FROM Categorias"), QStringLiteral("12|Bebidas"));
+    Tecla(Lista("LVCategorias"), Qt::Key_Return);
+    EXPECT_TRUE(Boton("cmdCatNuevo")->isEnabled());
+}
+
+// An opening that stops at a missing table leaves that one and the ones behind it closed.
+TEST_F(Ventana, ClosedTablesAreToldAndNotWritten) {
+    Sql("DROP TABLE Factura");
+    FrmBases &bases = mundo.datos.Bases();
+    ASSERT_EQ(bases.Abrir().estado, EstadoApertura::Parcial);
+    ventana = std::make_unique<FrmConfig>(
+        Servicios{bases, mundo.preguntas, mundo.reloj, mundo.impresoras, mundo.ajustes, mundo.escritorio},
+        true);
+    MostrarVentana(*ventana);
+    EsperaMensaje("No se pudo guardar: la tabla Factura no está abierta.", Icono::Critico);
+    Teclear("txtLinDetalle", "5");
+    EXPECT_EQ(Texto("txtLinDetalle"), QStringLiteral("5"));
+    Pulsar("cmdLineasTicket");
+    EsperaMensaje("No se pudo guardar: la tabla Ticket no está abierta.", Icono::Critico);
+    Pulsar("cmdGuardarTicket");
+    Pulsar("cmdCerrarTicket");
+    ElegirNodo(2);
+    EXPECT_TRUE(Boton("cmdVenNuevo")->isEnabled());
+    EXPECT_FALSE(Boton("cmdVenGuardar")->isEnabled());
+    ElegirNodo(0);
+    Pulsar("cmdGuardarPersonalizado"); // this table is open
+}
+
+} // namespace

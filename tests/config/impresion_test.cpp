@@ -1,0 +1,239 @@
+// The print panel: lines of an invoice, printers, and the ticket lines above it.
+#include "config/listaimpresoras.h"
+#include "config/nodosopciones.h"
+#include "opcionesprueba.h"
+
+#include <SQLiteCpp/SQLiteCpp.h>
+
+#include <QAbstractItemModelTester>
+#include <QAction>
+#include <QFile>
+#include <QToolBar>
+
+using namespace tarvo;
+
+namespace {
+
+class Impresion : public OpcionesPrueba {
+  protected:
+    void AbrirPanel() {
+        Abrir();
+        ElegirNodo(kNodoImpresion);
+    }
+    QString CantLineas() { return Filas("SELECT cantlineas FROM Factura"); }
+    // What the file itself holds, as another program would find it after a crash.
+    QString EnDisco(const char *consulta) {
+        const QString copia = mundo.datos.Carpeta() + QStringLiteral("/copia.db");
+        QFile::remove(copia);
+        EXPECT_TRUE(QFile::copy(mundo.datos.Carpeta() + QStringLiteral("/config.mdb"), copia));
+        SQLite::Database base(copia.toStdString());
+        return QString::fromStdString(base.execAndGet(consulta).getString());
+    }
+    QAction *Negrita(const char *barra) { return Control<QToolBar>(*ventana, barra)->actions().constFirst(); }
+    QWidget *picTicket() { return Control<QWidget>(*ventana, "picTicket"); }
+};
+
+// --- lines of detail
+
+TEST_F(Impresion, EveryChangeOfTheDetailLinesIsOnDiskAtOnce) {
+    Sql("UPDATE Factura SET cantlineas = '9', rutafactura = '/f.kzd'");
+    AbrirPanel();
+    EXPECT_EQ(Texto("txtLinDetalle"), QStringLiteral("9"));
+    Teclear("txtLinDetalle", "2");
+    EXPECT_EQ(EnDisco("SELECT cantlineas FROM Factura"), QStringLiteral("2"));
+    Teclear("txtLinDetalle", "1a-5");
+    EXPECT_EQ(CantLineas(), QStringLiteral("15"));
+    Control<QAbstractSlider>(*ventana, "FSBLinDetalle")->setValue(-7);
+    EXPECT_EQ(Texto("txtLinDetalle"), QStringLiteral("7"));
+    EXPECT_EQ(EnDisco("SELECT cantlineas FROM Factura"), QStringLiteral("7"));
+    Campo("txtLinDetalle")->selectAll();
+    Tecla(Campo("txtLinDetalle"), Qt::Key_Backspace);
+    EXPECT_EQ(CantLineas(), QStringLiteral("0"));
+    Teclear("txtLinDetalle", "007");
+    EXPECT_EQ(CantLineas(), QStringLiteral("7"));
+    EXPECT_EQ(Filas("SELECT rutafactura FROM Factura"), QStringLiteral("/f.kzd"));
+}
+
+TEST_F(Impresion, TheArrowsKeepTheDetailLinesBetweenOneAndThirty) {
+    Sql("UPDATE Factura SET cantlineas = '29'");
+    AbrirPanel();
+    QLineEdit *campo = Campo("txtLinDetalle");
+    for (const char *esperado : {"30", "30"}) {
+        Tecla(campo, Qt::Key_Up);
+        EXPECT_EQ(campo->text(), QString::fromLatin1(esperado));
+    }
+    Teclear("txtLinDetalle", "2");
+    for (const char *esperado : {"1", "1"}) {
+        Tecla(campo, Qt::Key_Down);
+        EXPECT_EQ(campo->text(), QString::fromLatin1(esperado));
+    }
+    EXPECT_EQ(CantLineas(), QStringLiteral("1"));
+}
+
+TEST_F(Impresion, MoreThanThirtyLinesAreRefusedOnLeavingTheField) {
+    AbrirPanel();
+    const char *mensaje = "La cantidad de lineas de detalle debe ser menor o igual a 30.";
+    Teclear("txtLinDetalle", "31");
+    EXPECT_EQ(CantLineas(), QStringLiteral("31")); // written while it is typed
+    EsperaMensaje(mensaje);
+    Tecla(Campo("txtLinDetalle"), Qt::Key_Return);
+    EXPECT_EQ(Texto("txtLinDetalle"), QStringLiteral("30"));
+    EXPECT_EQ(CantLineas(), QStringLiteral("30"));
+    EXPECT_EQ(ConFoco(), QStringLiteral("txtLinDetalle"));
+
+    Teclear("txtLinDetalle", "300");
+    EsperaMensaje(mensaje);
+    Tecla(Campo("txtLinDetalle"), Qt::Key_Escape); // closing the window leaves the field too
+    EXPECT_TRUE(ventana->isVisible());
+    EXPECT_EQ(CantLineas(), QStringLiteral("30"));
+    Tecla(Campo("txtLinDetalle"), Qt::Key_Escape);
+    EXPECT_FALSE(ventana->isVisible());
+}
+
+TEST_F(Impresion, ARefusedDetailLineIsToldAndStaysTyped) {
+    Sql("UPDATE Factura SET cantlineas = '9';"
+        "CREATE TRIGGER g BEFORE UPDATE ON Factura BEGIN SELECT RAISE(ABORT, 'x'); END");
+    AbrirPanel();
+    EsperaMensaje(kRechazo, Icono::Critico);
+    Teclear("txtLinDetalle", "4");
+    EXPECT_EQ(Texto("txtLinDetalle"), QStringLiteral("4"));
+    EXPECT_EQ(EnDisco("SELECT cantlineas FROM Factura"), QStringLiteral("9"));
+}
+
+// --- printers
+
+TEST_F(Impresion, OnePrinterIsCheckedPerPurposeAndStoredAtOnce) {
+    mundo.ajustes.setValue(QStringLiteral("ImpTick"), QStringLiteral("Láser"));
+    AbrirPanel();
+    ListaVista *ticket = Lista("LVImpTick");
+    ListaVista *listado = Lista("LVImpList");
+    const auto marcas = [](ListaVista *lista) {
+        QString texto;
+        for (int fila = 0; fila < lista->Lista()->Filas(); ++fila)
+            texto += lista->Lista()->Marcada(fila) ? QLatin1Char('x') : QLatin1Char('-');
+        return texto;
+    };
+    EXPECT_EQ(marcas(ticket), QStringLiteral("-x-"));
+    EXPECT_EQ(marcas(listado), QStringLiteral("---"));
+    EXPECT_EQ(ticket->FilaActual(), 0);
+    EXPECT_FALSE(mundo.ajustes.contains(QStringLiteral("ImpList"))); // filling chooses nothing
+
+    const auto clic = [](ListaVista *lista, int fila, int x) {
+        const QRect celda = lista->visualRect(lista->model()->index(fila, 0));
+        QTest::mouseClick(lista->viewport(), Qt::LeftButton, {}, QPoint(x, celda.center().y()));
+    };
+    clic(ticket, 0, 120);
+    EXPECT_EQ(marcas(ticket), QStringLiteral("x--"));
+    clic(ticket, 0, 12); // the check box of the checked row: it can't be emptied
+    EXPECT_EQ(marcas(ticket), QStringLiteral("x--"));
+    clic(ticket, 2, 12);
+    EXPECT_EQ(marcas(ticket), QStringLiteral("--x"));
+    EXPECT_EQ(ticket->FilaActual(), 2);
+    ASSERT_TRUE(listado->model()->setData(listado->model()->index(1, 0), Qt::Checked, Qt::CheckStateRole));
+    EXPECT_EQ(marcas(listado), QStringLiteral("-x-"));
+
+    const QSettings otra(mundo.ajustes.fileName(), QSettings::IniFormat);
+    EXPECT_EQ(otra.value(QStringLiteral("ImpTick")).toString(), QStringLiteral("PDF"));
+    EXPECT_EQ(otra.value(QStringLiteral("ImpList")).toString(), QStringLiteral("Láser"));
+
+    mundo.impresoras.nombres = {QStringLiteral("Nueva"), QStringLiteral("Láser")};
+    Pulsar("cmdImpActualizar");
+    EXPECT_EQ(marcas(ticket), QStringLiteral("--")); // the stored one is switched off
+    EXPECT_EQ(marcas(listado), QStringLiteral("-x"));
+    EXPECT_EQ(mundo.ajustes.value(QStringLiteral("ImpTick")).toString(), QStringLiteral("PDF"));
+}
+
+TEST_F(Impresion, ThePrinterListIsASoundModelAndStandsWithoutPrinters) {
+    ListaImpresoras lista(mundo.ajustes, QStringLiteral("ImpTick"), QStringLiteral("Impresora"));
+    QAbstractItemModelTester revisor(&lista.Lista(), QAbstractItemModelTester::FailureReportingMode::Fatal);
+    lista.Llenar({});
+    lista.Elegir(0);
+    EXPECT_FALSE(mundo.ajustes.contains(QStringLiteral("ImpTick")));
+    EXPECT_EQ(lista.Ancho(), 7100);
+    lista.Llenar(QStringLiteral("a b c d e f").split(QLatin1Char(' ')));
+    EXPECT_EQ(lista.Ancho(), 6860);
+    lista.Lista().Ordenar(0, Qt::DescendingOrder);
+    lista.Elegir(1);
+    EXPECT_EQ(lista.Elegida(), QStringLiteral("e"));
+}
+
+TEST_F(Impresion, APrinterIsAddedInTheSettingsOfTheSystem) {
+    AbrirPanel();
+    Pulsar("cmdImpAgregar");
+    EXPECT_EQ(mundo.escritorio.ajustesImpresoras, 1);
+    mundo.escritorio.responde = false;
+    EsperaMensaje("No se pudo abrir la configuración de impresoras del sistema.");
+    Pulsar("cmdImpAgregar");
+}
+
+// --- ticket lines
+
+TEST_F(Impresion, TheTicketLinesAreEditedAboveTheWindow) {
+    Sql("UPDATE Ticket SET linea1 = 'Tarvo', negrita1 = 'S', linea5 = 'Gracias', negrita5 = 'n'");
+    AbrirPanel();
+    Pulsar("cmdLineasTicket");
+    EXPECT_TRUE(picTicket()->isVisible());
+    EXPECT_FALSE(Control<QWidget>(*ventana, "frFondo")->isEnabled());
+    EXPECT_EQ(ConFoco(), QStringLiteral("txtLinea1"));
+    EXPECT_EQ(Texto("txtLinea1"), QStringLiteral("Tarvo"));
+    EXPECT_TRUE(Campo("txtLinea1")->font().bold());
+    EXPECT_FALSE(Negrita("tbrNegrita5")->isChecked());
+
+    Negrita("tbrNegrita1")->trigger();
+    EXPECT_FALSE(Campo("txtLinea1")->font().bold());
+    Negrita("tbrNegrita4")->trigger();
+    EXPECT_TRUE(Campo("txtLinea4")->font().bold());
+    Teclear("txtLinea4", "Ñandú");
+    EXPECT_EQ(Filas("SELECT linea4 FROM Ticket"), QString());
+    Pulsar("cmdGuardarTicket");
+    EXPECT_EQ(Filas("SELECT * FROM Ticket").section(QLatin1Char('|'), 1),
+              QStringLiteral("Tarvo|||Ñandú|Gracias|N|N|N|S|N"));
+
+    Tecla(Campo("txtLinea4"), Qt::Key_Escape);
+    EXPECT_FALSE(picTicket()->isVisible());
+    EXPECT_TRUE(Control<QWidget>(*ventana, "frFondo")->isEnabled());
+    Tecla(ventana.get(), Qt::Key_Escape);
+    EXPECT_FALSE(ventana->isVisible());
+}
+
+TEST_F(Impresion, ARefusedTicketLineLeavesTheWholeRow) {
+    Sql("UPDATE Ticket SET linea1 = 'Tarvo';"
+        "CREATE TRIGGER g BEFORE UPDATE OF negrita5 ON Ticket BEGIN SELECT RAISE(ABORT, 'x'); END");
+    AbrirPanel();
+    Pulsar("cmdLineasTicket");
+    Teclear("txtLinea1", "Otra");
+    EsperaMensaje(kRechazo, Icono::Critico);
+    Pulsar("cmdGuardarTicket");
+    EXPECT_EQ(Texto("txtLinea1"), QStringLiteral("Otra"));
+    EXPECT_EQ(EnDisco("SELECT linea1 FROM Ticket"), QStringLiteral("Tarvo"));
+}
+
+TEST_F(Impresion, TheTestTicketShowsTheLinesAsTyped) {
+    mundo.ajustes.setValue(QStringLiteral("ImpTick"), QStringLiteral("Tickets"));
+    AbrirPanel();
+    Pulsar("cmdLineasTicket");
+    Teclear("txtLinea1", "Tarvo");
+    Negrita("tbrNegrita1")->trigger();
+    Teclear("txtLinea2", "Avenida Siempreviva 742, Ñuñoa");
+    Teclear("txtlinea5", "Gracias!");
+    QAction *prueba = Control<QToolBar>(*ventana, "tbrTicket")->actions().constFirst();
+    EsperaPregunta("Desea imprimir un ticket de prueba?", Respuesta::No, Respuesta::Si);
+    prueba->trigger();
+    EXPECT_TRUE(mundo.impresoras.documentos.empty());
+    EsperaPregunta("Desea imprimir un ticket de prueba?", Respuesta::Si, Respuesta::Si);
+    prueba->trigger();
+    ASSERT_EQ(mundo.impresoras.documentos.size(), 1U);
+    EXPECT_EQ(mundo.impresoras.actual, QStringLiteral("Tickets"));
+    EXPECT_TRUE(mundo.impresoras.documentos[0]->Terminado());
+    EXPECT_EQ(
+        mundo.impresoras.documentos[0]->Volcado(),
+        QStringLiteral(
+            "\n            [11][n]Tarvo\n[/n]Avenida Siempreviva 742, Ñuñoa\n\n\n          Gracias!\n"));
+
+    mundo.impresoras.fallar = true;
+    EsperaPregunta("Desea imprimir un ticket de prueba?", Respuesta::Si, Respuesta::Si);
+    EsperaMensaje("No se pudo imprimir el ticket de prueba.\nNo hay impresora.", Icono::Critico);
+    prueba->trigger();
+}
+
+} // namespace
