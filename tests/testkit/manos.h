@@ -29,7 +29,12 @@ inline void MostrarVentana(QWidget &ventana) {
 // Types into the control; it gets the focus first, as by a click.
 inline void Teclear(QWidget *control, const QString &texto) {
     control->setFocus(Qt::OtherFocusReason);
-    QTest::keyClicks(control, texto);
+    for (const QChar letra : texto) {
+        if (letra.unicode() < 0x80)
+            QTest::keyClick(control, letra.toLatin1());
+        else // an accented letter has no key of its own
+            QTest::sendKeyEvent(QTest::Click, control, Qt::Key_unknown, QString(letra), Qt::NoModifier);
+    }
 }
 
 inline void Tecla(QWidget *control, Qt::Key tecla, Qt::KeyboardModifiers modificadores = Qt::NoModifier) {

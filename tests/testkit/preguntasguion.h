@@ -34,8 +34,9 @@ class PreguntasGuion final : public Preguntas {
     }
     void Mostrar(const QString &texto, Icono icono) override {
         const Paso paso = Tomar(texto);
-        if (paso.texto == texto)
+        if (paso.texto == texto) {
             EXPECT_EQ(paso.icono, icono) << "other icon: " << texto.toStdString();
+        }
     }
 
   private:
