@@ -6,7 +6,7 @@ namespace tarvo {
 
 namespace {
 constexpr qsizetype kLetrasALaVista = 400; // no column is wide enough for more
-constexpr int kAireVertical = 8;           // pixels, above and below the text together
+constexpr int kAireVertical = 5;           // pixels, above and below the text together
 } // namespace
 
 QString DelegadoLista::displayText(const QVariant &valor, const QLocale &) const {

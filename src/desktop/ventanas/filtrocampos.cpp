@@ -30,10 +30,14 @@ bool SinModificador(const QKeyEvent &evento) {
     return (evento.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
 }
 
-// What the Tab key would do, so that the tab order of the window is the one order that there is.
+// What the Tab key would do, so that the tab order of the window is the one order that there is. A date stops at each
+// of its three parts first.
 void PasarAlSiguiente(QWidget *control) {
-    QKeyEvent tabulador(QEvent::KeyPress, Qt::Key_Tab, Qt::NoModifier);
-    QCoreApplication::sendEvent(control, &tabulador);
+    constexpr int kPartes = 4;
+    for (int i = 0; i == 0 || (i < kPartes && control->hasFocus()); ++i) {
+        QKeyEvent tabulador(QEvent::KeyPress, Qt::Key_Tab, Qt::NoModifier);
+        QCoreApplication::sendEvent(control, &tabulador);
+    }
 }
 
 template <typename Accion>

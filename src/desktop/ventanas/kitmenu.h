@@ -14,11 +14,11 @@ namespace tarvo {
 struct EntradaMenu {
     QString clave; // objectName of the action; empty with an empty caption: a separator
     QString texto;
-    QString atajo;
-    QString imagen;
-    QString ayuda; // shown in the status bar
+    QString atajo{};
+    QString imagen{};
+    QString ayuda{}; // shown in the status bar
     bool marcable = false;
-    QList<EntradaMenu> submenu;
+    QList<EntradaMenu> submenu{};
 
     bool EsSeparador() const { return clave.isEmpty() && texto.isEmpty(); }
 };

@@ -54,10 +54,10 @@ void ListaVista::Mostrar(ListaTexto *lista) {
     lista_ = lista;
     setModel(lista);
     anchos_.clear();
-    const std::vector<ColumnaLista> &columnas = lista->Columnas();
-    for (std::size_t i = 0; i < columnas.size(); ++i) {
-        anchos_.push_back(columnas[i].ancho);
-        setColumnHidden(static_cast<int>(i), columnas[i].oculta);
+    for (const ColumnaLista &columna : lista->Columnas()) {
+        const QScopedValueRollback repartiendo(repartiendo_, true);
+        setColumnHidden(static_cast<int>(anchos_.size()), columna.oculta);
+        anchos_.push_back(columna.ancho);
     }
     RepartirAnchos();
 }

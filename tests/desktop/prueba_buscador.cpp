@@ -1,0 +1,81 @@
+#include "desktop/anchos.h"
+#include "desktop/buscador.h"
+
+#include <gtest/gtest.h>
+
+#include <numeric>
+
+namespace tarvo {
+namespace {
+
+ListaTexto *NuevaLista(const QList<QStringList> &filas) {
+    auto *lista = new ListaTexto({{QStringLiteral("Código"), 1}, {QStringLiteral("Nombre"), 1}});
+    for (const QStringList &fila : filas)
+        lista->AgregarFila(fila);
+    return lista;
+}
+
+TEST(BuscarParte, IgnoresCaseAlsoOfAccentedLetters) {
+    struct Caso {
+        QString celda;
+        QString texto;
+        bool esta;
+    };
+    const QString largo = QString(10000, u'x') + QStringLiteral("Fin");
+    for (const Caso &caso : std::initializer_list<Caso>{
+             {u"BANANA S.A."_qs, u"ana"_qs, true},
+             {u"Ñandú"_qs, u"ÑANDÚ"_qs, true},
+             {u"CAFÉ"_qs, u"fé"_qs, true},
+             {u"café"_qs, u"cafe"_qs, false},
+             {u"×÷"_qs, u"÷"_qs, true},
+             {u"×"_qs, u"÷"_qs, false},
+             {u"aab"_qs, u"ab"_qs, true},
+             {u"ab"_qs, u"abc"_qs, false},
+             {u""_qs, u"a"_qs, false},
+             {u"Ελλάδα"_qs, u"ΛΛΆ"_qs, true},
+             {u"vino 😀 tinto"_qs, u"😀 T"_qs, true},
+             {u"dos\nlíneas"_qs, u"s\nL"_qs, true},
+             {largo, u"fin"_qs, true},
+         }) {
+        const std::unique_ptr<ListaTexto> lista(NuevaLista({{caso.celda}}));
+        EXPECT_EQ(lista->BuscarParte({0}, caso.texto) == 0, caso.esta)
+            << caso.celda.left(20).toStdString() << " / " << caso.texto.toStdString();
+    }
+}
+
+TEST(Buscador, AdvancesByOneFromItsOwnStartNotFromTheHit) {
+    const std::unique_ptr<ListaTexto> lista(
+        NuevaLista({{u"a"_qs}, {u"b"_qs}, {u"x"_qs}, {u"c"_qs}, {u"X"_qs}}));
+    Buscador buscador;
+    QList<int> filas;
+    for (int i = 0; i < 8; ++i)
+        filas.append(buscador.Buscar(*lista, {0, 1}, u"x"_qs));
+    EXPECT_EQ(filas, (QList<int>{2, 2, 2, 4, 4, 2, 2, 2})) << "behind the last row it starts at the top";
+}
+
+TEST(Buscador, AMissLeavesTheStartRow) {
+    const std::unique_ptr<ListaTexto> lista(
+        NuevaLista({{u"x"_qs, u"1"_qs}, {u"b"_qs, u"2"_qs}, {u"c"_qs, u"x"_qs}}));
+    Buscador buscador;
+    EXPECT_EQ(buscador.Buscar(*lista, {0}, u"x"_qs), 0);
+    EXPECT_EQ(buscador.Buscar(*lista, {0}, u"x"_qs), -1);
+    EXPECT_EQ(buscador.indiceBusqueda(), 2);
+    EXPECT_EQ(buscador.Buscar(*lista, {0, 1}, u"x"_qs), 2) << "the columns of this search count";
+    buscador.Reiniciar();
+    EXPECT_EQ(buscador.Buscar(*lista, {0}, u"x"_qs), 0);
+    lista->Limpiar();
+    EXPECT_EQ(buscador.Buscar(*lista, {0}, u"x"_qs), -1);
+}
+
+TEST(RepartirAncho, FillsTheWidthInProportionButCutsNoCaption) {
+    using V = std::vector<int>;
+    EXPECT_EQ(RepartirAncho(300, {1, 2}, {10, 10}), (V{100, 200}));
+    EXPECT_EQ(RepartirAncho(300, {1, 9, 5}, {60, 10, 10}), (V{60, 154, 86}));
+    EXPECT_EQ(RepartirAncho(100, {1, 1, 1}, {50, 60, 70}), (V{50, 60, 70})) << "no room: the minimums";
+    EXPECT_EQ(RepartirAncho(100, {0, 0}, {30, 20}), (V{30, 20}));
+    const V anchos = RepartirAncho(997, {7, 3, 11, 13}, {5, 200, 5, 5});
+    EXPECT_EQ(std::accumulate(anchos.begin(), anchos.end(), 0), 997) << "no point is lost in rounding";
+}
+
+} // namespace
+} // namespace tarvo

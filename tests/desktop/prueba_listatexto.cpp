@@ -1,0 +1,200 @@
+#include "desktop/listatexto.h"
+
+#include "desktop/ordentexto.h"
+
+#include <QAbstractItemModelTester>
+#include <QIcon>
+#include <QRandomGenerator>
+#include <QSignalSpy>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+namespace tarvo {
+namespace {
+
+QStringList Columna(const ListaTexto &lista, int columna) {
+    QStringList textos;
+    for (int fila = 0; fila < lista.Filas(); ++fila)
+        textos.append(lista.Celda(fila, columna));
+    return textos;
+}
+
+std::vector<ColumnaTexto> Celdas(const QList<QStringList> &columnas) {
+    std::vector<ColumnaTexto> celdas(static_cast<std::size_t>(columnas.size()));
+    for (qsizetype i = 0; i < columnas.size(); ++i)
+        for (const QString &texto : columnas[i])
+            celdas[static_cast<std::size_t>(i)].Agregar(texto.toStdString());
+    return celdas;
+}
+
+// A list of texts and the number of each row as it came.
+struct ListaDePrueba : ListaTexto {
+    explicit ListaDePrueba(const QStringList &textos = {})
+        : ListaTexto({{QStringLiteral("Texto"), 1500}, {QStringLiteral("n"), 700, true, true}}) {
+        QStringList numeros;
+        for (qsizetype i = 0; i < textos.size(); ++i)
+            numeros.append(QString::number(i));
+        Asignar(Celdas({textos, numeros}));
+    }
+    QString Numeros() const { return Columna(*this, 1).join(u' '); }
+    QAbstractItemModelTester prueba{this, QAbstractItemModelTester::FailureReportingMode::Fatal};
+};
+
+struct CasoOrden {
+    const char *nombre;
+    QStringList textos;
+    QString ascendente;
+    QString descendente;
+};
+
+class Orden : public testing::TestWithParam<CasoOrden> {};
+
+TEST_P(Orden, IsStableAndSpanishInBothDirections) {
+    ListaDePrueba lista(GetParam().textos);
+    lista.Ordenar(0, Qt::AscendingOrder);
+    EXPECT_EQ(lista.Numeros(), GetParam().ascendente);
+    lista.Ordenar(0, Qt::DescendingOrder);
+    EXPECT_EQ(lista.Numeros(), GetParam().descendente);
+    lista.Ordenar(-1, Qt::AscendingOrder);
+    EXPECT_EQ(Columna(lista, 0), GetParam().textos);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Textos, Orden,
+    testing::Values(
+        CasoOrden{"words",
+                  {u"ñandú"_qs, u"oso"_qs, u"Nube"_qs, u"árbol"_qs, u"azul"_qs, u"nz"_qs},
+                  u"3 4 2 5 0 1"_qs,
+                  u"1 0 5 2 4 3"_qs},
+        CasoOrden{"equals_keep_their_order",
+                  {u"b"_qs, u"A"_qs, u"B"_qs, u"a"_qs, u"b"_qs},
+                  u"1 3 0 2 4"_qs,
+                  u"0 2 4 1 3"_qs},
+        CasoOrden{"numbers_are_texts",
+                  {u"2"_qs, u"10"_qs, u"1"_qs, u"-3"_qs, u"100"_qs},
+                  u"3 2 1 4 0"_qs,
+                  u"0 4 1 2 3"_qs},
+        CasoOrden{
+            "amounts_are_texts", {u"$ 9,00"_qs, u"$ 10,00"_qs, u"$ 100,00"_qs}, u"1 2 0"_qs, u"0 2 1"_qs},
+        CasoOrden{"empty_first", {u"a"_qs, u""_qs, u" "_qs, u""_qs}, u"1 3 2 0"_qs, u"0 2 1 3"_qs}),
+    [](const auto &caso) { return std::string(caso.param.nombre); });
+
+// The ranks come by short cuts; the collator itself is the judge.
+TEST(OrdenTexto, RanksAgreeWithTheCollatorOnMixedTexts) {
+    const QString letras =
+        QString::fromUtf8("aAbBzZñÑnáÁeéçÇ019 -_.,;:$%&/()'\"\\<>{}[]@#*+=?!~^`|ßœ€\t\n😀¿");
+    QRandomGenerator azar(7);
+    QStringList textos;
+    ColumnaTexto columna;
+    for (int i = 0; i < 1500; ++i) {
+        QString texto;
+        for (auto largo = azar.bounded(5); largo > 0; --largo)
+            texto += letras[azar.bounded(i % 2 == 0 ? 12 : letras.size())];
+        textos.append(texto);
+        columna.Agregar(texto.toStdString());
+    }
+    const OrdenTexto orden;
+    QStringList esperado;
+    for (std::int64_t i = 0; i < columna.Filas(); ++i)
+        esperado.append(columna.Texto(i));
+    std::stable_sort(esperado.begin(), esperado.end(),
+                     [&](const QString &a, const QString &b) { return orden.Comparar(a, b) < 0; });
+    QStringList obtenido;
+    for (const std::uint32_t fila : Permutacion(orden.Rangos(columna), Qt::AscendingOrder))
+        obtenido.append(columna.Texto(fila));
+    EXPECT_EQ(obtenido, esperado);
+}
+
+TEST(ListaTexto, HeaderClicksTurnRoundAndFollowTheKeyColumn) {
+    ListaTexto lista(
+        {{QStringLiteral("Fecha"), 1000, false, false, 1}, {QStringLiteral("clave"), 0, false, true}});
+    lista.Asignar(Celdas({{u"02/01/2026"_qs, u"01/02/2026"_qs}, {u"2026/01/02"_qs, u"2026/02/01"_qs}}));
+    const auto icono = [&] { return lista.headerData(0, Qt::Horizontal, Qt::DecorationRole).isValid(); };
+    EXPECT_FALSE(icono());
+    lista.ClicEncabezado(0);
+    EXPECT_EQ(lista.Celda(0, 0), u"02/01/2026");
+    EXPECT_TRUE(icono());
+    lista.ClicEncabezado(0);
+    EXPECT_EQ(lista.Celda(0, 0), u"01/02/2026");
+    EXPECT_EQ(lista.Orden(), Qt::DescendingOrder);
+    EXPECT_EQ(lista.ColumnaOrden(), 1);
+}
+
+TEST(ListaTexto, NewRowsGoBehindTheirEquals) {
+    ListaDePrueba lista({u"b"_qs, u"d"_qs, u"B"_qs});
+    EXPECT_EQ(lista.AgregarFila({u"a"_qs, u"3"_qs}), 3) << "unsorted: at the end";
+    lista.Ordenar(0, Qt::AscendingOrder);
+    EXPECT_EQ(lista.AgregarFila({u"b"_qs, u"4"_qs}), 3);
+    lista.Ordenar(0, Qt::DescendingOrder);
+    EXPECT_EQ(lista.AgregarFila({u"B"_qs, u"5"_qs}), 4);
+    EXPECT_EQ(lista.Numeros(), u"1 0 2 4 5 3");
+    lista.Ordenar(0, Qt::AscendingOrder);
+    EXPECT_EQ(lista.Numeros(), u"3 0 2 4 5 1");
+}
+
+TEST(ListaTexto, RowsKeepTonesMarksAndPlaceThroughChanges) {
+    ListaDePrueba lista({u"c"_qs, u"a"_qs, u"b"_qs, u"d"_qs});
+    lista.HacerMarcable();
+    lista.PonerTono(0, 0, Tono::Rojo);
+    lista.Marcar(3, true);
+    lista.Ordenar(0, Qt::AscendingOrder);
+    lista.QuitarFila(0);
+    lista.PonerCelda(1, 0, u"zz"_qs);
+    ASSERT_EQ(lista.Numeros(), u"2 0 3") << "a changed cell doesn't move its row";
+    EXPECT_EQ(lista.TonoDe(1, 0), Tono::Rojo);
+    EXPECT_EQ(lista.index(1, 0).data(Qt::ForegroundRole).value<QColor>(), QColor(255, 0, 0));
+    EXPECT_FALSE(lista.index(0, 0).data(Qt::ForegroundRole).isValid());
+    EXPECT_TRUE(lista.Marcada(2));
+
+    EXPECT_TRUE(lista.setData(lista.index(0, 0), Qt::Checked, Qt::CheckStateRole));
+    EXPECT_FALSE(lista.setData(lista.index(0, 1), Qt::Checked, Qt::CheckStateRole))
+        << "marks lie in the first column";
+    lista.Ordenar(0, Qt::AscendingOrder);
+    EXPECT_EQ(lista.Numeros(), u"2 3 0") << "sorted anew, with the changed text";
+    EXPECT_EQ(lista.TonoDe(2, 0), Tono::Rojo);
+    EXPECT_TRUE(lista.Marcada(0) && lista.Marcada(1) && !lista.Marcada(2));
+
+    lista.Asignar(Celdas({{u"y"_qs, u"x"_qs}, {u"0"_qs, u"1"_qs}}), 1, {Tono::Azul, Tono::Verde});
+    EXPECT_EQ(lista.Numeros(), u"1 0") << "the sort stays for new rows";
+    EXPECT_EQ(lista.TonoDe(0, 1), Tono::Verde);
+    EXPECT_EQ(lista.TonoDe(1, 0), Tono::Normal);
+    EXPECT_FALSE(lista.Marcada(0));
+}
+
+TEST(ListaTexto, PersistentIndexesFollowTheirRows) {
+    ListaDePrueba lista({u"b"_qs, u"c"_qs, u"a"_qs});
+    const QPersistentModelIndex fila(lista.index(1, 1));
+    lista.Ordenar(0, Qt::DescendingOrder);
+    EXPECT_EQ(fila.row(), 0);
+    lista.Ordenar(-1, Qt::AscendingOrder);
+    EXPECT_EQ(fila.row(), 1);
+    EXPECT_EQ(fila.data().toString(), u"1") << "hidden columns give their text";
+}
+
+TEST(ListaTexto, TellsAlignmentCaptionAndCheckState) {
+    ListaDePrueba lista({u"x"_qs});
+    const auto alineada = [&](int columna) {
+        return lista.index(0, columna).data(Qt::TextAlignmentRole).value<Qt::Alignment>();
+    };
+    EXPECT_TRUE(alineada(0).testFlag(Qt::AlignLeft));
+    EXPECT_TRUE(alineada(1).testFlag(Qt::AlignRight));
+    QSignalSpy espia(&lista, &ListaTexto::headerDataChanged);
+    lista.PonerTitulo(0, u"Cant."_qs);
+    EXPECT_EQ(espia.size(), 1);
+    EXPECT_EQ(lista.headerData(0, Qt::Horizontal).toString(), u"Cant.");
+    EXPECT_FALSE(lista.index(0, 0).data(Qt::CheckStateRole).isValid()) << "not checkable unless asked for";
+}
+
+TEST(ListaTexto, FindsExactCellsFromARowOn) {
+    ListaDePrueba lista({u"uno"_qs, u"dos"_qs, u"Dos"_qs, u"dos"_qs});
+    EXPECT_EQ(lista.Buscar(0, "dos"), 1);
+    EXPECT_EQ(lista.Buscar(0, "dos", 2), 3);
+    EXPECT_EQ(lista.Buscar(0, "do"), -1);
+    lista.Limpiar();
+    EXPECT_EQ(lista.Buscar(0, "dos"), -1);
+}
+
+} // namespace
+} // namespace tarvo
