@@ -120,9 +120,13 @@ bool Cursor::Seek(const QString &comparacion, const QString &valor) {
         throw ErrorDatos(
             errores::kIndice,
             QStringLiteral("La tabla %1 no tiene un índice elegido.").arg(QString::fromUtf8(tabla_)));
+    return IrAId(valor);
+}
+
+bool Cursor::IrAId(const QString &texto) {
     MoveFirst();
     bool esNumero = false;
-    const qlonglong id = valor.toLongLong(&esNumero);
+    const qlonglong id = texto.toLongLong(&esNumero);
     const std::int64_t filas = Filas();
     const std::int64_t fila = esNumero && filas > 0 ? d_->memoria.Buscar(id) : -1;
     d_->fila = fila < 0 ? filas : fila;

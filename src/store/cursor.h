@@ -33,6 +33,7 @@ class Campo {
     // The same as UTF-8 bytes, without a copy; valid until the cursor next moves or writes.
     std::string_view Utf8() const;
     bool Es(std::string_view utf8) const { return Utf8() == utf8; }
+    bool Es(const char *utf8) const { return Es(std::string_view(utf8)); }
     bool Es(const QString &texto) const;
 
     // Writes the cell of the current row. Throws ErrorDatos(kSinRegistro) when no row is current.
@@ -82,6 +83,8 @@ class Cursor {
     // none. Costs the same on a table of any size. Needs Index before it, and "=": throws ErrorDatos(kIndice)
     // else.
     bool Seek(const QString &comparacion, const QString &valor);
+    // What a walk to the row with that `id` leads to, on any table and at the cost of Seek.
+    bool IrAId(const QString &id);
 
     bool Abierto() const { return conexion_ != nullptr; }
     bool HayFila() const;

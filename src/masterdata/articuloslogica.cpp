@@ -1,0 +1,313 @@
+#include "masterdata/articuloslogica.h"
+
+#include "desktop/preguntas.h"
+#include "store/store.h"
+
+namespace tarvo {
+
+namespace {
+
+std::vector<CampoDetalle> CamposDe(FrmBases &bases) {
+    return {
+        {.control = "txtCodigo", .campo = &bases.camArtCodigo, .requerido = QStringLiteral("Código")},
+        {.control = "txtCodBarras1", .campo = &bases.camArtCodBarras1},
+        {.control = "txtNombre", .campo = &bases.camArtNombre, .requerido = QStringLiteral("Nombre")},
+        {.control = "txtDescripcion", .campo = &bases.camArtDescripcion},
+        {.control = "txtUnidad", .campo = &bases.camArtUnidad},
+        {.control = "txtIdCategoria", .campo = &bases.camArtIdCategoria1},
+        {.control = "txtPCompra", .campo = &bases.camArtPCompra},
+        {.control = "txtSubtotal", .campo = &bases.camArtSubtotal},
+        {.control = "txtIdTipoIVA", .campo = &bases.camArtIdTipoIVA},
+        {.control = "txtIdProveedor", .campo = &bases.camArtIdProveedores},
+        {.control = "txtStock", .campo = &bases.camArtStock, .inicial = QStringLiteral("0")},
+        // Shown and typed in, but never written.
+        {.control = "txtStockMin", .campo = &bases.camArtStockMin, .soloMostrar = true},
+        {.control = "txtPVenta"},
+        {.control = "cboxCategoria"},
+        {.control = "cboxTipoIVA"},
+        {.control = "cboxProveedor"},
+        {.control = "txtAux"},
+    };
+}
+
+ColumnaDetalle Columna(const char *titulo, int ancho, bool derecha, Campo *campo) {
+    return {{.titulo = QString::fromUtf8(titulo), .ancho = ancho, .derecha = derecha, .oculta = ancho == 0},
+            campo};
+}
+
+std::vector<ColumnaDetalle> ColumnasDe(FrmBases &bases) {
+    return {
+        Columna("Código", 2381, false, &bases.camArtCodigo),
+        Columna("Artículo", 4145, false, &bases.camArtNombre),
+        Columna("Stock", 1411, true, &bases.camArtStock),
+        Columna("P. Compra", 2117, true, &bases.camArtPCompra),
+        Columna("Subtotal", 2117, true, &bases.camArtSubtotal),
+        Columna("I.V.A.", 2117, true, nullptr),
+        Columna("P. Venta", 2117, true, nullptr),
+        Columna("id", 0, false, &bases.camArtId),
+        Columna("idCat", 0, false, &bases.camArtIdCategoria1),
+    };
+}
+
+// Either decimal mark becomes the one of the machine.
+QString ConSeparador(QString numero, const Moneda &moneda) {
+    const bool coma = moneda.sDecimal() == QLatin1String(",");
+    return numero.replace(QLatin1Char(coma ? '.' : ','), moneda.sDecimal());
+}
+
+ReglasDetalle ReglasDe(FrmBases &bases) {
+    using namespace columnasArticulos;
+    return {
+        .cursor = bases.datArticulos,
+        .id = bases.camArtId,
+        .campos = CamposDe(bases),
+        .columnas = ColumnasDe(bases),
+        .columnasBusqueda = {kCodigo, kNombre},
+        .duplicados = {{kCodigo, ArticulosLogica::kCodigo,
+                        QStringLiteral("El código ingresado ya existe en la base de datos.")},
+                       {kNombre, ArticulosLogica::kNombre,
+                        QStringLiteral("El nombre del artículo ya existe en la base de datos.")}},
+        .indice = QStringLiteral("primarykey"),
+        .preguntaModificar =
+            QStringLiteral("Está seguro de querer modificar los datos del artículo seleccionado?"),
+        .preguntaEliminar =
+            QStringLiteral("Está seguro de querer eliminar los datos del artículo seleccionado?"),
+        .preguntaCerrar = QStringLiteral("Desea cerrar el programa sin completar el ingreso del artículo?"),
+        .vaciaApagaBusqueda = true,
+        .nuevoTrasGuardar = true,
+    };
+}
+
+} // namespace
+
+ArticulosLogica::ArticulosLogica(FrmBases &bases, Preguntas &preguntas, VistaDetalle &vista,
+                                 VistaFiltro &vistaFiltro, Anfitrion *anfitrion)
+    : ListaDetalle(bases, preguntas, vista, ReglasDe(bases), anfitrion),
+      vistaFiltro_(vistaFiltro),
+      categorias_(bases.datCategorias, bases.camCatId, {&bases.camCatCodigo, &bases.camCatCategoria}),
+      tipos_(bases.datIVA, bases.camIVAId, {&bases.camIVACodigo, &bases.camIVATipo, &bases.camIVAPorcentaje},
+             QStringLiteral("%")),
+      proveedores_(bases.datProveedores, bases.camProId, {&bases.camProCodigo, &bases.camProNombre}) {}
+
+// --- list and filter
+
+void ArticulosLogica::Cargar() {
+    LlenarFiltroCategorias();
+    vistaFiltro_.ElegirFiltro(0);
+    LlenarListaArticulos(kTodas);
+}
+
+void ArticulosLogica::LlenarListaArticulos(int filtro) {
+    filtro_ = filtro;
+    LlenarLista();
+}
+
+ContenidoLista ArticulosLogica::LeerFilas() {
+    return LeerArticulos(frmBases(), filtro_);
+}
+
+void ArticulosLogica::Actualizar() {
+    ListaDetalle::Actualizar();
+    // A filter that hides everything must stay within reach.
+    if (Lista().Filas() == 0)
+        vistaFiltro_.HabilitarFiltro(true);
+}
+
+void ArticulosLogica::AlCambiarEstado() {
+    const bool hayArticulos = frmBases().datArticulos.RecordCount() > 0;
+    vistaFiltro_.HabilitarFiltro(!EntradaEnCurso() && hayArticulos);
+}
+
+void ArticulosLogica::LlenarFiltroCategorias() {
+    filtros_ = categorias_.Todas();
+    filtros_.prepend(QStringLiteral("Sin categoría"));
+    filtros_.prepend(QStringLiteral("Todas las categorías"));
+    filtros_.append(QStringLiteral("Agregar nueva categoría"));
+    vistaFiltro_.PonerFiltros(filtros_);
+}
+
+void ArticulosLogica::FiltrarCategoria(int indice) {
+    if (indice == filtros_.size() - 1) {
+        vistaFiltro_.MostrarPanelCategoria(true);
+        vistaFiltro_.EnfocarCatCodigo();
+    } else {
+        indiceFiltro_ = indice;
+        filtro_ = indice == 0 ? kTodas : kSinCategoria;
+        if (indice > 1) // two categories of one label: the first one filters
+            filtro_ = categorias_.IdDe(filtros_[indice]).toInt();
+    }
+    LlenarListaArticulos(filtro_);
+}
+
+// --- new category
+
+bool ArticulosLogica::CategoriaValida(const QString &codigo, const QString &nombre) {
+    if (codigo.isEmpty()) {
+        preguntas().InformarRequerido(QStringLiteral("Código"));
+        vistaFiltro_.EnfocarCatCodigo();
+        return false;
+    }
+    if (nombre.isEmpty()) {
+        preguntas().InformarRequerido(QStringLiteral("Categoría"));
+        vistaFiltro_.EnfocarCatCategoria();
+        return false;
+    }
+    for (const QString &entrada : std::as_const(filtros_)) {
+        if (!entrada.startsWith(codigo)) // a prefix is enough: 1 is refused beside 12
+            continue;
+        preguntas().Informar(QStringLiteral("El código ingresado ya existe en la base de datos."));
+        vistaFiltro_.EnfocarCatCodigo();
+        return false;
+    }
+    return true;
+}
+
+void ArticulosLogica::GuardarCategoria(const QString &codigo, const QString &nombre) {
+    if (!CategoriaValida(codigo, nombre))
+        return;
+    const bool guardada = EnTransaccion([&] {
+        FrmBases &bases = frmBases();
+        bases.datCategorias.AddNew();
+        bases.camCatCodigo = codigo;
+        bases.camCatCategoria = nombre;
+        bases.datCategorias.Refresh();
+    });
+    if (!guardada)
+        return;
+    LlenarFiltroCategorias();
+    vistaFiltro_.MostrarPanelCategoria(false);
+    vistaFiltro_.ElegirFiltro(0);
+    FiltrarCategoria(0);
+}
+
+void ArticulosLogica::CancelarCategoria() {
+    vistaFiltro_.MostrarPanelCategoria(false);
+    vistaFiltro_.ElegirFiltro(indiceFiltro_);
+}
+
+// --- combos
+
+void ArticulosLogica::LlenarCategorias() {
+    vista().PonerEntradas(kCategoria, categorias_.Todas());
+    if (filtro_ == kTodas)
+        return;
+    vista().Poner(kIdCategoria, QString::number(filtro_));
+    vista().Poner(kCategoria, filtros_.value(indiceFiltro_));
+}
+
+void ArticulosLogica::LlenarTiposIVA() {
+    vista().PonerEntradas(kTipoIVA, tipos_.Todas());
+}
+
+void ArticulosLogica::LlenarProveedores() {
+    vista().PonerEntradas(kProveedor, proveedores_.Todas());
+}
+
+void ArticulosLogica::ElegirSegunId(int combo, int campoId, const Etiquetas &etiquetas) {
+    const QString etiqueta = etiquetas.DeId(vista().Texto(campoId));
+    if (!etiqueta.isNull())
+        vista().Poner(combo, etiqueta);
+}
+
+void ArticulosLogica::ElegirCategoria() {
+    vista().Poner(kIdCategoria, categorias_.IdDe(vista().Texto(kCategoria)));
+}
+
+void ArticulosLogica::ElegirTipoIVA() {
+    vista().Poner(kIdTipoIVA, tipos_.IdDe(vista().Texto(kTipoIVA)));
+    CalcularPVenta();
+}
+
+void ArticulosLogica::ElegirProveedor() {
+    vista().Poner(kIdProveedor, proveedores_.IdDe(vista().Texto(kProveedor)));
+}
+
+// --- fields
+
+void ArticulosLogica::AlMostrar() {
+    LlenarCategorias();
+    ElegirSegunId(kCategoria, kIdCategoria, categorias_);
+    LlenarTiposIVA();
+    ElegirSegunId(kTipoIVA, kIdTipoIVA, tipos_);
+    CalcularPVenta();
+    LlenarProveedores();
+    ElegirSegunId(kProveedor, kIdProveedor, proveedores_);
+}
+
+void ArticulosLogica::AlNuevo() {
+    LlenarCategorias();
+    LlenarTiposIVA();
+    LlenarProveedores();
+    const QString primero = tipos_.Todas().value(0);
+    vista().Poner(kTipoIVA, primero);
+    vista().Poner(kIdTipoIVA, tipos_.IdDe(primero));
+    const QString cero = frmBases().moneda().FormatoMoneda(QStringLiteral("0"), true);
+    vista().Poner(kPCompra, cero);
+    vista().Poner(kSubtotal, cero);
+    CalcularPVenta();
+}
+
+void ArticulosLogica::SalirCodigo() {
+    if (vista().Texto(kCodBarras).isEmpty())
+        vista().Poner(kCodBarras, vista().Texto(kCodigo));
+}
+
+QString ArticulosLogica::SinPrefijo(const QString &monto) const {
+    const bool conSimbolo = monto.startsWith(frmBases().sCurrency() + QLatin1Char(' '));
+    return conSimbolo ? frmBases().moneda().SinSimbolo(monto) : monto;
+}
+
+void ArticulosLogica::EntrarImporte(int campo) {
+    vista().Poner(campo, SinPrefijo(vista().Texto(campo)));
+}
+
+void ArticulosLogica::SalirImporte(int campo) {
+    QString texto = vista().Texto(campo);
+    // The reading that knows only a point: what begins with 0, is 0.
+    if (Moneda::NumeroNeutro(SinPrefijo(texto)) == 0)
+        texto = QStringLiteral("0");
+    vista().Poner(campo, frmBases().moneda().FormatoMoneda(texto, true));
+    if (campo == kSubtotal)
+        CalcularPVenta();
+}
+
+void ArticulosLogica::SalirCantidad(int campo) {
+    if (vista().Texto(campo).isEmpty())
+        vista().Poner(campo, QStringLiteral("0"));
+}
+
+void ArticulosLogica::CalcularPVenta() {
+    const Moneda &moneda = frmBases().moneda();
+    const double neto = moneda.Numero(ConSeparador(moneda.SinSimbolo(vista().Texto(kSubtotal)), moneda));
+    const double porcentaje = Moneda::NumeroNeutro(vista().Texto(kTipoIVA).right(3));
+    vista().Poner(kPVenta, moneda.FormatoMoneda(neto + porcentaje / 100 * neto, true));
+}
+
+QString ArticulosLogica::AMostrar(int campo, const QString &guardado) const {
+    const bool importe = campo == kPCompra || campo == kSubtotal;
+    return importe ? frmBases().moneda().FormatoMoneda(guardado, true) : guardado;
+}
+
+QString ArticulosLogica::AGuardar(int campo) const {
+    const QString texto = ListaDetalle::AGuardar(campo);
+    if (campo == kIdProveedor) // a supplier that is gone shows as none and is saved as none
+        return vista().Texto(kProveedor).isEmpty() ? QString() : texto;
+    if (campo != kPCompra && campo != kSubtotal)
+        return texto;
+    const QString monto = SinPrefijo(texto);
+    if (monto.endsWith(QLatin1String("00")))
+        return monto.chopped(qMin<qsizetype>(3, monto.size()));
+    return monto.endsWith(QLatin1Char('0')) ? monto.chopped(1) : monto;
+}
+
+QString ArticulosLogica::CeldaGuardada(int columna) const {
+    using namespace columnasArticulos;
+    const QString pventa = vista().Texto(ArticulosLogica::kPVenta);
+    if (columna == columnasArticulos::kPVenta)
+        return pventa;
+    if (columna == kIva)
+        return IvaDe(frmBases().moneda(), pventa, vista().Texto(ArticulosLogica::kSubtotal));
+    return ListaDetalle::CeldaGuardada(columna);
+}
+
+} // namespace tarvo

@@ -1,0 +1,387 @@
+#include "masterdata/listadetalle.h"
+
+#include "desktop/anfitrion.h"
+#include "desktop/preguntas.h"
+#include "store/errordatos.h"
+#include "store/store.h"
+#include "store/transaccion.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace tarvo {
+
+namespace {
+
+std::vector<ColumnaLista> ColumnasDe(const ReglasDetalle &reglas) {
+    std::vector<ColumnaLista> columnas;
+    for (const ColumnaDetalle &columna : reglas.columnas)
+        columnas.push_back(columna.lista);
+    return columnas;
+}
+
+std::string_view Vista8(const QByteArray &bytes) {
+    return {bytes.constData(), static_cast<std::size_t>(bytes.size())};
+}
+
+constexpr Botones kBotonesViendo{true, true, true, true, false, true, true};
+
+} // namespace
+
+ListaDetalle::ListaDetalle(FrmBases &frmBases, Preguntas &preguntas, VistaDetalle &vista,
+                           ReglasDetalle reglas, Anfitrion *anfitrion)
+    : frmBases_(frmBases),
+      preguntas_(preguntas),
+      vista_(vista),
+      reglas_(std::move(reglas)),
+      anfitrion_(anfitrion),
+      lista_(ColumnasDe(reglas_)) {
+    const auto esId = [this](const ColumnaDetalle &columna) { return columna.campo == &reglas_.id; };
+    const auto lugar = std::find_if(reglas_.columnas.begin(), reglas_.columnas.end(), esId);
+    columnaId_ = static_cast<int>(lugar - reglas_.columnas.begin());
+}
+
+ListaDetalle::~ListaDetalle() = default;
+
+int ListaDetalle::IndiceDe(const char *control) const {
+    for (std::size_t i = 0; i < reglas_.campos.size(); ++i) {
+        if (std::strcmp(reglas_.campos[i].control, control) == 0)
+            return static_cast<int>(i);
+    }
+    return -1;
+}
+
+// --- list and fields
+
+void ListaDetalle::LlenarLista() {
+    try {
+        Llenar();
+    } catch (const ErrorDatos &error) {
+        if (!reglas_.callarErrores)
+            preguntas_.Mostrar(error.Descripcion(), Icono::Critico);
+    }
+}
+
+void ListaDetalle::Llenar() {
+    indice_.Olvidar();
+    idMostrado_.clear();
+    if (reglas_.cursor.RecordCount() == 0) {
+        lista_.Limpiar();
+        PasarAVacia();
+        return;
+    }
+    ContenidoLista contenido = LeerFilas();
+    lista_.Asignar(std::move(contenido.celdas), contenido.columnaTono, std::move(contenido.tonos));
+    Exportar(true);
+    if (lista_.Filas() == 0) {
+        PasarAVacia();
+        return;
+    }
+    vista_.SeleccionarFila(0);
+    PasarAViendo();
+    if (reglas_.enfocarAlLlenar)
+        vista_.EnfocarLista();
+    Mostrar();
+}
+
+ContenidoLista ListaDetalle::LeerFilas() {
+    ContenidoLista contenido;
+    for (const ColumnaDetalle &columna : reglas_.columnas)
+        contenido.celdas.push_back(columna.campo->Columna());
+    return contenido;
+}
+
+bool ListaDetalle::Posicionar(const QString &id) {
+    if (reglas_.indice.isEmpty())
+        return reglas_.cursor.IrAId(id);
+    reglas_.cursor.Index(reglas_.indice);
+    return reglas_.cursor.Seek(QStringLiteral("="), id);
+}
+
+void ListaDetalle::Mostrar() {
+    const int fila = vista_.FilaActual();
+    if (fila < 0)
+        return;
+    try {
+        const QString id = lista_.Celda(fila, columnaId_);
+        if (!Posicionar(id))
+            return;
+        idMostrado_ = id;
+        for (std::size_t i = 0; i < reglas_.campos.size(); ++i) {
+            if (const Campo *campo = reglas_.campos[i].campo)
+                vista_.Poner(static_cast<int>(i), AMostrar(static_cast<int>(i), campo->Texto()));
+        }
+        AlMostrar();
+    } catch (const ErrorDatos &) {
+        // The row can't be read: the fields stay half filled, as the operator has always seen it.
+    }
+}
+
+QString ListaDetalle::AMostrar(int, const QString &guardado) const {
+    return guardado;
+}
+
+QString ListaDetalle::AGuardar(int campo) const {
+    return vista_.Texto(campo);
+}
+
+QString ListaDetalle::CeldaGuardada(int columna) const {
+    const Campo *campo = reglas_.columnas[static_cast<std::size_t>(columna)].campo;
+    for (std::size_t i = 0; i < reglas_.campos.size(); ++i) {
+        if (campo != nullptr && reglas_.campos[i].campo == campo)
+            return vista_.Texto(static_cast<int>(i));
+    }
+    return {};
+}
+
+// --- states
+
+void ListaDetalle::PonerBotones(const Botones &botones) {
+    botones_ = botones;
+    vista_.MostrarBotones(botones_);
+    AlCambiarEstado();
+}
+
+void ListaDetalle::PasarAVacia() {
+    estado_ = EstadoDetalle::Vacia;
+    for (std::size_t i = 0; i < reglas_.campos.size(); ++i)
+        vista_.Poner(static_cast<int>(i), {});
+    vista_.HabilitarCampos(false);
+    Botones botones{true, false, false, true, false, botones_.buscar, botones_.imprimir};
+    if (reglas_.vaciaApagaBusqueda)
+        botones.buscar = botones.imprimir = false;
+    PonerBotones(botones);
+}
+
+void ListaDetalle::PasarAViendo() {
+    estado_ = EstadoDetalle::Viendo;
+    vista_.HabilitarCampos(true);
+    PonerBotones(kBotonesViendo);
+}
+
+void ListaDetalle::Nuevo() {
+    if (!botones_.nuevo)
+        return;
+    estado_ = EstadoDetalle::Nueva;
+    idMostrado_.clear();
+    vista_.HabilitarCampos(true);
+    for (std::size_t i = 0; i < reglas_.campos.size(); ++i)
+        vista_.Poner(static_cast<int>(i), reglas_.campos[i].inicial);
+    AlNuevo();
+    PonerBotones({false, true, false, false, true, botones_.buscar, botones_.imprimir});
+    vista_.HabilitarLista(false);
+    vista_.EnfocarCampo(0);
+}
+
+void ListaDetalle::Cancelar() {
+    if (!botones_.cancelar)
+        return;
+    vista_.HabilitarLista(true);
+    LlenarLista();
+}
+
+void ListaDetalle::Actualizar() {
+    if (botones_.actualizar)
+        LlenarLista();
+}
+
+bool ListaDetalle::PermiteCerrarPrograma() {
+    return !EntradaEnCurso() || preguntas_.Confirma(reglas_.preguntaCerrar, Respuesta::No);
+}
+
+void ListaDetalle::Exportar(bool posible) {
+    if (anfitrion_ != nullptr)
+        anfitrion_->ActDesMenu(1, QStringLiteral("exportar"), posible);
+}
+
+void ListaDetalle::AlCerrar() {
+    Exportar(false);
+}
+
+// --- search
+
+bool ListaDetalle::Buscar(const QString &texto, const std::vector<bool> &marcadas) {
+    std::vector<int> columnas;
+    for (std::size_t i = 0; i < marcadas.size(); ++i) {
+        if (marcadas[i])
+            columnas.push_back(reglas_.columnasBusqueda[i]);
+    }
+    if (columnas.empty()) {
+        preguntas_.Informar(QStringLiteral("Debe seleccionar al menos un criterio de búsqueda."));
+        return false;
+    }
+    if (texto.isEmpty())
+        return false;
+    const int fila = buscador_.Buscar(lista_, columnas, texto);
+    if (fila >= 0)
+        vista_.SeleccionarFila(fila);
+    return fila >= 0;
+}
+
+// --- writing
+
+bool ListaDetalle::EnTransaccion(const std::function<void()> &escribir) {
+    try {
+        Transaccion transaccion(frmBases_);
+        escribir();
+        transaccion.Confirmar();
+        return true;
+    } catch (const ErrorDatos &error) {
+        preguntas_.Mostrar(error.Descripcion(), Icono::Critico);
+        return false;
+    }
+}
+
+bool ListaDetalle::RequeridosLlenos() {
+    for (std::size_t i = 0; i < reglas_.campos.size(); ++i) {
+        const QString &nombre = reglas_.campos[i].requerido;
+        if (nombre.isEmpty() || !vista_.Texto(static_cast<int>(i)).isEmpty())
+            continue;
+        preguntas_.InformarRequerido(nombre);
+        vista_.EnfocarCampo(static_cast<int>(i));
+        return false;
+    }
+    return true;
+}
+
+void ListaDetalle::Guardar() {
+    if (!botones_.guardar || !RequeridosLlenos())
+        return;
+    const bool nueva = estado_ == EstadoDetalle::Nueva;
+    if (!nueva && !preguntas_.Confirma(reglas_.preguntaModificar, Respuesta::No))
+        return;
+    const int fila = nueva ? -1 : FilaMostrada();
+    if (HayDuplicado(fila) || !EnTransaccion([this] { EscribirFila(); }))
+        return;
+    if (nueva)
+        TrasAgregar();
+    else
+        TrasModificar(fila);
+}
+
+// The row of the list that the fields show: the selected one, unless a search has moved on since.
+int ListaDetalle::FilaMostrada() const {
+    const int elegida = vista_.FilaActual();
+    const QByteArray id = idMostrado_.toUtf8();
+    if (elegida >= 0 && lista_.CeldaUtf8(elegida, columnaId_) == Vista8(id))
+        return elegida;
+    return lista_.Buscar(columnaId_, Vista8(id));
+}
+
+bool ListaDetalle::HayDuplicado(int filaPropia) {
+    int posibles = 0;
+    for (const PruebaDuplicado &prueba : reglas_.duplicados) {
+        const QByteArray texto = vista_.Texto(prueba.campo).toUtf8();
+        posibles += indice_.Cuantas(lista_, prueba.columna, Vista8(texto));
+        if (filaPropia >= 0 && IgualSinCaja(lista_.CeldaUtf8(filaPropia, prueba.columna), Vista8(texto)))
+            --posibles;
+    }
+    // Only a list that may hold a duplicate is walked, to find which one comes first.
+    for (int fila = 0; posibles > 0 && fila < lista_.Filas(); ++fila) {
+        const PruebaDuplicado *prueba = fila == filaPropia ? nullptr : DuplicadoEn(fila);
+        if (prueba == nullptr)
+            continue;
+        preguntas_.Informar(prueba->mensaje);
+        vista_.EnfocarCampo(prueba->campo);
+        return true;
+    }
+    return false;
+}
+
+const PruebaDuplicado *ListaDetalle::DuplicadoEn(int fila) const {
+    for (const PruebaDuplicado &prueba : reglas_.duplicados) {
+        const QByteArray texto = vista_.Texto(prueba.campo).toUtf8();
+        if (IgualSinCaja(lista_.CeldaUtf8(fila, prueba.columna), Vista8(texto)))
+            return &prueba;
+    }
+    return nullptr;
+}
+
+void ListaDetalle::EscribirFila() {
+    if (estado_ == EstadoDetalle::Nueva)
+        reglas_.cursor.AddNew();
+    else if (!Posicionar(idMostrado_))
+        throw ErrorDatos(errores::kSinRegistro, QStringLiteral("El registro ya no existe."));
+    for (std::size_t i = 0; i < reglas_.campos.size(); ++i) {
+        const CampoDetalle &detalle = reglas_.campos[i];
+        if (detalle.campo != nullptr && !detalle.soloMostrar)
+            detalle.campo->Poner(AGuardar(static_cast<int>(i)));
+    }
+    reglas_.cursor.Refresh();
+}
+
+void ListaDetalle::TrasModificar(int fila) {
+    if (reglas_.rellenarAlGuardar) {
+        LlenarLista();
+        return;
+    }
+    if (fila >= 0)
+        ActualizarFila(fila);
+    Mostrar();
+    vista_.HabilitarLista(true);
+    vista_.EnfocarLista();
+}
+
+void ListaDetalle::TrasAgregar() {
+    estado_ = EstadoDetalle::Viendo;
+    PonerBotones(kBotonesViendo);
+    vista_.HabilitarLista(true);
+    if (reglas_.rellenarAlGuardar || lista_.Filas() == 0) {
+        LlenarLista();
+    } else {
+        AgregarFila();
+        vista_.SeleccionarFila(lista_.Filas() - 1);
+    }
+    if (reglas_.nuevoTrasGuardar)
+        Nuevo();
+    else
+        vista_.EnfocarLista();
+}
+
+void ListaDetalle::ActualizarFila(int fila) {
+    for (int columna = 0; columna < lista_.columnCount(); ++columna) {
+        if (columna == columnaId_)
+            continue;
+        const QByteArray texto = CeldaGuardada(columna).toUtf8();
+        indice_.Quitar(columna, lista_.CeldaUtf8(fila, columna));
+        indice_.Agregar(columna, Vista8(texto));
+        lista_.PonerCelda(fila, columna, QString::fromUtf8(texto));
+    }
+}
+
+void ListaDetalle::AgregarFila() {
+    idMostrado_ = reglas_.cursor.UltimoId();
+    QStringList celdas;
+    for (int columna = 0; columna < lista_.columnCount(); ++columna) {
+        celdas << (columna == columnaId_ ? idMostrado_ : CeldaGuardada(columna));
+        const QByteArray texto = celdas.last().toUtf8();
+        indice_.Agregar(columna, Vista8(texto));
+    }
+    lista_.AgregarFila(celdas);
+}
+
+void ListaDetalle::Eliminar() {
+    if (!botones_.eliminar)
+        return;
+    if (!reglas_.avisoUltimaFila.isEmpty() && lista_.Filas() == 1) {
+        preguntas_.Informar(reglas_.avisoUltimaFila);
+        return;
+    }
+    if (!preguntas_.Confirma(reglas_.preguntaEliminar, Respuesta::No))
+        return;
+    if (!EnTransaccion([this] { QuitarFila(); }))
+        return;
+    if (reglas_.eliminarApagaExportar)
+        Exportar(false);
+    LlenarLista();
+    vista_.EnfocarLista();
+}
+
+void ListaDetalle::QuitarFila() {
+    if (!Posicionar(idMostrado_))
+        throw ErrorDatos(errores::kSinRegistro, QStringLiteral("El registro ya no existe."));
+    reglas_.cursor.Delete();
+    reglas_.cursor.Refresh();
+}
+
+} // namespace tarvo
