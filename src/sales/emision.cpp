@@ -48,12 +48,9 @@ bool IntentarGuardar(const Servicios &servicios, const Venta &venta, const Datos
         GuardarVenta(servicios.frmBases, venta, comprobante);
         return true;
     } catch (const ErrorDatos &error) {
-        servicios.preguntas.Mostrar(
-            QStringLiteral(
-                "No se pudo guardar la venta: %1\n\nNo se registró nada y la venta sigue en pantalla: "
-                "puede emitirla otra vez.")
-                .arg(error.Descripcion()),
-            Icono::Critico);
+        servicios.preguntas.Mostrar(error.Descripcion() +
+                                        QStringLiteral("\n\nLa venta sigue en pantalla, sin cambios."),
+                                    Icono::Critico);
         return false;
     }
 }
@@ -68,7 +65,7 @@ void OfrecerTicket(const Servicios &servicios, const Venta &venta, const DatosCo
         ImprimirTicket(*papel, solicitud);
     } catch (const ErrorDatos &error) {
         servicios.preguntas.Mostrar(
-            QStringLiteral("No se pudo imprimir el ticket: %1\n\nLa venta quedó guardada.")
+            QStringLiteral("No se pudo imprimir el ticket. %1\n\nLa venta quedó guardada.")
                 .arg(error.Descripcion()),
             Icono::Critico);
     }

@@ -203,7 +203,10 @@ class FiltroCaracteres final : public QObject {
     bool eventFilter(QObject *, QEvent *evento) override {
         if (evento->type() != QEvent::KeyPress)
             return false;
-        const QString texto = static_cast<QKeyEvent *>(evento)->text();
+        const auto *tecla = static_cast<QKeyEvent *>(evento);
+        if ((tecla->modifiers() & Qt::ControlModifier) != 0) // Ctrl+V is no letter
+            return false;
+        const QString texto = tecla->text();
         return texto.size() == 1 && texto.front().isPrint() && !permitidos_.contains(texto.front());
     }
 

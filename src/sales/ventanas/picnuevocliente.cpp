@@ -30,7 +30,7 @@ void PicNuevoCliente::Abrir() {
         alta_.Comenzar();
     } catch (const ErrorDatos &error) {
         servicios_.preguntas.Mostrar(
-            QStringLiteral("No se puede ingresar un cliente: %1").arg(error.Descripcion()), Icono::Critico);
+            QStringLiteral("No se puede ingresar un cliente. %1").arg(error.Descripcion()), Icono::Critico);
         return;
     }
     for (const AltaCliente::CampoAlta &campo : AltaCliente::Campos())
@@ -68,10 +68,9 @@ void PicNuevoCliente::Guardar() {
     try {
         alta_.Guardar(valores);
     } catch (const ErrorDatos &error) {
-        servicios_.preguntas.Mostrar(
-            QStringLiteral("No se pudo guardar el cliente: %1\n\nLos datos siguen en pantalla.")
-                .arg(error.Descripcion()),
-            Icono::Critico);
+        servicios_.preguntas.Mostrar(error.Descripcion() +
+                                         QStringLiteral("\n\nLos datos del cliente siguen en pantalla."),
+                                     Icono::Critico);
         return;
     }
     emit Guardado();

@@ -1,0 +1,247 @@
+// The sale in progress without a window: its lists, its lines, its amounts, its customer.
+#include "tiendaprueba.h"
+
+#include "sales/venta.h"
+
+namespace tarvo {
+namespace {
+
+QStringList FilaDe(const ListaTexto &lista, int fila) {
+    QStringList celdas;
+    for (int columna = 0; columna < lista.columnCount(); ++columna)
+        celdas += lista.Celda(fila, columna);
+    return celdas;
+}
+
+class VentaPrueba : public ::testing::Test {
+  protected:
+    explicit VentaPrueba(const Moneda &moneda = Moneda()) : datos(moneda) { datos.Ejecutar(kTienda); }
+
+    Venta &venta() {
+        if (!venta_) {
+            venta_ = std::make_unique<Venta>(datos.Abrir());
+            venta_->CargarArticulos();
+            CargarClientes(datos.Abrir(), clientes);
+        }
+        return *venta_;
+    }
+    QString Stock(int fila) { return venta().Articulos().Celda(fila, articulo::Stock); }
+    Tono TonoStockDe(int fila) { return venta().Articulos().TonoDe(fila, articulo::Stock); }
+
+    DatosPrueba datos;
+    ListaTexto clientes{ColumnasClientes()};
+
+  private:
+    std::unique_ptr<Venta> venta_;
+};
+
+TEST_F(VentaPrueba, TheArticleListShowsPricesIvaAndTones) {
+    datos.Ejecutar("INSERT INTO articulos.Articulos(codigo,nombre,subtotal,stock,idtipoiva) VALUES"
+                   "('B1','Cero','','0',''),('B2','Debe','9.999','-2','1')");
+    const ListaTexto &lista = venta().Articulos();
+    ASSERT_EQ(lista.Filas(), 5);
+    EXPECT_EQ(FilaDe(lista, 1),
+              QStringList({QStringLiteral("A2"), QStringLiteral("7790001000028"), QStringLiteral("Azúcar"),
+                           QStringLiteral("1"), QStringLiteral("$ 12,50"), QStringLiteral("10,5%"),
+                           QStringLiteral("2"), QStringLiteral("2")}));
+    EXPECT_EQ(lista.Celda(2, articulo::Iva), QString()); // its IVA type is gone
+    EXPECT_EQ(lista.Celda(4, articulo::Precio), QStringLiteral("$ 10,00"));
+    EXPECT_EQ(TonoStockDe(0), Tono::Normal);
+    EXPECT_EQ(TonoStockDe(3), Tono::Verde);
+    EXPECT_EQ(TonoStockDe(4), Tono::Rojo);
+}
+
+TEST_F(VentaPrueba, TheSameArticleTwiceIsOneLine) {
+    EXPECT_EQ(venta().Agregar(0, 1), 0);
+    EXPECT_EQ(venta().Agregar(1, 2), 1);
+    EXPECT_EQ(venta().Agregar(0, 3), 0);
+    EXPECT_EQ(FilaDe(venta().Detalle(), 0),
+              QStringList({QStringLiteral("A1"), QStringLiteral("Yerba mate"), QStringLiteral("$ 100,00"),
+                           QStringLiteral("4"), QStringLiteral("$ 400,00"), QStringLiteral("1"),
+                           QStringLiteral("$ 84,00")}));
+    // 10,5% is charged as 10: 2 x 12,50 x 0,10
+    EXPECT_EQ(venta().Detalle().Celda(1, linea::Iva), QStringLiteral("$ 2,50"));
+    EXPECT_EQ(venta().Detalle().Filas(), 2);
+    EXPECT_EQ(Stock(0), QStringLiteral("6"));
+}
+
+TEST_F(VentaPrueba, StockFallsBelowZeroAndComesBack) {
+    for (int i = 0; i < 3; ++i)
+        venta().Agregar(1, 1);
+    venta().Agregar(2, 3);
+    EXPECT_EQ(Stock(1), QStringLiteral("-2"));
+    EXPECT_EQ(TonoStockDe(1), Tono::Rojo);
+    EXPECT_EQ(Stock(2), QStringLiteral("0"));
+    EXPECT_EQ(TonoStockDe(2), Tono::Verde);
+    // Sorted meanwhile, the article is found where it stands now.
+    venta().Articulos().Ordenar(articulo::Codigo, Qt::DescendingOrder);
+    venta().Quitar(0);
+    EXPECT_EQ(Stock(1), QStringLiteral("1"));
+    EXPECT_EQ(TonoStockDe(1), Tono::Normal);
+    EXPECT_EQ(venta().Detalle().Celda(0, linea::Codigo), QStringLiteral("A3"));
+}
+
+TEST_F(VentaPrueba, BrokenStockAndNoRowAreTolerated) {
+    datos.Ejecutar("UPDATE articulos.Articulos SET stock='2,5' WHERE id=1;"
+                   "UPDATE articulos.Articulos SET stock='pocos' WHERE id=2");
+    EXPECT_EQ(venta().Agregar(-1, 1), -1);
+    EXPECT_EQ(venta().Agregar(3, 1), -1);
+    EXPECT_FALSE(venta().EnCurso());
+    venta().Agregar(0, 1);
+    venta().Agregar(1, 1);
+    EXPECT_EQ(Stock(0), QStringLiteral("1,5"));
+    EXPECT_EQ(Stock(1), QStringLiteral("-1"));
+    // More units than four bytes hold.
+    venta().Agregar(2, 999999999);
+    venta().Agregar(2, 999999999);
+    venta().Agregar(2, 999999999);
+    EXPECT_EQ(venta().Detalle().Celda(2, linea::Cantidad), QStringLiteral("2999999997"));
+    EXPECT_EQ(Stock(2), QStringLiteral("-2999999994"));
+}
+
+TEST_F(VentaPrueba, TablesThatAreNotOpenGiveEmptyLists) {
+    datos.Ejecutar("DROP TABLE main.Impuesto"); // opening ends here: all the tables behind it stay closed
+    datos.Bases().Abrir();
+    Venta cerrada(datos.Bases());
+    cerrada.CargarArticulos();
+    EXPECT_EQ(cerrada.Articulos().Filas(), 0);
+    EXPECT_EQ(CargarVendedores(datos.Bases()), QStringList(SinVendedor()));
+    EXPECT_EQ(cerrada.CalcularTotales().conDescuento, QStringLiteral("$ 0,00"));
+    EXPECT_FALSE(cerrada.Impuesto().utilizar);
+}
+
+// --- customer, payment kind, consumer final
+
+TEST_F(VentaPrueba, ConsumerFinalFollowsTheFiscalId) {
+    Venta &v = venta();
+    EXPECT_TRUE(v.ConsumidorFinal());
+    v.PonerConsumidorFinal(false);
+    EXPECT_TRUE(v.ConsumidorFinal()) << "snaps back without a fiscal customer";
+    EXPECT_FALSE(v.PonerPago(Pago::Credito)) << "credit needs a customer";
+
+    v.ElegirCliente(clientes, 0);
+    EXPECT_FALSE(v.ConsumidorFinal());
+    EXPECT_EQ(v.Cliente().ruc, QStringLiteral("30-71234567-1"));
+    EXPECT_TRUE(v.PonerPago(Pago::Credito));
+
+    v.ElegirCliente(clientes, 1); // replaces the former, the credit stays
+    EXPECT_TRUE(v.ConsumidorFinal());
+    EXPECT_EQ(v.Cliente().nombre, QStringLiteral("Juan"));
+    EXPECT_EQ(v.Cliente().ruc, QString());
+    EXPECT_EQ(v.pago(), Pago::Credito);
+    v.PonerConsumidorFinal(true); // nothing to drop: he has no fiscal id
+    EXPECT_EQ(v.Cliente().nombre, QStringLiteral("Juan"));
+    EXPECT_EQ(v.pago(), Pago::Credito);
+
+    v.ElegirCliente(clientes, 0);
+    v.PonerConsumidorFinal(true);
+    EXPECT_EQ(v.Cliente().nombre, QString());
+    EXPECT_EQ(v.Cliente().id, QString());
+    EXPECT_EQ(v.pago(), Pago::Contado);
+}
+
+TEST_F(VentaPrueba, StartingOverKeepsTheDiscountOnly) {
+    Venta &v = venta();
+    v.Agregar(0, 4);
+    v.ElegirCliente(clientes, 0);
+    v.PonerPago(Pago::Credito);
+    v.PonerDescuento(QStringLiteral("10"));
+    v.Reiniciar();
+    EXPECT_FALSE(v.EnCurso());
+    EXPECT_EQ(Stock(0), QStringLiteral("10"));
+    EXPECT_EQ(v.Cliente().nombre, QString());
+    EXPECT_EQ(v.pago(), Pago::Contado);
+    EXPECT_TRUE(v.ConsumidorFinal());
+    EXPECT_EQ(v.TextoDescuento(), QStringLiteral("10 %"));
+}
+
+TEST_F(VentaPrueba, TheDiscountIsAPercentageBetween0And100) {
+    const std::pair<QString, QString> casos[] = {
+        {QString(), QStringLiteral("0 %")},
+        {QStringLiteral("7"), QStringLiteral("7 %")},
+        {QStringLiteral("007"), QStringLiteral("7 %")},
+        {QStringLiteral("150"), QStringLiteral("100 %")},
+        {QString(5000, QLatin1Char('9')), QStringLiteral("100 %")},
+    };
+    for (const auto &[tecleado, texto] : casos) {
+        venta().PonerDescuento(tecleado);
+        EXPECT_EQ(venta().TextoDescuento(), texto);
+    }
+    venta().Agregar(0, 1);
+    EXPECT_EQ(venta().CalcularTotales().total, QStringLiteral("$ 121,00"));
+    EXPECT_EQ(venta().CalcularTotales().conDescuento, QStringLiteral("$ 0,00"));
+}
+
+// --- totals
+
+struct CasoTotales {
+    const char *utilizar, *sobreIva, *existeIFiscal;
+    bool conIFiscal;
+    int descuento;
+    const char *impuesto, *total, *conDescuento;
+};
+
+// S = 4 x 100 + 3 x 12,50 = 437,50; I = 84 + 3,75 = 87,75; the rate is 3 %
+constexpr CasoTotales kTotales[] = {
+    {"No", "Si", "No", true, 0, "$ 0,00", "$ 525,25", "$ 525,25"},
+    {"Si", "No", "No", false, 0, "$ 13,13", "$ 538,38", "$ 538,38"},
+    {"Si", "Si", "No", false, 0, "$ 15,76", "$ 541,01", "$ 541,01"},
+    {"Si", "Si", "Si", false, 0, "$ 0,00", "$ 525,25", "$ 525,25"},
+    {"Si", "Si", "Si", true, 10, "$ 15,76", "$ 541,01", "$ 486,91"},
+    {"Si", "Si", "", true, 0, "$ 0,00", "$ 525,25", "$ 525,25"}, // neither Si nor No: never charged
+};
+
+TEST_F(VentaPrueba, TotalsByTaxSettingsAndDiscount) {
+    ListaTexto detalle(ColumnasDetalle());
+    const auto agregar = [&](const char *subtotal, const char *iva) {
+        detalle.AgregarFila({{}, {}, {}, {}, QLatin1String(subtotal), {}, QLatin1String(iva)});
+    };
+    agregar("$ 400,00", "$ 84,00");
+    agregar("$ 37,50", "$ 3,75");
+    for (const CasoTotales &caso : kTotales) {
+        DatosPrueba otros;
+        CobrarImpuesto(otros, caso.sobreIva, caso.existeIFiscal);
+        if (std::string(caso.utilizar) == "No")
+            otros.Ejecutar("UPDATE main.Impuesto SET utilizar='No'");
+        const Totales totales =
+            CalcularTotales(detalle, LeerImpuesto(otros.Abrir()), caso.conIFiscal, caso.descuento, Moneda());
+        EXPECT_EQ(totales.subtotal, QStringLiteral("$ 437,50"));
+        EXPECT_EQ(totales.iva, QStringLiteral("$ 87,75"));
+        EXPECT_EQ(totales.impuesto, QLatin1String(caso.impuesto));
+        EXPECT_EQ(totales.total, QLatin1String(caso.total));
+        EXPECT_EQ(totales.conDescuento, QLatin1String(caso.conDescuento));
+    }
+}
+
+// Lines are summed as they are shown, so three times 0,333.. is 0,99 and not 1,00; and the unrounded tax of
+// 0,5 % (0,00495) makes no cent.
+TEST_F(VentaPrueba, LineRoundingCountsAndTheTaxStaysUnrounded) {
+    ListaTexto detalle(ColumnasDetalle());
+    for (int i = 0; i < 3; ++i)
+        detalle.AgregarFila({{}, {}, {}, {}, QStringLiteral("$ 0,33"), {}, QStringLiteral("$ 0,00")});
+    ImpuestoPersonalizado impuesto;
+    impuesto.utilizar = impuesto.sinCondicion = true;
+    impuesto.porcentaje = 0.5;
+    const Totales totales = CalcularTotales(detalle, impuesto, false, 0, Moneda());
+    EXPECT_EQ(totales.subtotal, QStringLiteral("$ 0,99"));
+    EXPECT_EQ(totales.impuesto, QStringLiteral("$ 0,00"));
+    EXPECT_EQ(totales.total, QStringLiteral("$ 0,99"));
+    EXPECT_EQ(TotalesEnCero(Moneda()).total, QStringLiteral("0,00"));
+}
+
+class VentaBolivia : public VentaPrueba {
+  protected:
+    VentaBolivia() : VentaPrueba(Moneda(QStringLiteral("."), QStringLiteral("Bs"))) {}
+};
+
+TEST_F(VentaBolivia, PointLocaleAndTwoLetterSymbol) {
+    datos.Ejecutar("UPDATE main.Iva SET porcentaje='10.5' WHERE id=2");
+    venta().Agregar(1, 3);
+    EXPECT_EQ(venta().Detalle().Celda(0, linea::Precio), QStringLiteral("Bs 12.50"));
+    // With a point the whole 10.5 % is read: 37.50 x 0.105 = 3.9375
+    EXPECT_EQ(venta().Detalle().Celda(0, linea::Iva), QStringLiteral("Bs 3.94"));
+    EXPECT_EQ(venta().CalcularTotales().conDescuento, QStringLiteral("Bs 41.44"));
+}
+
+} // namespace
+} // namespace tarvo

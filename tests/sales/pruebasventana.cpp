@@ -1,0 +1,452 @@
+// The sale window by real keys and clicks, and its panels.
+#include "tiendaprueba.h"
+
+#include "desktop/anfitrion.h"
+#include "desktop/ventanas/listavista.h"
+#include "sales/ventanas/frmventas.h"
+
+#include <QAction>
+#include <QCheckBox>
+#include <QClipboard>
+#include <QComboBox>
+#include <QFrame>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTimer>
+#include <QToolBar>
+
+namespace tarvo {
+namespace {
+
+const QString kFinal = QStringLiteral("La búsqueda ha finalizado.");
+
+class AnfitrionMudo final : public Anfitrion {
+  public:
+    void ActDesMenu(int, const QString &, bool) override {}
+    void Sugerencia(const QString &) override {}
+};
+
+class VentanaVentas : public ::testing::Test {
+  protected:
+    VentanaVentas() { mundo.datos.Ejecutar(kTienda); }
+
+    void Abrir() {
+        ventana = std::make_unique<FrmVentas>(mundo.servicios(), anfitrion, nullptr);
+        ventana->resize(800, 455);
+        MostrarVentana(*ventana);
+    }
+    template <typename T> T *C(const char *nombre) { return Control<T>(*ventana, nombre); }
+    QLineEdit *Campo(const char *nombre) { return C<QLineEdit>(nombre); }
+    ListaVista *Lista(const char *nombre) { return C<ListaVista>(nombre); }
+    QString Texto(const char *etiqueta) { return C<QLabel>(etiqueta)->text(); }
+    bool Se(const char *nombre) { return C<QWidget>(nombre)->isVisible(); }
+    void Clic(const char *boton) { Pulsar(C<QWidget>(boton)); }
+    // Keys go to whatever has the focus, as from a keyboard.
+    void Teclas(const QString &texto) { QTest::keyClicks(QApplication::focusWidget(), texto); }
+    void Entrar() { QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return); }
+    void Escanear(const char *codigo) {
+        Teclas(QLatin1String(codigo));
+        Entrar();
+        Entrar();
+    }
+    QString Linea(int fila, int columna) { return Lista("LVDetalle")->Lista()->Celda(fila, columna); }
+    int Lineas() { return Lista("LVDetalle")->Lista()->Filas(); }
+    void Modo(const char *barra, const char *clave) {
+        Control<QAction>(*C<QToolBar>(barra), clave)->trigger();
+    }
+
+    MundoPrueba mundo;
+    AnfitrionMudo anfitrion;
+    std::unique_ptr<FrmVentas> ventana;
+};
+
+TEST_F(VentanaVentas, OpensAsAnEmptySale) {
+    mundo.ajustes.setValue(QStringLiteral("ImpTick"), QStringLiteral("Tickets"));
+    CobrarImpuesto(mundo.datos, "Si", "No");
+    Abrir();
+    EXPECT_EQ(mundo.impresoras.actual, QStringLiteral("Tickets"));
+    EXPECT_EQ(Texto("lblTitulo"), QStringLiteral("Ventas"));
+    EXPECT_EQ(Texto("lblFecha") + Texto("lblHora"), QStringLiteral("22/11/202610:42"));
+    for (const char *etiqueta : {"lblSubtotal", "lblIVA", "lblImpPersonalizado", "lblTotal", "lblDescuento"})
+        EXPECT_EQ(Texto(etiqueta), QStringLiteral("0,00"));
+    EXPECT_TRUE(Se("lblImpPersonalizado"));
+    EXPECT_EQ(Texto("lblImpPersonalizado1"), QStringLiteral("Percepción"));
+    EXPECT_EQ(Campo("txtDescuento")->text(), QStringLiteral("0 %"));
+    EXPECT_EQ(Campo("txtCantidad")->text(), QStringLiteral("1"));
+    EXPECT_FALSE(C<QPushButton>("cmdQuitar")->isEnabled());
+    EXPECT_TRUE(Se("shVContado"));
+    EXPECT_FALSE(Se("shVCredito"));
+    EXPECT_TRUE(C<QCheckBox>("chkFinal")->isChecked());
+    EXPECT_FALSE(ventana->EntradaEnCurso());
+    const auto *vendedores = C<QComboBox>("cboxVendedores");
+    ASSERT_EQ(vendedores->count(), 3);
+    EXPECT_EQ(vendedores->currentText(), QStringLiteral("> Seleccione un vendedor <"));
+    EXPECT_EQ(vendedores->itemText(2), QStringLiteral("V2 - Beto"));
+
+    mundo.reloj.Poner(QDateTime({2026, 11, 23}, {0, 0}));
+    EXPECT_EQ(C<QTimer>("Timer1")->interval(), 1000);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Texto("lblFecha") == QStringLiteral("23/11/2026"); }));
+}
+
+TEST_F(VentanaVentas, AWholeSaleByScannerAndKeys) {
+    Abrir();
+    Escanear("7790001000011");
+    Escanear("7790001000011");
+    EXPECT_EQ(ConFoco(), QStringLiteral("txtBuscar"));
+    EXPECT_EQ(Campo("txtBuscar")->text(), QString());
+    EXPECT_EQ(Linea(0, linea::Cantidad), QStringLiteral("2"));
+    EXPECT_EQ(Lista("LVArticulos")->Lista()->Celda(0, articulo::Stock), QStringLiteral("8"));
+    EXPECT_TRUE(ventana->EntradaEnCurso());
+
+    // By quantity: Enter in the list goes there, Enter there adds.
+    Lista("LVArticulos")->setFocus();
+    Lista("LVArticulos")->SeleccionarFila(1);
+    Entrar();
+    EXPECT_EQ(ConFoco(), QStringLiteral("txtCantidad"));
+    Teclas(QStringLiteral("3"));
+    Entrar();
+    EXPECT_EQ(Linea(1, linea::Cantidad), QStringLiteral("3"));
+    EXPECT_EQ(Lista("LVDetalle")->FilaActual(), 1);
+    EXPECT_EQ(Campo("txtCantidad")->text(), QStringLiteral("1"));
+    EXPECT_EQ(Texto("lblTotal"), QStringLiteral("$ 283,25"));
+
+    Teclear(Campo("txtNumComp"), QStringLiteral("77"));
+    Teclear(Campo("txtDescuento"), QStringLiteral("10"));
+    Entrar();
+    EXPECT_EQ(Campo("txtDescuento")->text(), QStringLiteral("10 %"));
+    EXPECT_EQ(Texto("lblDescuento"), QStringLiteral("$ 254,93"));
+    C<QComboBox>("cboxVendedores")->setCurrentIndex(1);
+    mundo.preguntas.Espera(QStringLiteral("Confirma la emisión de la factura?"), Respuesta::Si,
+                           Respuesta::Si);
+    mundo.preguntas.Espera(QStringLiteral("Desea imprimir el ticket?"), Respuesta::Si, Respuesta::Si);
+    mundo.preguntas.EsperaMensaje(QStringLiteral("La venta se realizó con exito."), Icono::Informacion);
+    Clic("cmdEmitir");
+
+    EXPECT_EQ(mundo.datos.Filas("SELECT numcomp,total,fecha,hora,idoperador FROM ventas.Ventas"),
+              (std::vector<std::vector<QString>>{{QStringLiteral("77"), QStringLiteral("$ 254,93"),
+                                                  QStringLiteral("22/11/2026"), QStringLiteral("10:42"),
+                                                  QStringLiteral("1")}}));
+    EXPECT_EQ(Lineas(), 0);
+    EXPECT_EQ(Lista("LVArticulos")->Lista()->Celda(0, articulo::Stock), QStringLiteral("8"));
+    EXPECT_EQ(Texto("lblDescuento"), QStringLiteral("$ 0,00"));
+    EXPECT_FALSE(C<QPushButton>("cmdQuitar")->isEnabled());
+    EXPECT_EQ(C<QComboBox>("cboxVendedores")->currentIndex(), 0);
+    EXPECT_EQ(Campo("txtNumComp")->text(), QStringLiteral("77"));
+    EXPECT_EQ(Campo("txtDescuento")->text(), QStringLiteral("10 %"));
+    EXPECT_EQ(ConFoco(), QStringLiteral("txtBuscar"));
+}
+
+TEST_F(VentanaVentas, RefusedIssuesMoveTheFocus) {
+    Abrir();
+    mundo.preguntas.EsperaMensaje(QStringLiteral("Debe agregar al menos un artículo a la lista."),
+                                  Icono::Informacion);
+    Clic("cmdEmitir");
+    EXPECT_EQ(ConFoco(), QStringLiteral("txtBuscar"));
+    Escanear("28");
+    mundo.preguntas.EsperaMensaje(QStringLiteral("Debe seleccionar un vendedor."), Icono::Ninguno);
+    Clic("cmdEmitir");
+    EXPECT_EQ(ConFoco(), QStringLiteral("cboxVendedores"));
+    EXPECT_EQ(Lineas(), 1);
+}
+
+// --- search
+
+// The start row grows by one with each hit and doesn't jump behind the row found.
+TEST_F(VentanaVentas, FindNextAdvancesSlowlyAndEndsWithAMessage) {
+    Abrir();
+    Teclas(QStringLiteral("000035"));
+    for (int i = 0; i < 3; ++i) {
+        C<QPushButton>("cmdBuscar")->click();
+        EXPECT_EQ(Lista("LVArticulos")->FilaActual(), 2);
+        EXPECT_EQ(ConFoco(), QStringLiteral("cmdAgregar"));
+    }
+    Lista("LVArticulos")->SeleccionarFila(0);
+    C<QPushButton>("cmdBuscar")->click(); // above the row count: starts over
+    EXPECT_EQ(Lista("LVArticulos")->FilaActual(), 2);
+
+    Campo("txtBuscar")->setText(QStringLiteral("000011")); // a change starts over too
+    C<QPushButton>("cmdBuscar")->click();
+    EXPECT_EQ(Lista("LVArticulos")->FilaActual(), 0);
+    mundo.preguntas.EsperaMensaje(kFinal, Icono::Informacion);
+    C<QPushButton>("cmdBuscar")->click();
+    EXPECT_EQ(ConFoco(), QStringLiteral("LVArticulos"));
+    Campo("txtBuscar")->clear();
+    C<QPushButton>("cmdBuscar")->click();
+    EXPECT_EQ(ConFoco(), QStringLiteral("txtBuscar"));
+}
+
+TEST_F(VentanaVentas, SearchModes) {
+    Abrir();
+    auto *campo = Campo("txtBuscar");
+    auto *boton = C<QPushButton>("cmdBuscar");
+    EXPECT_EQ(boton->text(), QStringLiteral("Código de barras"));
+    Modo("tbrControles", "codigo");
+    EXPECT_EQ(boton->text(), QStringLiteral("Buscar por código"));
+    EXPECT_EQ(ConFoco(), QStringLiteral("txtBuscar"));
+    Teclas(QStringLiteral("a3"));
+    Entrar();
+    EXPECT_EQ(Lista("LVArticulos")->FilaActual(), 2);
+    EXPECT_EQ(campo->selectedText(), QStringLiteral("a3"));
+
+    // The article mode looks into the barcodes and not into the names.
+    Modo("tbrControles", "articulo");
+    EXPECT_EQ(boton->text(), QStringLiteral("Buscar por artículo"));
+    Teclas(QStringLiteral("Yerba"));
+    mundo.preguntas.EsperaMensaje(kFinal, Icono::Informacion);
+    Entrar();
+    Teclear(campo, QStringLiteral("0028"));
+    Entrar();
+    EXPECT_EQ(Lista("LVArticulos")->FilaActual(), 1);
+    EXPECT_EQ(ConFoco(), QStringLiteral("txtBuscar"));
+
+    auto *buscar = Control<QAction>(*C<QToolBar>("tbrControles"), "buscar");
+    buscar->trigger();
+    EXPECT_FALSE(campo->isEnabled() || boton->isEnabled());
+    Modo("tbrControles", "barras");
+    EXPECT_TRUE(campo->isEnabled() && boton->isEnabled() && buscar->isChecked());
+}
+
+// --- quantity, lines
+
+TEST_F(VentanaVentas, TheQuantityTakesDigitsAndArrows) {
+    Abrir();
+    auto *cantidad = Campo("txtCantidad");
+    cantidad->setFocus();
+    QApplication::clipboard()->setText(QStringLiteral("1a\n2-3,4é😀"));
+    QTest::keySequence(cantidad, QKeySequence::Paste);
+    EXPECT_EQ(cantidad->text(), QStringLiteral("1234"));
+    cantidad->selectAll();
+    Teclas(QStringLiteral("-9.998"));
+    for (const char *texto : {"9999", "9999"}) {
+        Tecla(cantidad, Qt::Key_Up);
+        EXPECT_EQ(cantidad->text(), QLatin1String(texto));
+    }
+    auto *flechas = C<QAbstractSlider>("FSB1");
+    EXPECT_EQ(flechas->value(), -9999);
+    flechas->setValue(-2);
+    EXPECT_EQ(cantidad->text(), QStringLiteral("2"));
+    for (int i = 0; i < 2; ++i)
+        Tecla(cantidad, Qt::Key_Down);
+    EXPECT_EQ(cantidad->text(), QStringLiteral("1"));
+    cantidad->clear();
+    Campo("txtBuscar")->setFocus();
+    EXPECT_EQ(cantidad->text(), QStringLiteral("1"));
+    cantidad->clear();
+    cantidad->setFocus();
+    Entrar();
+    EXPECT_EQ(Linea(0, linea::Cantidad), QStringLiteral("1"));
+}
+
+TEST_F(VentanaVentas, RemovingALineAsks) {
+    const QString pregunta = QStringLiteral("Está seguro de querer quitar artículo de la lista?");
+    Abrir();
+    Lista("LVDetalle")->setFocus();
+    EXPECT_NE(ConFoco(), QStringLiteral("LVDetalle")) << "an empty list passes the focus on";
+    for (const char *codigo : {"000011", "000028", "000035"}) {
+        Campo("txtBuscar")->setFocus();
+        Escanear(codigo);
+    }
+    mundo.preguntas.Espera(pregunta, Respuesta::No, Respuesta::No);
+    Clic("cmdQuitar");
+    EXPECT_EQ(Lineas(), 3);
+    mundo.preguntas.Espera(pregunta, Respuesta::No, Respuesta::Si);
+    Lista("LVDetalle")->setFocus();
+    Tecla(Lista("LVDetalle"), Qt::Key_Delete);
+    EXPECT_EQ(Lineas(), 2);
+    EXPECT_EQ(Lista("LVArticulos")->Lista()->Celda(2, articulo::Stock), QStringLiteral("3"));
+    EXPECT_EQ(ConFoco(), QStringLiteral("LVArticulos"));
+    for (int i = 0; i < 2; ++i) {
+        EXPECT_TRUE(C<QPushButton>("cmdQuitar")->isEnabled());
+        mundo.preguntas.Espera(pregunta, Respuesta::No, Respuesta::Si);
+        emit Lista("LVDetalle")->FilaDobleClic(0);
+    }
+    EXPECT_FALSE(C<QPushButton>("cmdQuitar")->isEnabled());
+    EXPECT_EQ(Texto("lblTotal"), QStringLiteral("$ 0,00"));
+}
+
+TEST_F(VentanaVentas, ANewSaleAsksAndKeepsNumberAndDiscount) {
+    const QString pregunta = QStringLiteral("Está seguro de querer comenzar una nueva venta?");
+    Abrir();
+    Escanear("000028");
+    Teclear(Campo("txtNumComp"), QStringLiteral("5"));
+    Teclear(Campo("txtDescuento"), QStringLiteral("150"));
+    mundo.preguntas.Espera(pregunta, Respuesta::No, Respuesta::No);
+    Clic("cmdNuevo");
+    EXPECT_EQ(Lineas(), 1);
+    mundo.preguntas.Espera(pregunta, Respuesta::No, Respuesta::Si);
+    Clic("cmdNuevo");
+    EXPECT_EQ(Lineas(), 0);
+    EXPECT_EQ(Lista("LVArticulos")->Lista()->Celda(1, articulo::Stock), QStringLiteral("1"));
+    EXPECT_EQ(ConFoco(), QStringLiteral("LVArticulos"));
+    EXPECT_EQ(Campo("txtNumComp")->text() + Campo("txtDescuento")->text(), QStringLiteral("5100 %"));
+}
+
+TEST_F(VentanaVentas, AnEmptyCatalogueAddsNothing) {
+    mundo.datos.Ejecutar("DELETE FROM articulos.Articulos; DELETE FROM clientes.Clientes");
+    Abrir();
+    Clic("cmdAgregar");
+    EXPECT_EQ(Lineas(), 0);
+    Clic("cmdCliente");
+    Clic("cmdAceptar"); // an empty list: as cancel
+    EXPECT_FALSE(Se("picClientes"));
+    EXPECT_EQ(Texto("lblCliente"), QString());
+}
+
+// A list with more rows than fit makes room for its scroll bar.
+TEST_F(VentanaVentas, AFullListNarrowsItsColumn) {
+    mundo.datos.Ejecutar("WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i+1 FROM n WHERE i<60) "
+                         "INSERT INTO articulos.Articulos(codigo,codbarras1,nombre,subtotal,stock) SELECT "
+                         "'X'||i,'','x','1','1' FROM n");
+    Abrir();
+    const auto titulo = [this] {
+        return Lista("LVDetalle")->Lista()->headerData(linea::Cantidad, Qt::Horizontal).toString();
+    };
+    EXPECT_EQ(titulo(), QStringLiteral("Cantidad"));
+    for (int fila = 0; fila < 40; ++fila)
+        emit Lista("LVArticulos")->FilaDobleClic((Lista("LVArticulos")->SeleccionarFila(fila), fila));
+    EXPECT_EQ(titulo(), QStringLiteral("Cant."));
+    mundo.preguntas.Espera(QStringLiteral("Está seguro de querer comenzar una nueva venta?"), Respuesta::No,
+                           Respuesta::Si);
+    Clic("cmdNuevo");
+    EXPECT_EQ(titulo(), QStringLiteral("Cantidad"));
+}
+
+// --- customer
+
+TEST_F(VentanaVentas, CreditNeedsACustomerAndTheTaxFollowsHisFiscalId) {
+    CobrarImpuesto(mundo.datos, "No", "Si");
+    Abrir();
+    Escanear("000011");
+    mundo.preguntas.EsperaMensaje(QStringLiteral("Debe seleccionar un cliente."), Icono::Informacion);
+    Clic("cmdVCredito");
+    EXPECT_EQ(ConFoco(), QStringLiteral("cmdCliente"));
+    EXPECT_TRUE(Se("shVContado"));
+
+    Clic("cmdCliente");
+    for (const char *marco : {"frArticulos", "frDetalle", "frDatos"})
+        EXPECT_FALSE(C<QWidget>(marco)->isEnabled());
+    EXPECT_TRUE(ventana->EntradaEnCurso()) << "the disabled frame doesn't end the entry";
+    EXPECT_EQ(ConFoco(), QStringLiteral("txtBuscarClientes"));
+    Teclas(QStringLiteral("AND"));
+    Entrar();
+    Clic("cmdAceptar");
+    EXPECT_TRUE(C<QWidget>("frDatos")->isEnabled());
+    EXPECT_EQ(Texto("lblCliente"), QStringLiteral("Ñandú S.A."));
+    EXPECT_EQ(Texto("lblRUC"), QStringLiteral("30-71234567-1"));
+    EXPECT_EQ(Texto("lblIdCliente"), QStringLiteral("1"));
+    EXPECT_FALSE(C<QCheckBox>("chkFinal")->isChecked());
+    EXPECT_EQ(Texto("lblImpPersonalizado"), QStringLiteral("$ 3,00"));
+    Clic("cmdVCredito");
+    EXPECT_TRUE(Se("shVCredito"));
+    EXPECT_FALSE(Se("shVContado"));
+
+    C<QCheckBox>("chkFinal")->click();
+    EXPECT_TRUE(C<QCheckBox>("chkFinal")->isChecked());
+    EXPECT_EQ(Texto("lblCliente") + Texto("lblRUC") + Texto("lblIdCliente"), QString());
+    EXPECT_TRUE(Se("shVContado"));
+    EXPECT_EQ(Texto("lblTotal"), QStringLiteral("$ 121,00"));
+    C<QCheckBox>("chkFinal")->click();
+    EXPECT_TRUE(C<QCheckBox>("chkFinal")->isChecked()) << "snaps back";
+}
+
+TEST_F(VentanaVentas, CustomerSearchModesStartOverAtTheEnd) {
+    Abrir();
+    Clic("cmdCliente");
+    auto *boton = C<QPushButton>("cmdBuscarClientes");
+    EXPECT_EQ(boton->text(), QStringLiteral("Buscar por nombre"));
+    const std::array<const char *, 3> modos[] = {{"codigo", "Buscar por código", "c1"},
+                                                 {"nombre", "Buscar por nombre", "ÑANDÚ"},
+                                                 {"telefono", "Buscar por teléfono", "444"},
+                                                 {"ruc", "Buscar por i.fiscal", "-71"}};
+    for (const auto &[clave, titulo, texto] : modos) {
+        Modo("tbrClientes", clave);
+        EXPECT_EQ(boton->text(), QString::fromUtf8(titulo));
+        Lista("LVClientes")->SeleccionarFila(1);
+        Campo("txtBuscarClientes")->setText(QString::fromUtf8(texto));
+        for (int vuelta = 0; vuelta < 2; ++vuelta) {
+            boton->click();
+            EXPECT_EQ(Lista("LVClientes")->FilaActual(), 0);
+            mundo.preguntas.EsperaMensaje(kFinal, Icono::Informacion);
+            boton->click();
+            EXPECT_EQ(ConFoco(), QStringLiteral("LVClientes"));
+        }
+    }
+    EXPECT_EQ(Control<QAction>(*C<QToolBar>("tbrClientes"), "actualizar")->toolTip(),
+              QStringLiteral("Acualizar"));
+}
+
+TEST_F(VentanaVentas, EscapeClosesTheTopmostPanel) {
+    Abrir();
+    Clic("cmdCliente");
+    Clic("cmdAgregarCliente");
+    EXPECT_EQ(ConFoco(), QStringLiteral("txtCodigo"));
+    for (const char *control :
+         {"LVClientes", "txtBuscarClientes", "tbrClientes", "cmdAceptar", "cmdCancelar"})
+        EXPECT_FALSE(C<QWidget>(control)->isEnabled());
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+    EXPECT_FALSE(Se("picNuevoCliente"));
+    EXPECT_TRUE(Se("picClientes"));
+    EXPECT_TRUE(C<QWidget>("LVClientes")->isEnabled());
+    EXPECT_FALSE(mundo.frmBases().datClientes.FilaNueva());
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+    EXPECT_FALSE(Se("picClientes"));
+    EXPECT_TRUE(C<QWidget>("frArticulos")->isEnabled());
+}
+
+TEST_F(VentanaVentas, TheQuickEntrySavesWithoutPickingTheCustomer) {
+    mundo.datos.Ejecutar("CREATE TRIGGER clientes.negar BEFORE INSERT ON Clientes WHEN NEW.nombre='Malo' "
+                         "BEGIN SELECT RAISE(FAIL,'sin lugar'); END");
+    Abrir();
+    Clic("cmdCliente");
+    Clic("cmdAgregarCliente");
+    mundo.preguntas.EsperaMensaje(QStringLiteral("Debe llenar el campo \"Código\""), Icono::Informacion);
+    Clic("cmdGuardarCliente");
+    EXPECT_EQ(ConFoco(), QStringLiteral("txtCodigo"));
+    Teclas(QStringLiteral("C1")); // a repeated code passes
+    mundo.preguntas.EsperaMensaje(QStringLiteral("Debe llenar el campo \"Nombre\""), Icono::Informacion);
+    Clic("cmdGuardarCliente");
+    EXPECT_EQ(ConFoco(), QStringLiteral("txtNombre"));
+    Teclas(QStringLiteral("Malo"));
+    mundo.preguntas.EsperaMensaje(QStringLiteral("No se pudo escribir en la base de datos: sin lugar.\n\n"
+                                                 "Los datos del cliente siguen en pantalla."),
+                                  Icono::Critico);
+    Clic("cmdGuardarCliente");
+    EXPECT_TRUE(Se("picNuevoCliente"));
+    EXPECT_EQ(Campo("txtNombre")->text(), QStringLiteral("Malo"));
+
+    const QString raro = QStringLiteral("O'Hara \"x\"; <b>😀</b>\t") + QString(10000, QLatin1Char('z'));
+    Campo("txtNombre")->selectAll();
+    QApplication::clipboard()->setText(raro);
+    QTest::keySequence(Campo("txtNombre"), QKeySequence::Paste);
+    Campo("txtNombre")->setFocus();
+    // Enter walks the fields to the button, whose own Enter saves.
+    for (int i = 0; i < 13; ++i)
+        Entrar();
+    EXPECT_EQ(ConFoco(), QStringLiteral("cmdGuardarCliente"));
+    Entrar();
+    EXPECT_FALSE(Se("picNuevoCliente"));
+    EXPECT_TRUE(Se("picClientes"));
+    EXPECT_EQ(Texto("lblCliente"), QString());
+    ASSERT_EQ(Lista("LVClientes")->Lista()->Filas(), 3);
+    EXPECT_EQ(Lista("LVClientes")->Lista()->Celda(2, cliente::Nombre), raro);
+    emit Lista("LVClientes")->FilaDobleClic((Lista("LVClientes")->SeleccionarFila(2), 2));
+    EXPECT_EQ(Texto("lblCliente"), raro);
+    EXPECT_LE(ventana->minimumSizeHint().width(), 800) << "a long name doesn't widen the window";
+}
+
+// --- leaving
+
+TEST_F(VentanaVentas, ClosingTheProgramAsksWithASaleInProgress) {
+    Abrir();
+    EXPECT_TRUE(ventana->PermiteCerrarPrograma());
+    Escanear("000011");
+    for (const Respuesta respuesta : {Respuesta::No, Respuesta::Si}) {
+        mundo.preguntas.Espera(QStringLiteral("Desea cerrar el programa sin completar la venta?"),
+                               Respuesta::No, respuesta);
+        EXPECT_EQ(ventana->PermiteCerrarPrograma(), respuesta == Respuesta::Si);
+    }
+}
+
+} // namespace
+} // namespace tarvo
