@@ -31,10 +31,10 @@ bool SinModificador(const QKeyEvent &evento) {
 }
 
 // What the Tab key would do, so that the tab order of the window is the one order that there is. A date stops at each
-// of its three parts first.
+// of its three parts first; any other field that keeps the focus has refused to be left.
 void PasarAlSiguiente(QWidget *control) {
-    constexpr int kPartes = 4;
-    for (int i = 0; i == 0 || (i < kPartes && control->hasFocus()); ++i) {
+    const int partes = qobject_cast<QAbstractSpinBox *>(control) != nullptr ? 4 : 1;
+    for (int i = 0; i == 0 || (i < partes && control->hasFocus()); ++i) {
         QKeyEvent tabulador(QEvent::KeyPress, Qt::Key_Tab, Qt::NoModifier);
         QCoreApplication::sendEvent(control, &tabulador);
     }
