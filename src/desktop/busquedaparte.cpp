@@ -38,21 +38,36 @@ bool BusquedaParte::Esta(std::string_view celda) const {
 }
 
 bool BusquedaParte::EstaEnBytes(std::string_view celda) const {
-    const std::size_t largo = bytes_.size();
-    if (celda.size() < largo)
-        return false;
-    const auto en = [&](std::size_t i) {
-        return Minuscula(i > 0 ? static_cast<unsigned char>(celda[i - 1]) : 0,
-                         static_cast<unsigned char>(celda[i]));
-    };
-    for (std::size_t inicio = 0; inicio + largo <= celda.size(); ++inicio) {
-        std::size_t i = 0;
-        while (i < largo && en(inicio + i) == static_cast<unsigned char>(bytes_[i]))
-            ++i;
-        if (i == largo)
+    if (bytes_.empty())
+        return true;
+    // Either case of the first letter, found by the library's fast search for a byte.
+    const char menor = bytes_.front();
+    const char mayor = menor >= 'a' && menor <= 'z' ? static_cast<char>(menor - 0x20) : menor;
+    std::size_t enMenor = celda.find(menor);
+    std::size_t enMayor = mayor == menor ? std::string_view::npos : celda.find(mayor);
+    while (enMenor != enMayor) {
+        const std::size_t inicio = std::min(enMenor, enMayor);
+        if (EmpiezaEn(celda, inicio))
             return true;
+        if (inicio == enMenor)
+            enMenor = celda.find(menor, inicio + 1);
+        else
+            enMayor = celda.find(mayor, inicio + 1);
     }
     return false;
+}
+
+bool BusquedaParte::EmpiezaEn(std::string_view celda, std::size_t inicio) const {
+    if (celda.size() - inicio < bytes_.size())
+        return false;
+    unsigned char previo = 0;
+    for (std::size_t i = 0; i < bytes_.size(); ++i) {
+        const auto actual = static_cast<unsigned char>(celda[inicio + i]);
+        if (Minuscula(previo, actual) != static_cast<unsigned char>(bytes_[i]))
+            return false;
+        previo = actual;
+    }
+    return true;
 }
 
 } // namespace tarvo

@@ -17,6 +17,7 @@ class BusquedaParte {
 
   private:
     bool EstaEnBytes(std::string_view celda) const;
+    bool EmpiezaEn(std::string_view celda, std::size_t inicio) const;
     QString minusculas_;
     std::string bytes_;
     bool latina_; // ASCII and the accented letters of Latin-1 only: bytes can be compared

@@ -10,6 +10,19 @@
 
 namespace tarvo {
 
+namespace {
+
+bool MismosTextos(const ColumnaTexto &una, const ColumnaTexto &otra) {
+    if (una.Filas() != otra.Filas())
+        return false;
+    for (std::int64_t fila = 0; fila < una.Filas(); ++fila)
+        if (una.Celda(fila) != otra.Celda(fila))
+            return false;
+    return true;
+}
+
+} // namespace
+
 // Cells, tones and marks lie in stored rows, in the order in which they came; `orden` tells the stored row of
 // each row on screen.
 struct ListaTexto::Privado {
@@ -36,6 +49,13 @@ struct ListaTexto::Privado {
         if (rango.empty())
             rango = comparador.Rangos(Columna(columna));
         return rango;
+    }
+    // A list that is filled again with the texts that it had needs no new sort.
+    void Reemplazar(std::vector<ColumnaTexto> nuevas) {
+        for (std::size_t i = 0; i < celdas.size(); ++i)
+            if (!rangos[i].empty() && !MismosTextos(celdas[i], nuevas[i]))
+                rangos[i].clear();
+        celdas = std::move(nuevas);
     }
     void OlvidarRangos() { rangos.assign(rangos.size(), {}); }
     void Reordenar(int columna, Qt::SortOrder sentido) {
@@ -76,12 +96,11 @@ std::string_view ListaTexto::CeldaUtf8(int fila, int columna) const {
 void ListaTexto::Asignar(std::vector<ColumnaTexto> celdas, int columnaTono, std::vector<Tono> tonos) {
     Q_ASSERT(celdas.size() == especificacion_.size());
     beginResetModel();
-    d_->celdas = std::move(celdas);
+    d_->Reemplazar(std::move(celdas));
     d_->tonos.assign(especificacion_.size(), {});
     if (columnaTono >= 0)
         d_->tonos[static_cast<std::size_t>(columnaTono)] = std::move(tonos);
     d_->marcas.assign(static_cast<std::size_t>(Filas()), false);
-    d_->OlvidarRangos();
     d_->Reordenar(columnaOrden_, orden_);
     endResetModel();
 }

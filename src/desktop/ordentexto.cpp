@@ -18,8 +18,9 @@ std::vector<std::uint32_t> OrdenTexto::Rangos(const ColumnaTexto &columna) const
 
     std::vector<std::uint32_t> orden(filas);
     std::iota(orden.begin(), orden.end(), 0U);
-    std::sort(orden.begin(), orden.end(),
-              [&](std::uint32_t a, std::uint32_t b) { return claves[a].compare(claves[b]) < 0; });
+    // A merge sort: it compares least, and comparing keys is what takes the time.
+    std::stable_sort(orden.begin(), orden.end(),
+                     [&](std::uint32_t a, std::uint32_t b) { return claves[a].compare(claves[b]) < 0; });
 
     std::vector<std::uint32_t> rangos(filas);
     std::uint32_t rango = 0;

@@ -163,6 +163,23 @@ TEST(ListaTexto, RowsKeepTonesMarksAndPlaceThroughChanges) {
     EXPECT_FALSE(lista.Marcada(0));
 }
 
+// The order of the last fill is remembered; it must not outlive the texts.
+TEST(ListaTexto, EveryFillIsSortedByItsOwnTexts) {
+    ListaDePrueba lista({u"b"_qs, u"c"_qs, u"a"_qs});
+    lista.Ordenar(0, Qt::AscendingOrder);
+    for (const QStringList &textos : {QStringList{u"b"_qs, u"c"_qs, u"a"_qs},
+                                      {u"b"_qs, u"a"_qs, u"c"_qs},
+                                      {u"z"_qs, u"y"_qs},
+                                      {},
+                                      {u"e"_qs, u"é"_qs, u"D"_qs}}) {
+        QStringList ordenados = textos;
+        std::sort(ordenados.begin(), ordenados.end(),
+                  [](const QString &a, const QString &b) { return OrdenTexto().Comparar(a, b) < 0; });
+        lista.Asignar(Celdas({textos, textos}));
+        EXPECT_EQ(Columna(lista, 0), ordenados);
+    }
+}
+
 TEST(ListaTexto, PersistentIndexesFollowTheirRows) {
     ListaDePrueba lista({u"b"_qs, u"c"_qs, u"a"_qs});
     const QPersistentModelIndex fila(lista.index(1, 1));

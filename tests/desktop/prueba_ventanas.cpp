@@ -225,6 +225,23 @@ TEST(ListaVista, TellsWhatTheOperatorChoseButNotWhatTheProgramSelects) {
     EXPECT_EQ(doble.first().first().toInt(), 3);
 }
 
+TEST(ListaVista, AChosenRowStaysChosen) {
+    VistaDePrueba v(4);
+    const auto centro = [&](int fila) { return v.vista.visualRect(v.lista.index(fila, 0)).center(); };
+    QWidget *papel = v.vista.viewport();
+    v.ClicFila(2);
+    QTest::mouseClick(papel, Qt::LeftButton, Qt::ControlModifier, centro(2));
+    EXPECT_EQ(v.vista.FilaActual(), 2);
+    QTest::mouseClick(papel, Qt::LeftButton, {}, {20, papel->height() - 5});
+    EXPECT_EQ(v.vista.FilaActual(), 2) << "a click below the rows";
+    QTest::mousePress(papel, Qt::LeftButton, {}, centro(1));
+    QTest::mouseMove(papel, centro(3));
+    QTest::mouseRelease(papel, Qt::LeftButton, {}, centro(3));
+    EXPECT_EQ(v.vista.FilaActual(), 1) << "dragging over other rows";
+    Tecla(&v.vista, Qt::Key_Down, Qt::ControlModifier);
+    EXPECT_EQ(v.vista.FilaActual(), 2);
+}
+
 TEST(ListaVista, ColumnsShareTheWidthAndHiddenOnesTakeNone) {
     VistaDePrueba v(3);
     const auto ancho = [&](int columna) { return v.vista.columnWidth(columna); };

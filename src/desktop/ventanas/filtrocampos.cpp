@@ -30,8 +30,8 @@ bool SinModificador(const QKeyEvent &evento) {
     return (evento.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
 }
 
-// What the Tab key would do, so that the tab order of the window is the one order that there is. A date stops at each
-// of its three parts first; any other field that keeps the focus has refused to be left.
+// What the Tab key would do, so that the tab order of the window is the one order that there is. A date stops
+// at each of its three parts first; any other field that keeps the focus has refused to be left.
 void PasarAlSiguiente(QWidget *control) {
     const int partes = qobject_cast<QAbstractSpinBox *>(control) != nullptr ? 4 : 1;
     for (int i = 0; i == 0 || (i < partes && control->hasFocus()); ++i) {

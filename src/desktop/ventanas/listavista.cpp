@@ -51,6 +51,7 @@ void ListaVista::Encabezar() {
 }
 
 void ListaVista::Mostrar(ListaTexto *lista) {
+    disconnect(seguimiento_);
     lista_ = lista;
     setModel(lista);
     anchos_.clear();
@@ -59,6 +60,8 @@ void ListaVista::Mostrar(ListaTexto *lista) {
         setColumnHidden(static_cast<int>(anchos_.size()), columna.oculta);
         anchos_.push_back(columna.ancho);
     }
+    // A caption changes, or the sort icon needs room in another header.
+    seguimiento_ = connect(lista, &QAbstractItemModel::headerDataChanged, this, &ListaVista::RepartirAnchos);
     RepartirAnchos();
 }
 
@@ -134,6 +137,13 @@ void ListaVista::mousePressEvent(QMouseEvent *evento) {
 void ListaVista::mouseMoveEvent(QMouseEvent *evento) {
     if (evento->buttons() == Qt::NoButton)
         QTreeView::mouseMoveEvent(evento);
+}
+
+// A row once chosen stays chosen until another is: no key and no click beside the rows takes the choice back.
+QItemSelectionModel::SelectionFlags ListaVista::selectionCommand(const QModelIndex &indice,
+                                                                 const QEvent *) const {
+    return indice.isValid() ? QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows
+                            : QItemSelectionModel::SelectionFlags(QItemSelectionModel::NoUpdate);
 }
 
 void ListaVista::RepartirAnchos() {

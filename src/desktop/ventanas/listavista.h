@@ -40,6 +40,8 @@ class ListaVista : public QTreeView {
     void keyPressEvent(QKeyEvent *evento) override;
     void mousePressEvent(QMouseEvent *evento) override;
     void mouseMoveEvent(QMouseEvent *evento) override;
+    QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex &indice,
+                                                         const QEvent *evento) const override;
 
   private:
     void Encabezar();
@@ -48,6 +50,7 @@ class ListaVista : public QTreeView {
     QPointer<ListaTexto> lista_;
     std::vector<int> anchos_; // twips, by column
     bool repartiendo_ = false;
+    QMetaObject::Connection seguimiento_;
 };
 
 } // namespace tarvo
