@@ -62,7 +62,7 @@ class FrmVentas : public VentanaModulo {
     void Emitir();
     DatosComprobante Comprobante() const;
 
-    std::unique_ptr<Ui::FrmVentas> ui_;
+    std::unique_ptr<::Ui::FrmVentas> ui_;
     Servicios servicios_;
     Venta venta_;
     Buscador buscador_;

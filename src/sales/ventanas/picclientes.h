@@ -50,7 +50,7 @@ class PicClientes : public QFrame {
     void AjustarColumnas();
     void ColocarAlta();
 
-    std::unique_ptr<Ui::PicClientes> ui_;
+    std::unique_ptr<::Ui::PicClientes> ui_;
     FrmBases &frmBases_;
     ListaTexto clientes_;
     BarraBusqueda *busqueda_;

@@ -37,7 +37,7 @@ class PicNuevoCliente : public QFrame {
     bool FaltaRequerido();
     QLineEdit *Campo(const char *control) const;
 
-    std::unique_ptr<Ui::PicNuevoCliente> ui_;
+    std::unique_ptr<::Ui::PicNuevoCliente> ui_;
     Servicios servicios_;
     AltaCliente alta_;
 };
