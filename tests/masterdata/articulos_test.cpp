@@ -1,0 +1,317 @@
+// The articles' own rules, without a window.
+#include "masterdata/vistaprueba.h"
+#include "testkit/mundoprueba.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+namespace tarvo {
+namespace {
+
+using A = ArticulosLogica;
+namespace col = columnasArticulos;
+
+const QString kCodigoRepetido = QStringLiteral("El código ingresado ya existe en la base de datos.");
+const QString kNombreRepetido = QStringLiteral("El nombre del artículo ya existe en la base de datos.");
+const QString kModificar =
+    QStringLiteral("Está seguro de querer modificar los datos del artículo seleccionado?");
+const QString kEliminar =
+    QStringLiteral("Está seguro de querer eliminar los datos del artículo seleccionado?");
+
+// Two categories, IVA types with odd percentages, a supplier, and articles for each rule.
+constexpr const char *kTienda = R"sql(
+INSERT INTO main.Categorias(id, codigo, categoria) VALUES (3,'12','Almacén'),(4,'7','Limpieza');
+INSERT INTO main.Iva(id, codigo, tipo, porcentaje) VALUES
+  (1,'1','General','21'),(2,'2','Doble','100'),(3,'3','Bajo','5'),(4,'4','Reducido','10,5'),(5,'5','Raro','10.5');
+INSERT INTO proveedores.Proveedores(id, codigo, nombre) VALUES (1,'P1','Mayorista');
+INSERT INTO articulos.Articulos(id, codigo, nombre, idcategoria1, idtipoiva, idproveedores, pcompra, subtotal,
+                                stock, stockmin) VALUES
+  (1,'A1','Yerba','3','1','1','80','100','5','50'),
+  (2,'A2','Azúcar','4','2','9','9','12,5','-3','2'),
+  (3,'A3','Café','999','77','','x','33.33','0',''),
+  (4,'A4','Fideos','','4','1','','10','1','');
+)sql";
+
+class Articulos : public testing::Test {
+  protected:
+    Articulos() { mundo_.datos.Ejecutar(kTienda); }
+
+    A &Abrir() {
+        logica_ = std::make_unique<A>(mundo_.frmBases(), mundo_.preguntas, vista, filtro, &anfitrion);
+        logica_->Lista().Ordenar(col::kCodigo, Qt::AscendingOrder);
+        logica_->Cargar();
+        return *logica_;
+    }
+    QStringList Columna(int columna) const {
+        QStringList celdas;
+        for (int fila = 0; fila < logica_->Lista().Filas(); ++fila)
+            celdas << logica_->Lista().Celda(fila, columna);
+        return celdas;
+    }
+    void Elegir(int fila) {
+        vista.fila = fila;
+        logica_->Mostrar();
+    }
+    QString Guardado(const char *columna, int id) {
+        const QString sql = QStringLiteral("SELECT %1 FROM articulos.Articulos WHERE id=%2")
+                                .arg(QString::fromUtf8(columna))
+                                .arg(id);
+        const auto filas = mundo_.datos.Filas(sql.toUtf8().constData());
+        return filas.empty() ? QStringLiteral("(no row)") : filas[0][0];
+    }
+    void ConfirmarCambio() {
+        mundo_.preguntas.Espera(kModificar, Respuesta::No, Respuesta::Si);
+        logica_->Guardar();
+    }
+
+    MundoPrueba mundo_;
+    VistaPrueba vista;
+    FiltroPrueba filtro;
+    AnfitrionPrueba anfitrion;
+    std::unique_ptr<A> logica_;
+};
+
+TEST_F(Articulos, ListsPricesFromTheTruePercentageAndColoursOnlyByTheSignOfTheStock) {
+    const ListaTexto &lista = Abrir().Lista();
+    EXPECT_EQ(Columna(col::kSubtotal),
+              QStringList({u"$ 100,00"_qs, u"$ 12,50"_qs, u"$ 33,33"_qs, u"$ 10,00"_qs}));
+    EXPECT_EQ(Columna(col::kPVenta),
+              QStringList({u"$ 121,00"_qs, u"$ 25,00"_qs, u"$ 0,00"_qs, u"$ 11,05"_qs}));
+    EXPECT_EQ(Columna(col::kIva), QStringList({u"$ 21,00"_qs, u"$ 12,50"_qs, u"$ -33,33"_qs, u"$ 1,05"_qs}));
+    EXPECT_EQ(Columna(col::kPCompra), QStringList({u"$ 80,00"_qs, u"$ 9,00"_qs, u"x"_qs, u"$ 0,00"_qs}));
+    const Tono tonos[] = {Tono::Azul, Tono::Rojo, Tono::Verde, Tono::Azul};
+    for (int fila = 0; fila < 4; ++fila)
+        EXPECT_EQ(lista.TonoDe(fila, col::kStock), tonos[fila]) << fila;
+    EXPECT_EQ(anfitrion.dicho, QStringList(u"1 exportar si"_qs));
+}
+
+TEST_F(Articulos, ReadsThePercentageOnScreenFromTheLastThreeCharactersOfTheLabel) {
+    Abrir();
+    const std::pair<const char *, const char *> casos[] = {
+        {"1 - General - 21%", "$ 121,00"},    {"3 - Bajo - 5%", "$ 105,00"},
+        {"2 - Doble - 100%", "$ 100,00"},     {"5 - Raro - 10.5%", "$ 100,50"},
+        {"4 - Reducido - 10,5%", "$ 100,00"}, {"", "$ 100,00"}};
+    for (const auto &[etiqueta, precio] : casos) {
+        vista.textos[A::kTipoIVA] = QString::fromUtf8(etiqueta);
+        logica_->CalcularPVenta();
+        EXPECT_EQ(vista.textos[A::kPVenta], QString::fromUtf8(precio)) << etiqueta;
+    }
+    Elegir(1); // 100%: the list has doubled the price, the field has not
+    EXPECT_EQ(vista.textos[A::kPVenta], u"$ 12,50"_qs);
+}
+
+TEST_F(Articulos, FiltersByNumberAndCountsDanglingCategoriesAsNone) {
+    mundo_.datos.Ejecutar(
+        "INSERT INTO articulos.Articulos(codigo, nombre, idcategoria1) VALUES ('A5','Raro','3x')");
+    Abrir();
+    EXPECT_EQ(filtro.filtros,
+              QStringList({u"Todas las categorías"_qs, u"Sin categoría"_qs, u"12 - Almacén"_qs,
+                           u"7 - Limpieza"_qs, u"Agregar nueva categoría"_qs}));
+    logica_->FiltrarCategoria(2);
+    EXPECT_EQ(logica_->IdFiltro(), 3);
+    EXPECT_EQ(Columna(col::kCodigo), QStringList({u"A1"_qs, u"A5"_qs}));
+    logica_->FiltrarCategoria(1);
+    EXPECT_EQ(logica_->IdFiltro(), -1);
+    EXPECT_EQ(Columna(col::kCodigo), QStringList({u"A3"_qs, u"A4"_qs, u"A5"_qs}));
+    logica_->FiltrarCategoria(4); // the panel; the filter stays
+    EXPECT_TRUE(filtro.panel);
+    EXPECT_EQ(logica_->IdFiltro(), -1);
+    logica_->CancelarCategoria();
+    EXPECT_EQ(filtro.elegido, 1);
+}
+
+TEST_F(Articulos, ShowsAndSavesTheFiltersCategoryWhateverTheArticleHas) {
+    Abrir();
+    logica_->FiltrarCategoria(1);
+    EXPECT_EQ(vista.textos[A::kCodigo], u"A3"_qs);
+    EXPECT_EQ(vista.textos[A::kIdCategoria], u"-1"_qs);
+    EXPECT_EQ(vista.textos[A::kCategoria], u"Sin categoría"_qs);
+    ConfirmarCambio();
+    EXPECT_EQ(Guardado("idcategoria1", 3), u"-1"_qs);
+    logica_->Actualizar();
+    EXPECT_EQ(Columna(col::kCodigo), QStringList({u"A3"_qs, u"A4"_qs}));
+}
+
+TEST_F(Articulos, AFilterWithoutArticlesIsEmptyButWithinReach) {
+    mundo_.datos.Ejecutar("UPDATE articulos.Articulos SET idcategoria1='3'");
+    Abrir();
+    logica_->FiltrarCategoria(3);
+    EXPECT_EQ(logica_->Estado(), EstadoDetalle::Vacia);
+    EXPECT_EQ(vista.botones, (Botones{true, false, false, true, false, false, false}));
+    EXPECT_FALSE(vista.conDatos);
+    EXPECT_TRUE(filtro.habilitado);
+    logica_->Nuevo();
+    EXPECT_FALSE(filtro.habilitado);
+    EXPECT_EQ(vista.textos[A::kIdCategoria], u"4"_qs);
+    logica_->Cancelar();
+    EXPECT_TRUE(filtro.habilitado);
+}
+
+TEST_F(Articulos, StoresPlainNumbersWithoutTrailingZeros) {
+    Abrir();
+    const std::pair<const char *, const char *> casos[] = {
+        {"$ 12,00", "12"},   {"$ 12,50", "12,5"}, {"$ 12,05", "12,05"}, {"$ 0,00", "0"},
+        {"$ 100,00", "100"}, {"7,50", "7,5"},     {"$ -1,10", "-1,1"},  {"x", "x"}};
+    for (const auto &[texto, guardado] : casos) {
+        vista.textos[A::kSubtotal] = QString::fromUtf8(texto);
+        ConfirmarCambio();
+        EXPECT_EQ(Guardado("subtotal", 1), QString::fromUtf8(guardado)) << texto;
+    }
+}
+
+TEST_F(Articulos, NeverWritesTheMinimumAndKeepsTheColourOfAChangedRow) {
+    Abrir();
+    EXPECT_EQ(vista.textos[A::kStockMin], u"50"_qs);
+    vista.textos[A::kStockMin] = u"8"_qs;
+    vista.textos[A::kStock] = u"0"_qs;
+    ConfirmarCambio();
+    EXPECT_EQ(Guardado("stockmin", 1), u"50"_qs);
+    EXPECT_EQ(vista.textos[A::kStockMin], u"50"_qs);
+    EXPECT_EQ(Columna(col::kStock).first(), u"0"_qs);
+    EXPECT_EQ(logica_->Lista().TonoDe(0, col::kStock), Tono::Azul);
+    logica_->Actualizar();
+    EXPECT_EQ(logica_->Lista().TonoDe(0, col::kStock), Tono::Verde);
+}
+
+TEST_F(Articulos, LooksForDuplicatesAmongTheListedRowsOnlyRowByRow) {
+    mundo_.datos.Ejecutar("UPDATE articulos.Articulos SET codigo='ñandú' WHERE id=4");
+    Abrir();
+    struct Caso {
+        const char *codigo, *nombre;
+        const QString *mensaje;
+        int foco;
+    };
+    const Caso casos[] = {{"a2", "Nuevo", &kCodigoRepetido, A::kCodigo},
+                          {"Z", "CAFÉ", &kNombreRepetido, A::kNombre},
+                          {"ÑANDÚ", "yerba", &kNombreRepetido, A::kNombre}, // the name's row comes first
+                          {"A3", "café", &kCodigoRepetido, A::kCodigo}};    // in one row the code comes first
+    logica_->Nuevo();
+    for (const Caso &caso : casos) {
+        vista.textos[A::kCodigo] = QString::fromUtf8(caso.codigo);
+        vista.textos[A::kNombre] = QString::fromUtf8(caso.nombre);
+        mundo_.preguntas.EsperaMensaje(*caso.mensaje, Icono::Informacion);
+        logica_->Guardar();
+        EXPECT_EQ(vista.foco, caso.foco) << caso.codigo;
+    }
+    logica_->Cancelar();
+    logica_->FiltrarCategoria(3); // hides A1
+    logica_->Nuevo();
+    vista.textos[A::kCodigo] = u"A1"_qs;
+    vista.textos[A::kNombre] = u"Yerba"_qs;
+    logica_->Guardar();
+    EXPECT_EQ(mundo_.datos.Filas("SELECT id FROM articulos.Articulos WHERE codigo='A1'").size(), 2U);
+}
+
+TEST_F(Articulos, DuplicatesFollowWhatWasSavedSinceTheLastFill) {
+    Abrir();
+    vista.textos[A::kCodigo] = u"B9"_qs;
+    ConfirmarCambio(); // A1 is B9 now
+    Elegir(1);
+    vista.textos[A::kCodigo] = u"b9"_qs;
+    mundo_.preguntas.Espera(kModificar, Respuesta::No, Respuesta::Si);
+    mundo_.preguntas.EsperaMensaje(kCodigoRepetido, Icono::Informacion);
+    logica_->Guardar();
+    vista.textos[A::kCodigo] = u"a1"_qs;
+    ConfirmarCambio();
+    EXPECT_EQ(Guardado("codigo", 2), u"a1"_qs);
+}
+
+TEST_F(Articulos, ASavedNewArticleBeginsTheNextOneAndSelectsTheLastRow) {
+    Abrir();
+    logica_->Nuevo();
+    EXPECT_EQ(vista.textos[A::kPCompra], u"$ 0,00"_qs);
+    EXPECT_EQ(vista.textos[A::kStock], u"0"_qs);
+    EXPECT_EQ(vista.textos[A::kTipoIVA], u"1 - General - 21%"_qs);
+    EXPECT_EQ(vista.textos[A::kIdTipoIVA], u"1"_qs);
+    EXPECT_FALSE(filtro.habilitado);
+    vista.textos[A::kCodigo] = u"A0"_qs;
+    vista.textos[A::kNombre] = u"Primero"_qs;
+    vista.textos[A::kSubtotal] = u"$ 10,00"_qs;
+    logica_->CalcularPVenta();
+    logica_->Guardar();
+    EXPECT_TRUE(logica_->EntradaEnCurso());
+    EXPECT_EQ(vista.textos[A::kCodigo], QString());
+    EXPECT_EQ(Columna(col::kCodigo), QStringList({u"A0"_qs, u"A1"_qs, u"A2"_qs, u"A3"_qs, u"A4"_qs}));
+    EXPECT_EQ(vista.fila, 4); // though the new one stands first
+    EXPECT_EQ(logica_->Lista().Celda(0, col::kIva), u"$ 2,10"_qs);
+    EXPECT_EQ(logica_->Lista().Celda(0, col::kId), u"5"_qs);
+    EXPECT_EQ(logica_->Lista().TonoDe(0, col::kStock), Tono::Normal);
+    logica_->Cancelar();
+    EXPECT_EQ(Columna(col::kCodigo).size(), 5);
+    EXPECT_EQ(mundo_.datos.Filas("SELECT id FROM articulos.Articulos").size(), 5U);
+}
+
+TEST_F(Articulos, ASupplierThatIsGoneShowsAsNoneAndIsSavedAsNone) {
+    Abrir();
+    EXPECT_EQ(vista.textos[A::kProveedor], u"P1 - Mayorista"_qs);
+    Elegir(1);
+    EXPECT_EQ(vista.textos[A::kProveedor], QString());
+    ConfirmarCambio();
+    EXPECT_EQ(Guardado("idproveedores", 2), QString());
+    EXPECT_EQ(Guardado("idtipoiva", 2), u"2"_qs);
+    Elegir(2); // a dangling category or IVA type is kept
+    EXPECT_EQ(vista.textos[A::kCategoria], QString());
+    ConfirmarCambio();
+    EXPECT_EQ(Guardado("idcategoria1", 3), u"999"_qs);
+    EXPECT_EQ(Guardado("idtipoiva", 3), u"77"_qs);
+}
+
+TEST_F(Articulos, RefusesANewCategoryWhoseCodeBeginsAnother) {
+    Abrir();
+    logica_->FiltrarCategoria(4);
+    mundo_.preguntas.EsperaMensaje(u"Debe llenar el campo \"Código\""_qs, Icono::Informacion);
+    logica_->GuardarCategoria({}, u"Bebidas"_qs);
+    mundo_.preguntas.EsperaMensaje(u"Debe llenar el campo \"Categoría\""_qs, Icono::Informacion);
+    logica_->GuardarCategoria(u"1"_qs, {});
+    mundo_.preguntas.EsperaMensaje(kCodigoRepetido, Icono::Informacion);
+    logica_->GuardarCategoria(u"1"_qs, u"Bebidas"_qs); // 12 exists
+    EXPECT_TRUE(filtro.panel);
+    logica_->GuardarCategoria(u"2"_qs, u"Bebidas"_qs); // though 12 ends in it
+    EXPECT_FALSE(filtro.panel);
+    EXPECT_EQ(filtro.filtros[4], u"2 - Bebidas"_qs);
+    EXPECT_EQ(logica_->IdFiltro(), 0);
+    EXPECT_EQ(mundo_.datos.Filas("SELECT id FROM main.Categorias").size(), 3U);
+}
+
+TEST_F(Articulos, LeavesAmountsReadWithAPointOnly) {
+    Abrir();
+    const std::pair<const char *, const char *> casos[] = {
+        {"", "$ 0,00"},  {"0,5", "$ 0,00"},   {"0.5", "$ 0,50"}, {"12,5", "$ 12,50"},
+        {",", "$ 0,00"}, {"2.675", "$ 2,68"}, {"1,2,3", "1,2,3"}};
+    for (const auto &[tecleado, mostrado] : casos) {
+        vista.textos[A::kPCompra] = QString::fromUtf8(tecleado);
+        logica_->SalirImporte(A::kPCompra);
+        EXPECT_EQ(vista.textos[A::kPCompra], QString::fromUtf8(mostrado)) << tecleado;
+    }
+    vista.textos[A::kPCompra] = u"$ 12,50"_qs;
+    logica_->EntrarImporte(A::kPCompra);
+    EXPECT_EQ(vista.textos[A::kPCompra], u"12,50"_qs);
+}
+
+TEST_F(Articulos, AnEmptiedTableBehindTheWindowLosesNothingAndWritesNothing) {
+    Abrir();
+    const QString aviso = QStringLiteral("El registro ya no existe.");
+    FrmBases &bases = mundo_.frmBases();
+    while (bases.datArticulos.RecordCount() > 0) {
+        bases.datArticulos.MoveFirst();
+        bases.datArticulos.Delete();
+    }
+    vista.textos[A::kNombre] = u"Otro"_qs;
+    mundo_.preguntas.Espera(kModificar, Respuesta::No, Respuesta::Si);
+    mundo_.preguntas.EsperaMensaje(aviso, Icono::Critico);
+    logica_->Guardar();
+    EXPECT_EQ(vista.textos[A::kNombre], u"Otro"_qs);
+    mundo_.preguntas.Espera(kEliminar, Respuesta::No, Respuesta::Si);
+    mundo_.preguntas.EsperaMensaje(aviso, Icono::Critico);
+    logica_->Eliminar();
+    logica_->Actualizar();
+    EXPECT_EQ(logica_->Estado(), EstadoDetalle::Vacia);
+    EXPECT_TRUE(filtro.habilitado); // by Refresh; a load would turn it off
+    logica_->Guardar();
+    logica_->Eliminar();
+    EXPECT_EQ(bases.datArticulos.RecordCount(), 0);
+}
+
+} // namespace
+} // namespace tarvo
