@@ -2,8 +2,55 @@
 
 #include <algorithm>
 #include <cassert>
+#include <limits>
 
 namespace tarvo {
+
+namespace {
+
+constexpr std::uint32_t kCorto = std::numeric_limits<std::uint16_t>::max();
+
+} // namespace
+
+void ColumnaTexto::Fines::Agregar(std::uint32_t fin) {
+    if (largos_.empty() && fin > kCorto)
+        Alargar();
+    if (largos_.empty() && fin <= kCorto)
+        cortos_.push_back(static_cast<std::uint16_t>(fin));
+    else
+        largos_.push_back(fin);
+}
+
+void ColumnaTexto::Fines::Mover(std::size_t desde, std::int64_t cambio) {
+    if (largos_.empty() && cortos_.back() + cambio > kCorto)
+        Alargar();
+    for (std::size_t i = desde; i < cortos_.size(); ++i)
+        cortos_[i] = static_cast<std::uint16_t>(cortos_[i] + cambio);
+    for (std::size_t i = desde; i < largos_.size(); ++i)
+        largos_[i] = static_cast<std::uint32_t>(largos_[i] + cambio);
+}
+
+void ColumnaTexto::Fines::Quitar(std::size_t i) {
+    if (largos_.empty())
+        cortos_.erase(cortos_.begin() + static_cast<std::ptrdiff_t>(i));
+    else
+        largos_.erase(largos_.begin() + static_cast<std::ptrdiff_t>(i));
+}
+
+// Only one of the two ever holds anything.
+void ColumnaTexto::Fines::Alargar() {
+    largos_.assign(cortos_.begin(), cortos_.end());
+    cortos_ = {};
+}
+
+void ColumnaTexto::Fines::Ajustar() {
+    cortos_.shrink_to_fit();
+    largos_.shrink_to_fit();
+}
+
+std::size_t ColumnaTexto::Fines::Bytes() const {
+    return cortos_.capacity() * sizeof(std::uint16_t) + largos_.capacity() * sizeof(std::uint32_t);
+}
 
 // A chunk holds at most kFilasPorTrozo rows, so a row can't lie before the chunk that a column without
 // removed rows would have it in.
@@ -34,7 +81,7 @@ void ColumnaTexto::Agregar(std::string_view utf8) {
         tramos_.push_back({filas_, std::make_shared<Trozo>()});
     Trozo &trozo = Propio(tramos_.size() - 1);
     trozo.texto.append(utf8);
-    trozo.fin.push_back(static_cast<std::uint32_t>(trozo.texto.size()));
+    trozo.fin.Agregar(static_cast<std::uint32_t>(trozo.texto.size()));
     ++filas_;
     if (trozo.fin.size() == kFilasPorTrozo)
         Ajustar();
@@ -45,7 +92,7 @@ void ColumnaTexto::Ajustar() {
         return;
     Trozo &trozo = Propio(tramos_.size() - 1);
     trozo.texto.shrink_to_fit();
-    trozo.fin.shrink_to_fit();
+    trozo.fin.Ajustar();
 }
 
 void ColumnaTexto::Poner(std::int64_t fila, std::string_view utf8) {
@@ -57,10 +104,7 @@ void ColumnaTexto::Poner(std::int64_t fila, std::string_view utf8) {
     const std::uint32_t inicio = i == 0 ? 0 : trozo.fin[i - 1];
     const std::uint32_t antes = trozo.fin[i] - inicio;
     trozo.texto.replace(inicio, antes, valor);
-    const auto cambio =
-        static_cast<std::uint32_t>(valor.size()) - antes; // wraps round when shorter, as fin does
-    for (std::size_t k = i; k < trozo.fin.size(); ++k)
-        trozo.fin[k] += cambio;
+    trozo.fin.Mover(i, static_cast<std::int64_t>(valor.size()) - antes);
 }
 
 void ColumnaTexto::Quitar(std::int64_t fila) {
@@ -68,10 +112,10 @@ void ColumnaTexto::Quitar(std::int64_t fila) {
     const std::size_t tramo = TramoDe(fila);
     Poner(fila, {});
     Trozo &trozo = *tramos_[tramo].trozo;
-    trozo.fin.erase(trozo.fin.begin() + static_cast<std::ptrdiff_t>(fila - tramos_[tramo].primera));
+    trozo.fin.Quitar(static_cast<std::size_t>(fila - tramos_[tramo].primera));
     for (std::size_t k = tramo + 1; k < tramos_.size(); ++k)
         --tramos_[k].primera;
-    if (trozo.fin.empty())
+    if (trozo.fin.size() == 0)
         tramos_.erase(tramos_.begin() + static_cast<std::ptrdiff_t>(tramo));
     --filas_;
 }
@@ -84,8 +128,7 @@ void ColumnaTexto::Limpiar() {
 std::int64_t ColumnaTexto::Bytes() const {
     std::size_t bytes = tramos_.capacity() * sizeof(Tramo);
     for (const Tramo &tramo : tramos_)
-        bytes += sizeof(Trozo) + tramo.trozo->texto.capacity() +
-                 tramo.trozo->fin.capacity() * sizeof(std::uint32_t);
+        bytes += sizeof(Trozo) + tramo.trozo->texto.capacity() + tramo.trozo->fin.Bytes();
     return static_cast<std::int64_t>(bytes);
 }
 

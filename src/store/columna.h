@@ -1,9 +1,9 @@
 // One column of a table or of a list, held in memory as compact UTF-8 text.
 //
 // A column is a sequence of chunks of up to 4096 rows; a chunk is one run of bytes and the end offset of each
-// row in it. Chunks are shared between copies of a column until one of them is written (copy on write), so
-// that a list which shows a table column as it stands costs next to nothing, and changing a cell costs one
-// chunk whatever the number of rows.
+// row in it, in 16 bits as long as they reach. Chunks are shared between copies of a column until one of them
+// is written (copy on write), so that a list which shows a table column as it stands costs next to nothing,
+// and changing a cell costs one chunk whatever the number of rows.
 #pragma once
 
 #include <QString>
@@ -44,9 +44,26 @@ class ColumnaTexto {
     std::int64_t Bytes() const;
 
   private:
+    // End offsets that rise: short ones until one of them needs more.
+    class Fines {
+      public:
+        std::size_t size() const { return largos_.empty() ? cortos_.size() : largos_.size(); }
+        std::uint32_t operator[](std::size_t i) const { return largos_.empty() ? cortos_[i] : largos_[i]; }
+        void Agregar(std::uint32_t fin);
+        // Adds `cambio`, which may be negative, to the offset of `desde` and all behind it.
+        void Mover(std::size_t desde, std::int64_t cambio);
+        void Quitar(std::size_t i);
+        void Ajustar();
+        std::size_t Bytes() const;
+
+      private:
+        void Alargar();
+        std::vector<std::uint16_t> cortos_;
+        std::vector<std::uint32_t> largos_;
+    };
     struct Trozo {
         std::string texto;
-        std::vector<std::uint32_t> fin;
+        Fines fin;
     };
     struct Tramo {
         std::int64_t primera = 0;
@@ -54,7 +71,7 @@ class ColumnaTexto {
     };
     std::size_t TramoDe(std::int64_t fila) const {
         const std::size_t i = static_cast<std::size_t>(fila) / kFilasPorTrozo;
-        const bool aqui = i < tramos_.size() && (i + 1 == tramos_.size() || fila < tramos_[i + 1].primera);
+        const bool aqui = i + 1 == tramos_.size() || fila < tramos_[i + 1].primera;
         return aqui ? i : TramoBuscado(i, fila);
     }
     std::size_t TramoBuscado(std::size_t desde, std::int64_t fila) const;

@@ -6,6 +6,7 @@
 #include <QUrl>
 
 #include <algorithm>
+#include <cstdlib>
 #include <sqlite3.h>
 
 namespace tarvo {
@@ -86,8 +87,8 @@ std::string Conexion::Pragma(const char *esquema, const char *texto) {
 // Sets and reads back how the file is held; the first reading of it shows whether it is a database at all.
 void Conexion::Asegurar(const QString &archivo, const char *esquema) {
     Pragma(esquema, "locking_mode=EXCLUSIVE");
-    const std::int64_t paginas = std::stoll("0" + Pragma(esquema, "page_count"));
-    const std::int64_t tamano = std::stoll("0" + Pragma(esquema, "page_size"));
+    const std::int64_t paginas = std::atoll(Pragma(esquema, "page_count").c_str());
+    const std::int64_t tamano = std::atoll(Pragma(esquema, "page_size").c_str());
     if (QFileInfo(archivo).size() < paginas * tamano)
         throw ErrorDatos(errores::kBaseIlegible, QStringLiteral("El archivo está cortado."));
     if (sqlite3_db_readonly(base_.getHandle(), esquema) != 0)
@@ -103,7 +104,7 @@ void Conexion::Asegurar(const QString &archivo, const char *esquema) {
 void Conexion::Bloquear() {
     try {
         base_.exec("BEGIN EXCLUSIVE");
-        base_.exec("COMMIT");
+        base_.exec("ROLLBACK"); // not COMMIT, which would make a journal for the five files
     } catch (const SQLite::Exception &error) {
         throw ErrorLectura(error);
     }

@@ -128,7 +128,9 @@ bool Cursor::IrAId(const QString &texto) {
     bool esNumero = false;
     const qlonglong id = texto.toLongLong(&esNumero);
     const std::int64_t filas = Filas();
-    const std::int64_t fila = esNumero && filas > 0 ? d_->memoria.Buscar(id) : -1;
+    // Compared as text, as a walk would: " 7" and "07" are not the row 7.
+    const bool esId = esNumero && texto == QString::number(id);
+    const std::int64_t fila = esId && filas > 0 ? d_->memoria.Buscar(id) : -1;
     d_->fila = fila < 0 ? filas : fila;
     return fila >= 0;
 }

@@ -25,7 +25,8 @@ void Conexion::Empezar() {
     if (abierta_)
         throw ErrorDatos(errores::kEscritura, QStringLiteral("Ya hay una transacción abierta."));
     try {
-        Ejecutar("BEGIN IMMEDIATE", {}, 0);
+        // Deferred: the locks are held anyway, and only files that are written then take part in the commit.
+        Ejecutar("BEGIN", {}, 0);
     } catch (const SQLite::Exception &error) {
         throw ErrorEscritura(error);
     }

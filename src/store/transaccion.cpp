@@ -19,8 +19,14 @@ Transaccion::~Transaccion() {
 void Transaccion::Confirmar() {
     if (!abierta_ || !bases_.conexion_)
         throw ErrorDatos(errores::kEscritura, QStringLiteral("La transacción ya está cerrada."));
-    for (Cursor *cursor : bases_.conexion_->Cursores())
-        cursor->ConfirmarEdicion();
+    try {
+        for (Cursor *cursor : bases_.conexion_->Cursores())
+            cursor->ConfirmarEdicion();
+    } catch (...) {
+        abierta_ = false;
+        bases_.conexion_->Deshacer();
+        throw;
+    }
     abierta_ = false;
     bases_.conexion_->Confirmar();
 }

@@ -4,6 +4,7 @@
 #include "store/plantillas.h"
 
 #include <QDir>
+#include <QFile>
 
 #include <gtest/gtest.h>
 
@@ -18,8 +19,18 @@ SQLite::Database AbrirCrudo(const QString &carpeta) {
         SQLite::Statement adjuntar(base, std::string("ATTACH ? AS ") + nombre);
         adjuntar.bind(1, dir.filePath(QString::fromUtf8(nombre) + QLatin1String(".mdb")).toStdString());
         adjuntar.exec();
+        base.exec(std::string("PRAGMA ") + nombre + ".synchronous=OFF");
     }
+    base.exec("PRAGMA main.synchronous=OFF");
     return base;
+}
+
+// Made once for the whole program: making files that are safe on disk is slow.
+QString Plantillas() {
+    static const QTemporaryDir carpeta;
+    static const bool hechas = (CrearPlantillas(carpeta.path()), true);
+    EXPECT_TRUE(hechas);
+    return carpeta.path();
 }
 
 std::vector<std::vector<QString>> Leer(SQLite::Database &base, const char *sql) {
@@ -37,14 +48,15 @@ std::vector<std::vector<QString>> Leer(SQLite::Database &base, const char *sql) 
 
 DatosPrueba::DatosPrueba(Moneda moneda)
     : bases_(std::make_unique<FrmBases>(carpeta_.path(), std::move(moneda))) {
-    CrearPlantillas(carpeta_.path());
+    for (const QFileInfo &plantilla : QDir(Plantillas()).entryInfoList(QDir::Files))
+        QFile::copy(plantilla.filePath(), carpeta_.filePath(plantilla.fileName()));
     Ejecutar("DELETE FROM Iva; DELETE FROM Categorias; DELETE FROM Vendedores; DELETE FROM sqlite_sequence;");
 }
 
 void DatosPrueba::Ejecutar(const char *sql) {
     ASSERT_FALSE(bases_->conexion_) << "raw SQL needs the files closed";
     SQLite::Database base = AbrirCrudo(carpeta_.path());
-    base.exec("PRAGMA synchronous=OFF; BEGIN");
+    base.exec("BEGIN");
     base.exec(sql);
     base.exec("COMMIT");
 }

@@ -1,0 +1,109 @@
+// A program that does one thing with the data and tells how it went; the tests run it on a disk that fails.
+//
+//   emisor abrir CARPETA     opens the files: "estado archivo motivo"
+//   emisor vender CARPETA    one sale of ten articles in one transaction: "OK" when it is on disk; "ERROR"
+//   with what
+//                            the cursors then show (sales, changed stocks), and once more after the disk has
+//                            healed
+//   emisor retener CARPETA   opens the files, tells "ABIERTO" and holds them until its input ends
+//   emisor instalar CARPETA  makes `Datos` in CARPETA on a first start
+#include "store/errordatos.h"
+#include "store/instalacion.h"
+#include "store/store.h"
+#include "store/transaccion.h"
+
+#include <cstdio>
+#include <cstring>
+
+extern "C" void FallasParar() __attribute__((weak));
+
+namespace {
+
+using namespace tarvo;
+
+constexpr int kArticulos = 10;
+
+void Decir(const QString &linea) {
+    std::puts(linea.toUtf8().constData());
+    std::fflush(stdout);
+}
+
+void Vender(FrmBases &bases) {
+    Transaccion transaccion(bases);
+    bases.datVentas.AddNew();
+    bases.camVentTipo = QStringLiteral("Contado");
+    bases.camVentTotal = QStringLiteral("$ 12,50");
+    bases.datVentas.Refresh();
+    for (int i = 1; i <= kArticulos; ++i) {
+        bases.datArticulos.Index(QStringLiteral("primarykey"));
+        bases.datArticulos.Seek(QStringLiteral("="), QString::number(i));
+        bases.camArtStock = QStringLiteral("vendido");
+        bases.datArticulos.Refresh();
+    }
+    transaccion.Confirmar();
+}
+
+int Vendidos(FrmBases &bases) {
+    int vendidos = 0;
+    Recorrer(bases.datArticulos, [&] {
+        vendidos += bases.camArtStock.Es("vendido") ? 1 : 0;
+        return false;
+    });
+    return vendidos;
+}
+
+bool Intentar(FrmBases &bases) {
+    try {
+        Vender(bases);
+        Decir(QStringLiteral("OK"));
+        return true;
+    } catch (const ErrorDatos &error) {
+        Decir(QStringLiteral("ERROR %1 %2").arg(error.Numero()).arg(error.Descripcion()));
+        return false;
+    }
+}
+
+void Contar(FrmBases &bases) {
+    Decir(QStringLiteral("CONSTA %1 %2").arg(bases.datVentas.RecordCount()).arg(Vendidos(bases)));
+}
+
+int ConBases(const char *orden, FrmBases &bases) {
+    const ResultadoApertura apertura = bases.Abrir();
+    if (std::strcmp(orden, "abrir") == 0 || apertura.estado != EstadoApertura::Completa) {
+        Decir(QStringLiteral("%1 %2 %3")
+                  .arg(static_cast<int>(apertura.estado))
+                  .arg(apertura.archivo, apertura.motivo));
+        return 0;
+    }
+    if (std::strcmp(orden, "retener") == 0) {
+        Decir(QStringLiteral("ABIERTO"));
+        std::getchar();
+        return 0;
+    }
+    const bool hecho = Intentar(bases);
+    if (FallasParar != nullptr)
+        FallasParar();
+    Contar(bases);
+    if (!hecho && bases.datVentas.RecordCount() == 0 && Intentar(bases))
+        Contar(bases);
+    return 0;
+}
+
+} // namespace
+
+int main(int argc, char **argv) {
+    if (argc != 3)
+        return 2;
+    const QString carpeta = QString::fromLocal8Bit(argv[2]);
+    try {
+        if (std::strcmp(argv[1], "instalar") == 0) {
+            PrepararDatos(carpeta, carpeta + QStringLiteral("/usuario/que/no/hay"));
+            return 0;
+        }
+        FrmBases bases(carpeta, Moneda());
+        return ConBases(argv[1], bases);
+    } catch (const ErrorDatos &error) {
+        Decir(QStringLiteral("ERROR %1").arg(error.Numero()));
+        return 1;
+    }
+}

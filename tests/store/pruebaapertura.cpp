@@ -1,0 +1,315 @@
+// Opening: every way in which one of the five files can be unfit, and that such an opening leaves no trace.
+#include "store/errordatos.h"
+#include "store/instalacion.h"
+#include "store/plantillas.h"
+#include "testkit/datosprueba.h"
+
+#include <SQLiteCpp/SQLiteCpp.h>
+
+#include <QDateTime>
+#include <QDir>
+#include <QFile>
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <map>
+
+namespace tarvo {
+namespace {
+
+struct Archivo {
+    const char *nombre;
+    const char *tabla; // its last table
+    int abiertas;      // tables that stay open when that table fails
+    int antes;         // tables that stay open when the whole file fails
+};
+
+constexpr Archivo kArchivos[] = {
+    {"config.mdb", "Ticket", 6, 0},           {"clientes.mdb", "Clientes", 7, 7},
+    {"proveedores.mdb", "Proveedores", 8, 8}, {"articulos.mdb", "Articulos", 9, 9},
+    {"ventas.mdb", "Ventas", 10, 10},
+};
+
+std::map<QString, QByteArray> Contenido(const QString &carpeta) {
+    std::map<QString, QByteArray> contenido;
+    for (const QFileInfo &info : QDir(carpeta).entryInfoList(QDir::Files | QDir::Hidden)) {
+        QFile archivo(info.filePath());
+        EXPECT_TRUE(archivo.open(QIODevice::ReadOnly));
+        contenido[info.fileName()] = archivo.readAll();
+    }
+    return contenido;
+}
+
+int Abiertas(const FrmBases &b) {
+    int abiertas = 0;
+    for (const Cursor *cursor :
+         {&b.datIVA, &b.datImpuesto, &b.datFactura, &b.datCategorias, &b.datCategorias2, &b.datVendedores,
+          &b.datTicket, &b.datClientes, &b.datProveedores, &b.datArticulos, &b.datVentas}) {
+        if (!cursor->Abierto())
+            break;
+        ++abiertas;
+    }
+    return abiertas;
+}
+
+void Escribir(const QString &ruta, const QByteArray &bytes) {
+    QFile archivo(ruta);
+    ASSERT_TRUE(archivo.open(QIODevice::WriteOnly | QIODevice::Truncate));
+    archivo.write(bytes);
+}
+
+void Sql(const QString &ruta, const std::string &sql) {
+    SQLite::Database(ruta.toStdString(), SQLite::OPEN_READWRITE).exec(sql);
+}
+
+void Recortar(const QString &ruta, qint64 bytes) {
+    QFile archivo(ruta);
+    ASSERT_TRUE(archivo.resize(archivo.size() - bytes));
+}
+
+struct Dano {
+    const char *nombre;
+    std::function<void(const QString &ruta, const Archivo &archivo)> hacer;
+    const char *motivo;
+    bool soloTabla = false; // the file itself is sound
+};
+
+const Dano kDanos[] = {
+    {"missing", [](const QString &r, const Archivo &) { QFile::remove(r); }, "El archivo no existe."},
+    {"a folder", [](const QString &r, const Archivo &) { QFile::remove(r), QDir().mkdir(r); },
+     "No es un archivo."},
+    {"zero bytes", [](const QString &r, const Archivo &) { Escribir(r, {}); }, "El archivo está vacío."},
+    {"garbage", [](const QString &r, const Archivo &) { Escribir(r, QByteArray(5000, 'x')); },
+     "No se pudo leer la base de datos: el archivo no es una base de datos."},
+    {"short garbage", [](const QString &r, const Archivo &) { Escribir(r, "MZ"); },
+     "No se pudo leer la base de datos: el archivo no es una base de datos."},
+    {"truncated by a page", [](const QString &r, const Archivo &) { Recortar(r, 4096); },
+     "No se pudo leer la base de datos: el archivo está dañado."},
+    {"truncated by a byte", [](const QString &r, const Archivo &) { Recortar(r, 1); },
+     "El archivo está cortado."},
+    {"table missing",
+     [](const QString &r, const Archivo &a) { Sql(r, std::string("DROP TABLE ") + a.tabla); },
+     "Falta la tabla ", true},
+    {"column missing",
+     [](const QString &r, const Archivo &a) {
+         const std::string tabla = a.tabla;
+         Sql(r, "CREATE TABLE t(id INTEGER PRIMARY KEY); DROP TABLE " + tabla + "; ALTER TABLE t RENAME TO " +
+                    tabla);
+     },
+     "Falta la columna ", true},
+    {"a view instead of the table",
+     [](const QString &r, const Archivo &a) {
+         const std::string tabla = a.tabla;
+         Sql(r, "ALTER TABLE " + tabla + " RENAME TO t; CREATE VIEW " + tabla + " AS SELECT * FROM t");
+     },
+     "Falta la tabla ", true},
+    {"an id that is no counter",
+     [](const QString &r, const Archivo &a) {
+         const std::string tabla = a.tabla;
+         Sql(r, "ALTER TABLE " + tabla + " RENAME TO t; CREATE TABLE " + tabla + " AS SELECT * FROM t");
+     },
+     "no tiene el contador id.", true},
+};
+
+TEST(Apertura, AnUnfitFileEndsItThereAndLeavesNoTrace) {
+    for (const Archivo &archivo : kArchivos) {
+        for (const Dano &dano : kDanos) {
+            SCOPED_TRACE(std::string(archivo.nombre) + ": " + dano.nombre);
+            DatosPrueba datos;
+            dano.hacer(QDir(datos.Carpeta()).filePath(QString::fromUtf8(archivo.nombre)), archivo);
+            const auto antes = Contenido(datos.Carpeta());
+            const ResultadoApertura resultado = datos.Bases().Abrir();
+            EXPECT_EQ(resultado.estado, EstadoApertura::Parcial);
+            EXPECT_EQ(resultado.archivo, QString::fromUtf8(archivo.nombre));
+            EXPECT_TRUE(resultado.motivo.contains(QString::fromUtf8(dano.motivo)))
+                << resultado.motivo.toStdString();
+            EXPECT_EQ(Abiertas(datos.Bases()), dano.soloTabla ? archivo.abiertas : archivo.antes);
+            datos.Cerrar();
+            EXPECT_EQ(Contenido(datos.Carpeta()), antes);
+        }
+    }
+}
+
+TEST(Apertura, AFileHeldByAnotherConnectionIsTold) {
+    for (const Archivo &archivo : kArchivos) {
+        for (const char *modo :
+             {"BEGIN EXCLUSIVE", "BEGIN IMMEDIATE", "BEGIN; SELECT count(*) FROM sqlite_schema"}) {
+            SCOPED_TRACE(std::string(archivo.nombre) + ": " + modo);
+            DatosPrueba datos;
+            const QString ruta = QDir(datos.Carpeta()).filePath(QString::fromUtf8(archivo.nombre));
+            SQLite::Database otra(ruta.toStdString(), SQLite::OPEN_READWRITE);
+            otra.exec(modo);
+            EXPECT_EQ(datos.Bases().Abrir().estado, EstadoApertura::Bloqueada);
+            EXPECT_EQ(Abiertas(datos.Bases()), 0);
+            otra.exec("ROLLBACK");
+            EXPECT_EQ(datos.Bases().Abrir().estado, EstadoApertura::Completa) << "the first try left a lock";
+        }
+    }
+}
+
+TEST(Apertura, OpenFilesAreHeldEvenBeforeTheFirstWrite) {
+    DatosPrueba datos;
+    datos.Abrir();
+    FrmBases segunda(datos.Carpeta(), Moneda());
+    EXPECT_EQ(segunda.Abrir().estado, EstadoApertura::Bloqueada);
+    datos.Cerrar();
+    QFile::remove(QDir(datos.Carpeta()).filePath(QStringLiteral("ventas.mdb")));
+    EXPECT_EQ(datos.Bases().Abrir().estado, EstadoApertura::Parcial);
+    EXPECT_EQ(segunda.Abrir().estado, EstadoApertura::Bloqueada)
+        << "a partial opening must hold what it opened";
+}
+
+TEST(Apertura, WhatDidOpenWorksAndTheRestIsClosed) {
+    DatosPrueba datos;
+    QFile::remove(QDir(datos.Carpeta()).filePath(QStringLiteral("articulos.mdb")));
+    FrmBases &b = datos.Bases();
+    b.Abrir();
+    b.datClientes.AddNew();
+    b.camCliNombre = QStringLiteral("x");
+    b.datClientes.Refresh();
+    EXPECT_EQ(b.datClientes.RecordCount(), 1);
+    EXPECT_EQ(b.datArticulos.RecordCount(), 0);
+    EXPECT_THROW(b.datVentas.AddNew(), ErrorDatos);
+}
+
+TEST(Apertura, OpeningAndClosingWritesNothing) {
+    DatosPrueba datos;
+    const auto antes = Contenido(datos.Carpeta());
+    datos.Abrir().datClientes.RecordCount();
+    datos.Cerrar();
+    EXPECT_EQ(Contenido(datos.Carpeta()), antes);
+}
+
+TEST(Apertura, AFolderWithOddLettersInItsNameWorks) {
+    QTemporaryDir base;
+    const QString carpeta = base.filePath(QStringLiteral("Año 100% ?x=1#&;ñ"));
+    ASSERT_TRUE(QDir().mkpath(carpeta));
+    CrearPlantillas(carpeta);
+    FrmBases bases(carpeta, Moneda());
+    EXPECT_EQ(bases.Abrir().estado, EstadoApertura::Completa);
+    EXPECT_EQ(bases.datIVA.RecordCount(), 4);
+}
+
+TEST(Apertura, ADamagedPageIsAnErrorAndNoCrash) {
+    DatosPrueba datos;
+    datos.Ejecutar("WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i+1 FROM n WHERE i<3000) "
+                   "INSERT INTO Ventas(total) SELECT '$ '||i FROM n");
+    QFile archivo(QDir(datos.Carpeta()).filePath(QStringLiteral("ventas.mdb")));
+    ASSERT_TRUE(archivo.open(QIODevice::ReadWrite));
+    archivo.seek(5 * 4096);
+    archivo.write(QByteArray(3 * 4096, '\x07'));
+    archivo.close();
+    FrmBases &b = datos.Abrir();
+    EXPECT_THROW(b.datVentas.RecordCount(), ErrorDatos);
+    EXPECT_THROW(b.camVentTotal.Texto(), ErrorDatos);
+}
+
+TEST(Instalacion, TheFirstStartMakesDataThatOpen) {
+    QTemporaryDir programa;
+    const QString datos = PrepararDatos(programa.path(), programa.filePath(QStringLiteral("usuario")));
+    EXPECT_EQ(datos, programa.filePath(QStringLiteral("Datos")));
+    EXPECT_EQ(QDir(programa.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
+              QStringList{QStringLiteral("Datos")});
+    EXPECT_EQ(Contenido(datos), Contenido(datos + QStringLiteral("/vacio")));
+    EXPECT_EQ(Contenido(datos).size(), 5U);
+    FrmBases b(datos, Moneda());
+    ASSERT_EQ(b.Abrir().estado, EstadoApertura::Completa);
+    EXPECT_EQ(b.datIVA.RecordCount(), 4);
+    EXPECT_EQ(b.camIVAPorcentaje.Texto(), QStringLiteral("21"));
+    for (Cursor *cursor : {&b.datImpuesto, &b.datFactura, &b.datTicket, &b.datCategorias, &b.datVendedores})
+        EXPECT_EQ(cursor->RecordCount(), 1) << cursor->Tabla();
+    for (Cursor *cursor :
+         {&b.datCategorias2, &b.datClientes, &b.datProveedores, &b.datArticulos, &b.datVentas})
+        EXPECT_EQ(cursor->RecordCount(), 0) << cursor->Tabla();
+    EXPECT_EQ(b.camTicN5.Texto(), QStringLiteral("N"));
+    EXPECT_EQ(b.camImpExisteIFiscal.Texto(), QStringLiteral("No"));
+}
+
+TEST(Instalacion, AFolderThatExistsIsNeverFilled) {
+    QTemporaryDir programa;
+    QDir(programa.path()).mkdir(QStringLiteral("Datos"));
+    const QString datos = PrepararDatos(programa.path(), programa.filePath(QStringLiteral("usuario")));
+    EXPECT_TRUE(QDir(datos).isEmpty());
+    FrmBases b(datos, Moneda());
+    EXPECT_EQ(b.Abrir().archivo, QStringLiteral("config.mdb"));
+    EXPECT_TRUE(QDir(datos).isEmpty());
+}
+
+TEST(Instalacion, TheUsersFolderTakesThePlaceOfOneThatCannotBeWritten) {
+    QTemporaryDir usuario;
+    const QString sinPermiso = QStringLiteral("/proc/tarvo");
+    const QString carpeta = usuario.filePath(QStringLiteral("a/b"));
+    const QString datos = PrepararDatos(sinPermiso, carpeta);
+    EXPECT_EQ(datos, carpeta + QStringLiteral("/Datos"));
+    Escribir(datos + QStringLiteral("/ventas.mdb"), "mio");
+    EXPECT_EQ(PrepararDatos(sinPermiso, carpeta), datos);
+    EXPECT_EQ(Contenido(datos)[QStringLiteral("ventas.mdb")], "mio");
+    EXPECT_THROW(PrepararDatos(sinPermiso, sinPermiso), ErrorDatos);
+}
+
+TEST(Regional, SettingsComeBeforeTheLocaleOfTheSystem) {
+    QTemporaryDir carpeta;
+    const QString ruta = carpeta.filePath(QStringLiteral("a.ini"));
+    struct {
+        const char *ini;
+        const char *decimal, *simbolo; // null: whatever the system says
+    } const casos[] = {
+        {"sDecimal=.\nsCurrency=Bs\n", ".", "Bs"},
+        {"sDecimal=\",\"\nsCurrency=\"€\"\n", ",", "€"},
+        {"sDecimal=,\n", ",", nullptr},
+        {"sCurrency=Gs\n", nullptr, "Gs"},
+        {"sDecimal=x\n", nullptr, nullptr},
+    };
+    for (const auto &caso : casos) {
+        Escribir(ruta, QByteArray("[General]\n") + caso.ini);
+        const Moneda moneda = LeerRegional(QSettings(ruta, QSettings::IniFormat));
+        if (caso.decimal != nullptr) {
+            EXPECT_EQ(moneda.sDecimal().toStdString(), caso.decimal) << caso.ini;
+        }
+        if (caso.simbolo != nullptr) {
+            EXPECT_EQ(moneda.sCurrency().toStdString(), caso.simbolo) << caso.ini;
+        }
+        EXPECT_TRUE(moneda.sDecimal() == QLatin1String(",") || moneda.sDecimal() == QLatin1String("."))
+            << caso.ini;
+        EXPECT_FALSE(moneda.sCurrency().isEmpty()) << caso.ini;
+    }
+}
+
+TEST(Compactacion, ShrinksTheFileAndKeepsItsRows) {
+    DatosPrueba datos;
+    datos.Ejecutar("WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i+1 FROM n WHERE i<3000) "
+                   "INSERT INTO Ventas(total) SELECT '$ '||i FROM n; DELETE FROM Ventas WHERE id>2");
+    const QString origen = QDir(datos.Carpeta()).filePath(QStringLiteral("ventas.mdb"));
+    const QString temporal = QDir(datos.Carpeta()).filePath(QStringLiteral("temporal.mdb"));
+    Escribir(temporal, "resto");
+    const qint64 antes = QFileInfo(origen).size();
+    FrmBases::CompactarBase(origen, temporal);
+    EXPECT_LT(QFileInfo(origen).size(), antes);
+    EXPECT_FALSE(QFile::exists(temporal));
+    FrmBases &b = datos.Abrir();
+    EXPECT_EQ(b.datVentas.RecordCount(), 2);
+    b.datVentas.AddNew();
+    b.datVentas.Refresh();
+    EXPECT_EQ(b.datVentas.UltimoId(), QStringLiteral("3001")) << "the counter must go on where it was";
+}
+
+TEST(Compactacion, TellsAMissingFileAndLeavesADamagedOne) {
+    QTemporaryDir carpeta;
+    const QString origen = carpeta.filePath(QStringLiteral("no.mdb"));
+    const QString temporal = carpeta.filePath(QStringLiteral("t.mdb"));
+    try {
+        FrmBases::CompactarBase(origen, temporal);
+        FAIL();
+    } catch (const ErrorDatos &error) {
+        EXPECT_EQ(error.Numero(), errores::kBaseNoEncontrada);
+        EXPECT_EQ(error.Descripcion(),
+                  QStringLiteral("No se pudo encontrar la base de datos '%1'.").arg(origen));
+    }
+    Escribir(origen, QByteArray(5000, 'x'));
+    EXPECT_THROW(FrmBases::CompactarBase(origen, temporal), ErrorDatos);
+    EXPECT_EQ(QFileInfo(origen).size(), 5000);
+}
+
+} // namespace
+} // namespace tarvo

@@ -1,0 +1,200 @@
+// The store on a disk that fails: a sale is killed, or refused a write, at every write that it makes.
+#include "testkit/datosprueba.h"
+
+#include <SQLiteCpp/SQLiteCpp.h>
+
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+
+#include <gtest/gtest.h>
+
+namespace tarvo {
+namespace {
+
+struct Salida {
+    QStringList lineas;
+    bool fallo = false; // a fault was made
+    bool matado = false;
+
+    std::string Texto(int desde = 0) const { return lineas.mid(desde).join(u';').toStdString(); }
+};
+
+class PruebaFallas : public testing::Test {
+  protected:
+    void SetUp() override {
+#ifdef TARVO_SANITIZADO
+        GTEST_SKIP() << "the sanitizer doesn't go with a preloaded library";
+#endif
+        modelo.Ejecutar("WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i+1 FROM n WHERE i<200) "
+                        "INSERT INTO Articulos(nombre, stock) SELECT 'articulo '||i, '10' FROM n");
+    }
+    // A fresh copy of the files for one run.
+    QString Copia() {
+        trabajo = std::make_unique<QTemporaryDir>();
+        for (const QFileInfo &archivo : QDir(modelo.Carpeta()).entryInfoList({QStringLiteral("*.mdb")}))
+            QFile::copy(archivo.filePath(), trabajo->filePath(archivo.fileName()));
+        return trabajo->path();
+    }
+    static Salida Correr(const char *orden, const QString &carpeta, const char *modo, int llamada,
+                         const char *extra = "") {
+        QProcess proceso;
+        QStringList entorno = QProcess::systemEnvironment();
+        entorno << QStringLiteral("LD_PRELOAD=" TARVO_FALLAS) << QStringLiteral("FALLAS_CARPETA=") + carpeta
+                << QStringLiteral("FALLAS_MODO=") + QString::fromUtf8(modo)
+                << QStringLiteral("FALLAS_LLAMADA=%1").arg(llamada) << QString::fromUtf8(extra);
+        proceso.setEnvironment(entorno);
+        proceso.start(QStringLiteral(TARVO_EMISOR), {QString::fromUtf8(orden), carpeta});
+        EXPECT_TRUE(proceso.waitForFinished(60'000));
+        Salida salida;
+        salida.lineas = QString::fromUtf8(proceso.readAllStandardOutput()).split(u'\n', Qt::SkipEmptyParts);
+        salida.fallo = proceso.readAllStandardError().contains("FALLA");
+        salida.matado = proceso.exitStatus() == QProcess::CrashExit;
+        return salida;
+    }
+    // Opens what a run left behind, checks every file and that the sale is whole; returns how many sales
+    // there are.
+    static int Ventas(const QString &carpeta) {
+        FrmBases b(carpeta, Moneda());
+        const ResultadoApertura resultado = b.Abrir();
+        EXPECT_EQ(resultado.estado, EstadoApertura::Completa) << resultado.motivo.toStdString();
+        const int ventas = b.datVentas.RecordCount();
+        int vendidos = 0;
+        Recorrer(b.datArticulos, [&] {
+            vendidos += b.camArtStock.Es("vendido") ? 1 : 0;
+            return false;
+        });
+        EXPECT_EQ(vendidos, ventas == 0 ? 0 : 10) << "half a sale";
+        b.Cerrar();
+        for (const QFileInfo &archivo : QDir(carpeta).entryInfoList({QStringLiteral("*.mdb")})) {
+            SQLite::Database base(archivo.filePath().toStdString(), SQLite::OPEN_READONLY);
+            EXPECT_EQ(base.execAndGet("PRAGMA integrity_check").getString(), "ok")
+                << archivo.fileName().toStdString();
+        }
+        return ventas;
+    }
+
+    DatosPrueba modelo;
+    std::unique_ptr<QTemporaryDir> trabajo;
+};
+
+TEST_F(PruebaFallas, AKilledSaleIsWholeOrNotThere) {
+    for (const char *modo : {"matar", "cortar"}) {
+        int muertes = 0;
+        for (int n = 1;; ++n) {
+            SCOPED_TRACE(std::string(modo) + " at call " + std::to_string(n));
+            const QString carpeta = Copia();
+            const Salida salida = Correr("vender", carpeta, modo, n);
+            EXPECT_EQ(salida.matado, salida.fallo);
+            const int ventas = Ventas(carpeta);
+            if (salida.lineas.contains(QStringLiteral("OK"))) {
+                EXPECT_EQ(ventas, 1) << "a sale that was reported is gone";
+            }
+            if (!salida.fallo) {
+                EXPECT_EQ(ventas, 1);
+                break;
+            }
+            ++muertes;
+            ASSERT_LT(n, 1000);
+        }
+        EXPECT_GT(muertes, 15) << "the library saw hardly a write";
+    }
+}
+
+TEST_F(PruebaFallas, ARecoveryThatIsKilledToo) {
+    for (int n = 1, fallo = 1; fallo != 0; n += 2) {
+        const QString carpeta = Copia();
+        fallo = Correr("vender", carpeta, "cortar", n).fallo ? 1 : 0;
+        for (int m = 1; Correr("abrir", carpeta, "cortar", m).fallo; ++m)
+            ASSERT_LT(m, 1000);
+        SCOPED_TRACE("killed at call " + std::to_string(n));
+        EXPECT_EQ(Ventas(carpeta), fallo != 0 ? Ventas(carpeta) : 1);
+    }
+}
+
+TEST_F(PruebaFallas, ARefusedWriteLeavesNothingAndARetryCountsOnce) {
+    const std::string kHecha = "CONSTA 1 10";
+    struct {
+        const char *modo, *seguidas;
+    } const casos[] = {{"lleno", ""},
+                       {"entrada", ""},
+                       {"lectura", ""},
+                       {"lleno", "FALLAS_SEGUIDAS=1"},
+                       {"entrada", "FALLAS_SEGUIDAS=1"}};
+    for (const auto &caso : casos) {
+        int errores = 0;
+        for (int n = 1;; ++n) {
+            SCOPED_TRACE(std::string(caso.modo) + " " + caso.seguidas + " at call " + std::to_string(n));
+            const QString carpeta = Copia();
+            const Salida salida = Correr("vender", carpeta, caso.modo, n, caso.seguidas);
+            EXPECT_FALSE(salida.matado);
+            const QString primera = salida.lineas.value(0);
+            if (primera.startsWith(QLatin1String("ERROR")) && salida.Texto(1) != kHecha) {
+                ++errores;
+                EXPECT_EQ(salida.Texto(1), "CONSTA 0 0;OK;" + kHecha) << primera.toStdString();
+            } else {
+                // Only an error that says that the outcome isn't known may go with a sale that is there.
+                EXPECT_TRUE(primera == QLatin1String("OK") || primera.contains(QLatin1String("ni comprobar")))
+                    << primera.toStdString();
+                EXPECT_EQ(salida.Texto(1), kHecha);
+            }
+            EXPECT_EQ(Ventas(carpeta), 1);
+            if (!salida.fallo)
+                break;
+            ASSERT_LT(n, 1000);
+        }
+        EXPECT_GT(errores, 10);
+    }
+}
+
+TEST_F(PruebaFallas, OpeningMakesNoWrite) {
+    const Salida salida = Correr("abrir", Copia(), "entrada", 1);
+    EXPECT_FALSE(salida.fallo);
+    EXPECT_EQ(salida.lineas.value(0).toStdString(), "0  ");
+}
+
+TEST_F(PruebaFallas, AReadOnlyFileIsToldAndNotTouched) {
+    for (const char *nombre :
+         {"config.mdb", "clientes.mdb", "proveedores.mdb", "articulos.mdb", "ventas.mdb"}) {
+        const QString carpeta = Copia();
+        const std::string extra = std::string("FALLAS_PROTEGIDO=") + nombre;
+        const Salida salida = Correr("abrir", carpeta, "", 0, extra.c_str());
+        EXPECT_EQ(salida.Texto(), std::string("2 ") + nombre + " El archivo es de solo lectura.");
+        EXPECT_EQ(QDir(carpeta).entryList(QDir::Files).size(), 5);
+    }
+}
+
+TEST_F(PruebaFallas, FilesHeldByAnotherProcessAreTold) {
+    const QString carpeta = Copia();
+    QProcess otro;
+    otro.start(QStringLiteral(TARVO_EMISOR), {QStringLiteral("retener"), carpeta});
+    ASSERT_TRUE(otro.waitForReadyRead(30'000));
+    ASSERT_EQ(otro.readAll(), "ABIERTO\n");
+    FrmBases b(carpeta, Moneda());
+    EXPECT_EQ(b.Abrir().estado, EstadoApertura::Bloqueada);
+    otro.closeWriteChannel();
+    ASSERT_TRUE(otro.waitForFinished(30'000));
+    EXPECT_EQ(b.Abrir().estado, EstadoApertura::Completa);
+}
+
+TEST_F(PruebaFallas, AnInterruptedFirstStartLeavesNoHalfFolder) {
+    for (const char *modo : {"matar", "lleno"}) {
+        for (int n = 1;; ++n) {
+            SCOPED_TRACE(std::string(modo) + " at call " + std::to_string(n));
+            QTemporaryDir programa;
+            const Salida salida = Correr("instalar", programa.path(), modo, n);
+            const QString datos = programa.filePath(QStringLiteral("Datos"));
+            if (!QDir(datos).exists())
+                Correr("instalar", programa.path(), "", 0);
+            FrmBases b(datos, Moneda());
+            EXPECT_EQ(b.Abrir().estado, EstadoApertura::Completa);
+            EXPECT_EQ(QDir(datos + QStringLiteral("/vacio")).entryList(QDir::Files).size(), 5);
+            if (!salida.fallo)
+                break;
+            ASSERT_LT(n, 1000);
+        }
+    }
+}
+
+} // namespace
+} // namespace tarvo
