@@ -1,0 +1,101 @@
+#include "shell/ventanas/areamodulos.h"
+
+#include "desktop/anfitrion.h"
+
+#include <QApplication>
+#include <QScrollArea>
+
+namespace tarvo {
+
+AreaModulos::AreaModulos(QScrollArea &area, Anfitrion &anfitrion, Composicion composicion)
+    : area_(area), anfitrion_(anfitrion), composicion_(std::move(composicion)) {}
+
+AreaModulos::~AreaModulos() {
+    blockSignals(true);
+    delete calculadora_;
+    delete abierta_;
+}
+
+bool AreaModulos::HayVentana(const QString &clave) const {
+    for (const Modulo modulo : {Modulo::Ventas, Modulo::Articulos, Modulo::Clientes, Modulo::Proveedores,
+                                Modulo::Estados, Modulo::Stats}) {
+        if (clave == DatosDe(modulo).clave || clave == DatosDe(modulo).boton)
+            return composicion_.modulos.contains(modulo);
+    }
+    const std::map<QString, bool> otras{
+        {QStringLiteral("opciones"), composicion_.opciones != nullptr},
+        {QStringLiteral("config"), composicion_.opciones != nullptr},
+        {QStringLiteral("factura"), composicion_.opciones && composicion_.disenador},
+        {QStringLiteral("respaldar"), composicion_.respaldo != nullptr},
+        {QStringLiteral("calculadora"), composicion_.calculadora != nullptr},
+        {QStringLiteral("devcontado"), composicion_.devContado != nullptr},
+        {QStringLiteral("devcliente"), composicion_.devCliente != nullptr},
+        {QStringLiteral("exportar"), composicion_.exportar != nullptr},
+    };
+    const auto entrada = otras.find(clave);
+    return entrada == otras.end() || entrada->second;
+}
+
+bool AreaModulos::EntradaEnCurso(Modulo modulo) const {
+    return abierta_ && cual_ == modulo && abierta_->EntradaEnCurso();
+}
+
+void AreaModulos::Mostrar(Modulo modulo) {
+    abierta_ = composicion_.modulos.at(modulo)(anfitrion_, &area_);
+    cual_ = modulo;
+    // What the window chose to have the keyboard while it was not visible gets it now.
+    QWidget *const elegido = abierta_->focusWidget();
+    area_.setWidget(abierta_);
+    abierta_->show();
+    if (!abierta_->isAncestorOf(QApplication::focusWidget()))
+        (elegido != nullptr ? elegido : abierta_.data())->setFocus();
+}
+
+void AreaModulos::Cerrar(Modulo modulo) {
+    if (!abierta_ || cual_ != modulo)
+        return;
+    abierta_->close();
+    delete abierta_;
+    cual_.reset();
+    anfitrion_.ActDesMenu(1, QStringLiteral("exportar"), false);
+    anfitrion_.Sugerencia(QString());
+}
+
+void AreaModulos::MostrarOpciones(bool abrirDisenador) {
+    composicion_.opciones(abrirDisenador, area_.window());
+}
+
+void AreaModulos::MostrarRespaldo() {
+    composicion_.respaldo(area_.window());
+}
+
+void AreaModulos::EjecutarContado() {
+    composicion_.devContado(*abierta_);
+}
+
+void AreaModulos::EjecutarPorCliente() {
+    composicion_.devCliente(*abierta_);
+}
+
+void AreaModulos::MostrarCalculadora() {
+    calculadora_ = composicion_.calculadora(area_.window());
+    calculadora_->setAttribute(Qt::WA_DeleteOnClose);
+    connect(calculadora_, &QObject::destroyed, this, &AreaModulos::CalculadoraCerrada);
+    calculadora_->show();
+}
+
+void AreaModulos::CerrarCalculadora() {
+    if (!calculadora_)
+        return;
+    // It is destroyed later, when another one may be open.
+    disconnect(calculadora_, nullptr, this, nullptr);
+    calculadora_->close();
+    calculadora_.clear();
+}
+
+void AreaModulos::Exportar() {
+    if (abierta_)
+        composicion_.exportar(*abierta_);
+}
+
+} // namespace tarvo

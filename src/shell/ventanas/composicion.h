@@ -1,0 +1,34 @@
+// Which window stands behind which entry of the main window: the one place that names them all.
+//
+// An entry without a window is shown and disabled, in the menu and on the toolbar.
+#pragma once
+
+#include "desktop/servicios.h"
+#include "shell/conmutador.h"
+
+#include <functional>
+#include <map>
+
+class QWidget;
+
+namespace tarvo {
+
+class Anfitrion;
+class VentanaModulo;
+
+struct Composicion {
+    using FabricaModulo = std::function<VentanaModulo *(Anfitrion &, QWidget *padre)>;
+
+    std::map<Modulo, FabricaModulo> modulos;
+    std::function<void(bool abrirDisenador, QWidget *padre)> opciones; // runs the dialog to its end
+    bool disenador = false;                       // the options know how to open the invoice designer
+    std::function<void(QWidget *padre)> respaldo; // runs the dialog to its end
+    std::function<QWidget *(QWidget *padre)> calculadora;
+    std::function<void(VentanaModulo &estados)> devContado;
+    std::function<void(VentanaModulo &estados)> devCliente;
+    std::function<void(VentanaModulo &abierta)> exportar;
+};
+
+Composicion Componer(const Servicios &servicios);
+
+} // namespace tarvo

@@ -1,0 +1,96 @@
+// The main window: menu, toolbar, status bar and the area where the module windows lie, one at a time.
+//
+// It shows and sets what the switching rule (Conmutador) decides, keeps its few settings, and on closing asks
+// the open module before it closes the data.
+#pragma once
+
+#include "desktop/anfitrion.h"
+#include "desktop/servicios.h"
+#include "shell/ajustesprincipal.h"
+#include "shell/conmutador.h"
+#include "shell/ventanas/pantallacompleta.h"
+
+#include <QHash>
+#include <QMainWindow>
+
+#include <functional>
+#include <memory>
+
+class QTimer;
+
+namespace tarvo {
+
+class AreaModulos;
+struct Composicion;
+struct TamanoInicial;
+namespace Ui {
+class FrmPrincipal;
+}
+
+class FrmPrincipal : public QMainWindow, public Anfitrion, public TableroModulos {
+    Q_OBJECT
+  public:
+    // `carpetaPrograma` is where the help file lies.
+    FrmPrincipal(const Servicios &servicios, const Composicion &composicion, QString carpetaPrograma);
+    ~FrmPrincipal() override;
+
+    // Shows the window, as big as the width of the screen (in twips) tells.
+    void Presentar(int anchoPantalla);
+    // What `separador` shows while nobody else has a hint.
+    void PonerAviso(const QString &aviso);
+
+    void ActDesMenu(int tipo, const QString &clave, bool valor) override;
+    void Sugerencia(const QString &texto) override;
+
+    bool MenuMarcado(const QString &clave) const override;
+    bool BotonPresionado(const QString &boton) const override;
+    void PresionarBoton(const QString &boton, bool valor) override;
+    void IniciarTimer1() override;
+
+  protected:
+    bool event(QEvent *evento) override;
+    bool eventFilter(QObject *objeto, QEvent *evento) override;
+    void resizeEvent(QResizeEvent *evento) override;
+    void closeEvent(QCloseEvent *evento) override;
+
+  private:
+    void CrearMenu();
+    void CrearBarra();
+    void CrearManejadores();
+    void AplicarAjustes();
+    void DesactivarSinVentana();
+    void m_Menus_Click(QAction *accion);
+    void tbrPrincipal_ButtonClick(const QString &clave);
+
+    void mnuBarHer();
+    void mnuBarEst();
+    void mnuPantComp();
+    void mnuAyudaPdf();
+    void mnuAcercaDe();
+    void AyudaWeb();
+    void MostrarMenuAyuda();
+
+    void Abrir(const QUrl &direccion);
+    void AjustarAncho();
+    void MostrarTextoEstado();
+    void ActualizarEstado();
+    void CerrarDatos();
+    QAction *DeMenu(const QString &clave) const;
+    QAction *DeBarra(const QString &clave) const;
+
+    std::unique_ptr<Ui::FrmPrincipal> ui_;
+    Servicios servicios_;
+    AjustesPrincipal ajustes_;
+    QString carpetaPrograma_;
+    PantallaCompleta pantalla_;
+    std::unique_ptr<AreaModulos> area_;
+    Conmutador conmutador_;
+    QTimer *Timer1;
+    QMenu *menuAyuda_;
+    QHash<QString, std::function<void()>> manejadores_; // by key of menu entry
+    QString aviso_;
+    QString sugerencia_;
+    QString ayudaEntrada_; // help text of the menu entry under the mouse
+};
+
+} // namespace tarvo

@@ -1,0 +1,37 @@
+#include "shell/ventanas/pantallacompleta.h"
+
+#include "shell/medidas.h"
+
+#include <QWidget>
+
+namespace tarvo {
+
+void PantallaCompleta::OcultarBorde(QWidget &ventana) {
+    ventana.setWindowState(ventana.windowState() | Qt::WindowFullScreen);
+}
+
+void PantallaCompleta::MostrarBorde(QWidget &ventana) {
+    ventana.setWindowState(ventana.windowState() & ~Qt::WindowFullScreen);
+}
+
+Geometria PantallaCompleta::Actual() const {
+    return {ventana_.isMaximized() ? kVentanaMaximizada : kVentanaNormal, ATwips(ventana_.x()),
+            ATwips(ventana_.y()), ATwips(ventana_.width()), ATwips(ventana_.height())};
+}
+
+void PantallaCompleta::Entrar() {
+    ajustes_.PonerPantComp(Actual());
+    OcultarBorde(ventana_);
+}
+
+void PantallaCompleta::Salir() {
+    const Geometria antes = ajustes_.PantComp(Actual());
+    MostrarBorde(ventana_);
+    if (antes.estado != kVentanaNormal)
+        return;
+    ventana_.setWindowState(ventana_.windowState() & ~Qt::WindowMaximized);
+    ventana_.move(APixeles(antes.x), APixeles(antes.y));
+    ventana_.resize(APixeles(antes.ancho), APixeles(antes.alto));
+}
+
+} // namespace tarvo

@@ -1,0 +1,84 @@
+#include "shell/ventanas/programa.h"
+
+#include "documents/ventanas/impresorassistema.h"
+#include "shell/apertura.h"
+#include "shell/medidas.h"
+#include "shell/ventanas/composicion.h"
+#include "shell/ventanas/frmprincipal.h"
+#include "shell/ventanas/frmsplash.h"
+#include "shell/ventanas/senalfin.h"
+#include "store/errordatos.h"
+#include "store/instalacion.h"
+#include "store/store.h"
+
+#include <QDebug>
+#include <QFileInfo>
+#include <QGuiApplication>
+#include <QScreen>
+
+namespace tarvo {
+
+Programa::Programa(Preguntas &preguntas, QString carpetaPrograma, QString carpetaUsuario)
+    : preguntas_(preguntas),
+      carpetaPrograma_(std::move(carpetaPrograma)),
+      carpetaUsuario_(std::move(carpetaUsuario)) {}
+
+Programa::~Programa() = default;
+
+int Programa::Ejecutar() {
+    // Between the splash and the main window no window is open.
+    QGuiApplication::setQuitOnLastWindowClosed(false);
+    // No question holds up a system that is going down: edits are committed, a half-done entry is not kept.
+    SenalFin senal;
+    connect(&senal, &SenalFin::Pedida, this, [] { QCoreApplication::exit(0); });
+    frmSplash_ = std::make_unique<FrmSplash>();
+    connect(frmSplash_.get(), &FrmSplash::Terminado, this, &Programa::Arrancar);
+    frmSplash_->show();
+    const int codigo = QCoreApplication::exec();
+    Cerrar();
+    return codigo;
+}
+
+void Programa::Arrancar() {
+    try {
+        const QString datos = PrepararDatos(carpetaPrograma_, carpetaUsuario_);
+        frmBases_ = std::make_unique<FrmBases>(datos, LeerRegional(ajustes_));
+        impresoras_ = std::make_unique<ImpresorasSistema>(reloj_, QFileInfo(datos).path() +
+                                                                      QStringLiteral("/Impresos"));
+    } catch (const ErrorDatos &error) {
+        Abandonar(error.Descripcion(), Icono::Critico);
+        return;
+    }
+    const ResultadoApertura resultado = frmBases_->Abrir();
+    if (resultado.estado == EstadoApertura::Bloqueada)
+        Abandonar(MensajeBloqueada(), Icono::Informacion);
+    else
+        MostrarPrincipal(AvisoApertura(resultado));
+}
+
+void Programa::MostrarPrincipal(const QString &aviso) {
+    const Servicios servicios{*frmBases_, preguntas_, reloj_, *impresoras_, ajustes_, escritorio_};
+    frmPrincipal_ = std::make_unique<FrmPrincipal>(servicios, Componer(servicios), carpetaPrograma_);
+    frmPrincipal_->PonerAviso(aviso);
+    QGuiApplication::setQuitOnLastWindowClosed(true);
+    frmPrincipal_->Presentar(ATwips(frmPrincipal_->screen()->size().width()));
+}
+
+void Programa::Abandonar(const QString &mensaje, Icono icono) {
+    frmSplash_->hide();
+    preguntas_.Mostrar(mensaje, icono);
+    QCoreApplication::exit(1);
+}
+
+// The main window has closed the data when the operator closed it; after a signal it is done here.
+void Programa::Cerrar() {
+    frmPrincipal_.reset();
+    try {
+        if (frmBases_)
+            frmBases_->Cerrar();
+    } catch (const std::exception &error) {
+        qWarning() << "closing the data failed:" << error.what();
+    }
+}
+
+} // namespace tarvo

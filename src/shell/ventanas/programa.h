@@ -1,0 +1,49 @@
+// The program from its splash to its end: builds the services, opens the data, shows the main window.
+#pragma once
+
+#include "desktop/preguntas.h"
+#include "desktop/reloj.h"
+#include "desktop/ventanas/escritorioqt.h"
+
+#include <QObject>
+#include <QSettings>
+
+#include <memory>
+
+namespace tarvo {
+
+class FrmBases;
+class FrmPrincipal;
+class FrmSplash;
+class Impresoras;
+
+class Programa : public QObject {
+    Q_OBJECT
+  public:
+    // `carpetaPrograma` holds the executable, `carpetaUsuario` takes the data where that one can't be
+    // written.
+    Programa(Preguntas &preguntas, QString carpetaPrograma, QString carpetaUsuario);
+    ~Programa() override;
+
+    // Shows the splash, runs to the end and returns the exit code: 1 when the data could not be had.
+    int Ejecutar();
+
+  private:
+    void Arrancar();
+    void MostrarPrincipal(const QString &aviso);
+    void Abandonar(const QString &mensaje, Icono icono);
+    void Cerrar();
+
+    Preguntas &preguntas_;
+    QString carpetaPrograma_;
+    QString carpetaUsuario_;
+    QSettings ajustes_;
+    RelojSistema reloj_;
+    EscritorioQt escritorio_;
+    std::unique_ptr<FrmBases> frmBases_;
+    std::unique_ptr<Impresoras> impresoras_;
+    std::unique_ptr<FrmSplash> frmSplash_;
+    std::unique_ptr<FrmPrincipal> frmPrincipal_;
+};
+
+} // namespace tarvo

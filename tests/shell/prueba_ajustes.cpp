@@ -1,0 +1,75 @@
+#include "shell/ajustesprincipal.h"
+#include "shell/apertura.h"
+#include "shell/medidas.h"
+
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+namespace tarvo {
+namespace {
+
+TEST(Medidas, WindowSizeFollowsTheScreenWidth) {
+    struct Caso {
+        int pixeles;
+        TamanoInicial esperado;
+    };
+    const Caso casos[] = {
+        {640, {std::nullopt, true}},          {639, {std::nullopt, false}},
+        {800, {Tamano{9600, 7200}, true}},    {801, {std::nullopt, false}},
+        {1023, {std::nullopt, false}},        {1024, {Tamano{12000, 9000}, false}},
+        {1280, {Tamano{12000, 9000}, false}}, {3840, {Tamano{12000, 9000}, false}},
+    };
+    for (const Caso &caso : casos)
+        EXPECT_EQ(TamanoPorPantalla(ATwips(caso.pixeles)), caso.esperado) << caso.pixeles;
+}
+
+TEST(Medidas, NarrowWindowGivesUpItsLastButtons) {
+    EXPECT_TRUE(CabeSalir(11951));
+    EXPECT_FALSE(CabeSalir(11950));
+    EXPECT_TRUE(CabeAyuda(11001));
+    EXPECT_FALSE(CabeAyuda(11000));
+    EXPECT_EQ(AnchoSeparador(12000, true), 7660);
+    EXPECT_EQ(AnchoSeparador(12000, false), 7440);
+    EXPECT_EQ(AnchoSeparador(3000, false), 0);
+}
+
+class AjustesTest : public ::testing::Test {
+  protected:
+    QTemporaryDir carpeta;
+    QSettings guardados{carpeta.filePath(QStringLiteral("a.ini")), QSettings::IniFormat};
+    AjustesPrincipal ajustes{guardados};
+};
+
+TEST_F(AjustesTest, BarsAreShownUnlessTheSettingSaysFalse) {
+    EXPECT_TRUE(ajustes.BarHer());
+    EXPECT_TRUE(ajustes.BarEst());
+    ajustes.PonerBarHer(false);
+    EXPECT_FALSE(ajustes.BarHer());
+    EXPECT_TRUE(ajustes.BarEst());
+    EXPECT_EQ(guardados.value(QStringLiteral("BarHer")).toString(), QStringLiteral("False"));
+    ajustes.PonerBarHer(true);
+    EXPECT_EQ(guardados.value(QStringLiteral("BarHer")).toString(), QStringLiteral("True"));
+    guardados.setValue(QStringLiteral("BarEst"), QStringLiteral("basura"));
+    EXPECT_TRUE(ajustes.BarEst());
+}
+
+TEST_F(AjustesTest, WhatIsNotStoredOfTheWindowIsItsCurrentState) {
+    const Geometria actual{kVentanaMaximizada, 15, 30, 12000, 9000};
+    EXPECT_EQ(ajustes.PantComp(actual), actual);
+    const Geometria antes{kVentanaNormal, 150, -300, 11000, 8000};
+    ajustes.PonerPantComp(antes);
+    EXPECT_EQ(ajustes.PantComp(actual), antes);
+    guardados.setValue(QStringLiteral("PantCompW"), QStringLiteral("ancho"));
+    EXPECT_EQ(ajustes.PantComp(actual).ancho, actual.ancho);
+}
+
+TEST(Apertura, OnlyAPartialOpeningGivesAHint) {
+    EXPECT_TRUE(AvisoApertura({}).isEmpty());
+    EXPECT_EQ(AvisoApertura(
+                  {EstadoApertura::Parcial, QStringLiteral("clientes.mdb"), QStringLiteral("está dañado")}),
+              QStringLiteral("No se pudo abrir clientes.mdb: está dañado"));
+}
+
+} // namespace
+} // namespace tarvo

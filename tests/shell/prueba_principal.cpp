@@ -1,0 +1,331 @@
+#include "mundoprincipal.h"
+
+#include "shell/ventanas/barraestado.h"
+#include "shell/ventanas/tablamenu.h"
+
+#include <QMenuBar>
+#include <QTimer>
+#include <QToolButton>
+
+#include <gtest/gtest.h>
+
+namespace tarvo {
+namespace {
+
+// The help file is looked for where the test's data lie.
+class PrincipalTest : public MundoPrincipal {};
+
+TEST_F(PrincipalTest, FirstStartShowsBothBarsAndNoFullScreen) {
+    Abrir();
+    EXPECT_TRUE(Control<QWidget>(*frm, "CoolBar1")->isVisible());
+    EXPECT_TRUE(Control<QWidget>(*frm, "SB1")->isVisible());
+    EXPECT_TRUE(DeMenu("BarHer")->isChecked());
+    EXPECT_TRUE(DeMenu("BarEst")->isChecked());
+    EXPECT_FALSE(DeMenu("pantcomp")->isChecked());
+    EXPECT_FALSE(DeMenu("exportar")->isEnabled());
+    EXPECT_EQ(frm->size(), QSize(800, 600));
+    EXPECT_TRUE(Abierta().isEmpty());
+}
+
+TEST_F(PrincipalTest, BarsFlipAndStayFlipped) {
+    Abrir();
+    Tecla(frm.get(), Qt::Key_H, Qt::ControlModifier);
+    DeMenu("BarEst")->trigger();
+    EXPECT_FALSE(Control<QWidget>(*frm, "CoolBar1")->isVisible());
+    EXPECT_FALSE(Control<QWidget>(*frm, "SB1")->isVisible());
+    EXPECT_FALSE(DeMenu("BarHer")->isChecked());
+    Abrir();
+    EXPECT_FALSE(Control<QWidget>(*frm, "CoolBar1")->isVisible());
+    EXPECT_FALSE(DeMenu("BarEst")->isChecked());
+    Tecla(frm.get(), Qt::Key_H, Qt::ControlModifier);
+    EXPECT_TRUE(Control<QWidget>(*frm, "CoolBar1")->isVisible());
+}
+
+struct EntradaEsperada {
+    const char *clave;
+    const char *texto;
+    const char *atajo;
+    bool marcable;
+};
+
+TEST_F(PrincipalTest, MenuHoldsItsEntriesWithTheirShortcuts) {
+    const EntradaEsperada esperadas[] = {
+        {"exportar", "&Exportar", "Ctrl+F6", false},
+        {"salir", "&Salir\tAlt+F4", "Alt+F4", false},
+        {"BarHer", "Barra de &herramientas", "Ctrl+H", true},
+        {"BarEst", "Barra de &estado", "Ctrl+E", true},
+        {"ventas", "&Ventas", "F8", true},
+        {"devcontado", "Contado", "", false},
+        {"devcliente", "Por Cliente", "", false},
+        {"stats", "&Estadísticas", "F12", true},
+        {"clientes", "&Clientes", "F4", true},
+        {"estado", "&Estados de cuenta", "F7", true},
+        {"articulos", "&Artículos", "F2", true},
+        {"proveedores", "&Proveedores", "F3", true},
+        {"opciones", "&Opciones", "F9", false},
+        {"factura", "&Diseñador de facturas", "", false},
+        {"pantcomp", "&Pantalla completa", "F11", true},
+        {"respaldar", "&Respaldar", "F6", false},
+        {"calculadora", "&Calculadora", "F5", true},
+        {"ayudapdf", "&Ayuda", "F1", false},
+        {"acercade", "A&cerca de...", "", false},
+    };
+    Abrir();
+    QStringList titulos;
+    for (const QAction *menu : Control<QMenuBar>(*frm, "mnuBarra")->actions())
+        titulos += menu->text();
+    EXPECT_EQ(titulos.join(QLatin1Char(' ')),
+              QStringLiteral("&Archivo &Ver &Ventas &Clientes A&rtículos &Herramientas A&yuda"));
+    QStringList claves;
+    for (const QAction *accion : Control<QMenuBar>(*frm, "mnuBarra")->findChildren<QAction *>()) {
+        if (accion->menu() == nullptr && !accion->isSeparator())
+            claves += accion->objectName();
+    }
+    EXPECT_EQ(claves.size(), qsizetype(std::size(esperadas)));
+    for (const EntradaEsperada &esperada : esperadas) {
+        SCOPED_TRACE(esperada.clave);
+        const QAction *accion = DeMenu(esperada.clave);
+        ASSERT_NE(accion, nullptr);
+        EXPECT_EQ(accion->text(), QString::fromUtf8(esperada.texto));
+        EXPECT_EQ(accion->shortcut().toString(QKeySequence::PortableText), QLatin1String(esperada.atajo));
+        EXPECT_EQ(accion->isCheckable(), esperada.marcable);
+    }
+}
+
+// The help text of an entry under the mouse shows in the hint panel, odd spelling and all, and goes again.
+TEST_F(PrincipalTest, HintPanelShowsTheHelpOfAnEntry) {
+    Abrir();
+    Tecla(frm.get(), Qt::Key_F2);
+    EXPECT_EQ(TextoEstado(), QStringLiteral("Pulse Enter"));
+    DeMenu("exportar")->showStatusText(frm.get());
+    EXPECT_EQ(TextoEstado(), QStringLiteral("Exporta los datos seleccioandos a un archivo externo"));
+    DeMenu("salir")->showStatusText(frm.get());
+    EXPECT_EQ(TextoEstado(), QStringLiteral("Pulse Enter"));
+}
+
+TEST_F(PrincipalTest, ToolbarShowsWholeCaptionsInOneRow) {
+    Abrir();
+    const auto *barra = Control<QToolBar>(*frm, "tbrPrincipal");
+    for (const QAction *accion : barra->actions()) {
+        const auto *boton =
+            qobject_cast<QToolButton *>(barra->widgetForAction(const_cast<QAction *>(accion)));
+        if (boton == nullptr)
+            continue;
+        SCOPED_TRACE(accion->objectName().toStdString());
+        EXPECT_TRUE(boton->isVisible());
+        EXPECT_GE(boton->width(), boton->fontMetrics().horizontalAdvance(accion->text()));
+        EXPECT_LE(boton->geometry().right(), barra->width());
+        const bool llano = accion->objectName() == QStringLiteral("ayuda") ||
+                           accion->objectName() == QStringLiteral("salir");
+        EXPECT_EQ(accion->isCheckable(), !llano);
+    }
+    EXPECT_EQ(DeBarra("estado")->toolTip(), QStringLiteral("Estado de cuenta (F7)"));
+    frm->resize(790, 600);
+    EXPECT_FALSE(DeBarra("salir")->isVisible());
+    EXPECT_TRUE(DeBarra("ayuda")->isVisible());
+    frm->resize(730, 600);
+    EXPECT_FALSE(DeBarra("ayuda")->isVisible());
+    frm->resize(800, 600);
+    EXPECT_TRUE(DeBarra("salir")->isVisible() && DeBarra("ayuda")->isVisible());
+}
+
+TEST_F(PrincipalTest, EntriesWithoutAWindowAreDisabledInMenuAndToolbar) {
+    composicion = Composicion{};
+    Abrir();
+    for (const char *clave : {"ventas", "stats", "clientes", "estado", "articulos", "proveedores", "opciones",
+                              "factura", "respaldar", "calculadora", "devcontado", "devcliente"})
+        EXPECT_FALSE(DeMenu(clave)->isEnabled()) << clave;
+    for (const char *clave : {"ventas", "estadisticas", "clientes", "estado", "articulos", "proveedores",
+                              "config", "respaldar", "calculadora"})
+        EXPECT_FALSE(DeBarra(clave)->isEnabled()) << clave;
+    for (const char *clave : {"salir", "BarHer", "pantcomp", "ayudapdf", "acercade"})
+        EXPECT_TRUE(DeMenu(clave)->isEnabled()) << clave;
+    frm->ActDesMenu(1, QStringLiteral("exportar"), true);
+    EXPECT_FALSE(DeMenu("exportar")->isEnabled());
+}
+
+TEST_F(PrincipalTest, KeysAndClicksOpenAndCloseModules) {
+    struct Caso {
+        Qt::Key tecla;
+        const char *menu;
+        const char *boton;
+    };
+    const Caso casos[] = {
+        {Qt::Key_F8, "ventas", "ventas"},           {Qt::Key_F7, "estado", "estado"},
+        {Qt::Key_F12, "stats", "estadisticas"},     {Qt::Key_F2, "articulos", "articulos"},
+        {Qt::Key_F3, "proveedores", "proveedores"}, {Qt::Key_F4, "clientes", "clientes"},
+    };
+    Abrir();
+    for (const Caso &caso : casos) {
+        SCOPED_TRACE(caso.menu);
+        Tecla(frm.get(), caso.tecla);
+        EXPECT_EQ(Abierta(), QLatin1String(caso.menu));
+        EXPECT_EQ(Presionados(), QLatin1String(caso.boton));
+        EXPECT_TRUE(DeMenu(caso.menu)->isChecked());
+        EXPECT_EQ(ConFoco(), QStringLiteral("txtCampo"));
+        Tecla(QApplication::focusWidget(), caso.tecla); // from inside the module
+        EXPECT_EQ(Abierta(), QString());
+        EXPECT_FALSE(DeMenu(caso.menu)->isChecked());
+        Pulsar(Boton(caso.boton));
+        EXPECT_EQ(Abierta(), QLatin1String(caso.menu));
+        EXPECT_EQ(Presionados(), QLatin1String(caso.boton));
+    }
+    DeMenu("ventas")->trigger();
+    EXPECT_EQ(Abierta(), QStringLiteral("ventas"));
+    DeMenu("ventas")->trigger();
+    EXPECT_EQ(Presionados(), QString());
+}
+
+TEST_F(PrincipalTest, RefusedSwitchPutsTheToolbarBackAfterATick) {
+    Abrir();
+    Tecla(frm.get(), Qt::Key_F8);
+    Modulo_()->entrada = true;
+    const QString pregunta = QStringLiteral("Confirma que desea salir sin completar la venta?");
+    mundo.preguntas.Espera(pregunta, Respuesta::No, Respuesta::No);
+    Pulsar(Boton("ventas"));
+    EXPECT_EQ(Presionados(), QString());
+    QTRY_COMPARE(Presionados(), QStringLiteral("ventas"));
+    mundo.preguntas.Espera(pregunta, Respuesta::No, Respuesta::No);
+    Pulsar(Boton("articulos"));
+    EXPECT_EQ(Presionados(), QStringLiteral("ventas"));
+    EXPECT_EQ(Abierta(), QStringLiteral("ventas"));
+    mundo.preguntas.Espera(pregunta, Respuesta::No, Respuesta::Si);
+    Tecla(frm.get(), Qt::Key_F2);
+    EXPECT_EQ(Presionados(), QStringLiteral("articulos"));
+    EXPECT_EQ(Abierta(), QStringLiteral("articulos"));
+}
+
+TEST_F(PrincipalTest, DialogsCloseTheModuleFirst) {
+    Abrir();
+    Tecla(frm.get(), Qt::Key_F8);
+    const QString aviso =
+        QStringLiteral("Al ingresar a las opciones del programa se cerrará el formulario de ventas."
+                       "\nDesea continuar?");
+    mundo.preguntas.Espera(aviso, Respuesta::No, Respuesta::No);
+    Pulsar(Boton("config"));
+    EXPECT_EQ(Presionados(), QStringLiteral("ventas"));
+    EXPECT_TRUE(hechos.isEmpty());
+    mundo.preguntas.Espera(aviso, Respuesta::No, Respuesta::Si);
+    DeMenu("factura")->trigger();
+    Tecla(frm.get(), Qt::Key_F6);
+    DeMenu("devcontado")->trigger();
+    DeMenu("devcliente")->trigger();
+    EXPECT_EQ(hechos.join(QLatin1Char(' ')), QStringLiteral("diseñador respaldo contado por cliente"));
+    EXPECT_EQ(Abierta(), QStringLiteral("estado"));
+}
+
+TEST_F(PrincipalTest, CalculatorTogglesAndResetsItsEntryWhenClosed) {
+    Abrir();
+    Tecla(frm.get(), Qt::Key_F8);
+    Pulsar(Boton("calculadora"));
+    EXPECT_EQ(Presionados(), QStringLiteral("ventas calculadora"));
+    Control<QWidget>(*frm, "frmCalc")->close();
+    QTRY_COMPARE(Presionados(), QStringLiteral("ventas"));
+    EXPECT_FALSE(DeMenu("calculadora")->isChecked());
+    DeMenu("calculadora")->trigger();
+    DeMenu("calculadora")->trigger();
+    DeMenu("calculadora")->trigger();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_EQ(Presionados(), QStringLiteral("ventas calculadora")); // the one closed before does not reset it
+}
+
+TEST_F(PrincipalTest, ExportFollowsTheOpenModule) {
+    Abrir();
+    Tecla(frm.get(), Qt::Key_F4);
+    EXPECT_TRUE(DeMenu("exportar")->isEnabled());
+    Tecla(frm.get(), Qt::Key_F6, Qt::ControlModifier);
+    EXPECT_EQ(hechos, QStringList{QStringLiteral("frm_clientes")});
+    Tecla(frm.get(), Qt::Key_F4);
+    EXPECT_FALSE(DeMenu("exportar")->isEnabled());
+    EXPECT_EQ(TextoEstado(), QString());
+}
+
+TEST_F(PrincipalTest, FullScreenGivesTheWindowBackAsItWas) {
+    Abrir();
+    frm->move(40, 50);
+    frm->resize(810, 610);
+    Tecla(frm.get(), Qt::Key_F11);
+    EXPECT_TRUE(frm->isFullScreen() && DeMenu("pantcomp")->isChecked());
+    EXPECT_EQ(mundo.ajustes.value(QStringLiteral("PantCompWS")).toInt(), 0);
+    EXPECT_EQ(mundo.ajustes.value(QStringLiteral("PantCompW")).toInt(), 810 * 15);
+    EXPECT_EQ(mundo.ajustes.value(QStringLiteral("PantCompY")).toInt(), 50 * 15);
+    Tecla(frm.get(), Qt::Key_F11);
+    EXPECT_FALSE(frm->isFullScreen() || DeMenu("pantcomp")->isChecked());
+    EXPECT_EQ(frm->pos(), QPoint(40, 50));
+    EXPECT_EQ(frm->size(), QSize(810, 610));
+
+    frm->showMaximized();
+    Tecla(frm.get(), Qt::Key_F11);
+    EXPECT_EQ(mundo.ajustes.value(QStringLiteral("PantCompWS")).toInt(), 2);
+    Tecla(frm.get(), Qt::Key_F11);
+    EXPECT_TRUE(frm->isMaximized() && !frm->isFullScreen());
+}
+
+TEST_F(PrincipalTest, ClosingAsksTheModuleAndThenClosesTheData) {
+    mundo.datos.Ejecutar("INSERT INTO clientes.Clientes (codigo) VALUES ('1')");
+    Abrir();
+    Tecla(frm.get(), Qt::Key_F4);
+    Modulo_()->entrada = true;
+    mundo.preguntas.Espera(QStringLiteral("Cerrar?"), Respuesta::No, Respuesta::No);
+    DeMenu("salir")->trigger();
+    EXPECT_TRUE(frm->isVisible());
+    EXPECT_EQ(mundo.datos.Bases().datClientes.RecordCount(), 1);
+    mundo.preguntas.Espera(QStringLiteral("Cerrar?"), Respuesta::No, Respuesta::Si);
+    Pulsar(Boton("salir"));
+    EXPECT_FALSE(frm->isVisible());
+    EXPECT_EQ(Abierta(), QString());
+    EXPECT_EQ(mundo.datos.Bases().datClientes.RecordCount(), 0);
+}
+
+TEST_F(PrincipalTest, NoticeOfThePartialOpeningComesBackBehindHints) {
+    Abrir();
+    frm->PonerAviso(QStringLiteral("No se pudo abrir clientes.mdb: está dañado"));
+    EXPECT_EQ(TextoEstado(), QStringLiteral("No se pudo abrir clientes.mdb: está dañado"));
+    Tecla(frm.get(), Qt::Key_F2);
+    EXPECT_EQ(TextoEstado(), QStringLiteral("Pulse Enter"));
+    Tecla(frm.get(), Qt::Key_F2);
+    EXPECT_EQ(TextoEstado(), QStringLiteral("No se pudo abrir clientes.mdb: está dañado"));
+}
+
+TEST_F(PrincipalTest, StatusBarTellsMakerAndDate) {
+    Abrir();
+    EXPECT_EQ(Control<QLabel>(*frm, "fecha")->text(), QStringLiteral("22/11/2026"));
+    EXPECT_EQ(Control<QLabel>(*frm, "mayusculas")->toolTip(), QStringLiteral("Mayúsculas"));
+    EXPECT_EQ(Control<QLabel>(*frm, "numerico")->text(), QStringLiteral("NÚM"));
+    auto *barra = Control<BarraEstado>(*frm, "SB1");
+    barra->PonerTeclado({true, false});
+    EXPECT_TRUE(Control<QLabel>(*frm, "mayusculas")->isEnabled());
+    EXPECT_FALSE(Control<QLabel>(*frm, "numerico")->isEnabled());
+    // A hint of any length leaves the other panels their place.
+    const int antes = Control<QLabel>(*frm, "fecha")->x();
+    frm->Sugerencia(QString(500, QLatin1Char('x')));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(Control<QLabel>(*frm, "fecha")->x(), antes);
+    EXPECT_EQ(frm->width(), 800);
+    Pulsar(Control<QLabel>(*frm, "fabricante"));
+    EXPECT_EQ(mundo.escritorio.direcciones, QList{QUrl(QStringLiteral("https://www.velbrina.example/"))});
+}
+
+TEST_F(PrincipalTest, HelpOpensTheFileBesideTheProgram) {
+    Abrir();
+    const QString ruta = mundo.datos.Carpeta() + QStringLiteral("/tarvo27me.pdf");
+    mundo.preguntas.EsperaMensaje(QStringLiteral("No se encontró el archivo de ayuda \"%1\".").arg(ruta),
+                                  Icono::Informacion);
+    Tecla(frm.get(), Qt::Key_F1);
+    QFile archivo(ruta);
+    ASSERT_TRUE(archivo.open(QIODevice::WriteOnly));
+    DeMenu("ayudapdf")->trigger();
+    EXPECT_EQ(mundo.escritorio.archivos, QStringList{ruta});
+
+    Pulsar(Boton("ayuda"));
+    QPointer<QWidget> menu = QApplication::activePopupWidget();
+    ASSERT_NE(menu, nullptr);
+    AccionDe(menu, QStringLiteral("popayuda"))->trigger();
+    AccionDe(menu, QStringLiteral("popayudaweb"))->trigger();
+    menu->close();
+    EXPECT_EQ(mundo.escritorio.archivos.size(), 2);
+    EXPECT_EQ(mundo.escritorio.direcciones.size(), 1);
+}
+
+} // namespace
+} // namespace tarvo
