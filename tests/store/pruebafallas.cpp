@@ -164,19 +164,6 @@ TEST_F(PruebaFallas, AReadOnlyFileIsToldAndNotTouched) {
     }
 }
 
-TEST_F(PruebaFallas, FilesHeldByAnotherProcessAreTold) {
-    const QString carpeta = Copia();
-    QProcess otro;
-    otro.start(QStringLiteral(TARVO_EMISOR), {QStringLiteral("retener"), carpeta});
-    ASSERT_TRUE(otro.waitForReadyRead(30'000));
-    ASSERT_EQ(otro.readAll(), "ABIERTO\n");
-    FrmBases b(carpeta, Moneda());
-    EXPECT_EQ(b.Abrir().estado, EstadoApertura::Bloqueada);
-    otro.closeWriteChannel();
-    ASSERT_TRUE(otro.waitForFinished(30'000));
-    EXPECT_EQ(b.Abrir().estado, EstadoApertura::Completa);
-}
-
 TEST_F(PruebaFallas, AnInterruptedFirstStartLeavesNoHalfFolder) {
     for (const char *modo : {"matar", "lleno"}) {
         for (int n = 1;; ++n) {
@@ -194,6 +181,18 @@ TEST_F(PruebaFallas, AnInterruptedFirstStartLeavesNoHalfFolder) {
             ASSERT_LT(n, 1000);
         }
     }
+}
+
+TEST(OtroProceso, FilesThatItHoldsAreToldAndFreeWhenItEnds) {
+    DatosPrueba datos;
+    QProcess otro;
+    otro.start(QStringLiteral(TARVO_EMISOR), {QStringLiteral("retener"), datos.Carpeta()});
+    ASSERT_TRUE(otro.waitForReadyRead(30'000));
+    ASSERT_EQ(otro.readAll(), "ABIERTO\n");
+    EXPECT_EQ(datos.Bases().Abrir().estado, EstadoApertura::Bloqueada);
+    otro.closeWriteChannel();
+    ASSERT_TRUE(otro.waitForFinished(30'000));
+    EXPECT_EQ(datos.Bases().Abrir().estado, EstadoApertura::Completa);
 }
 
 } // namespace
