@@ -39,7 +39,11 @@ AbrirPantalla() {
     Esperar 15 "la pantalla virtual" test -s "$carpeta/numero"
     DISPLAY=":$(cat "$carpeta/numero")"
     export DISPLAY
-    openbox --sm-disable 2>"$carpeta/openbox.log" &
+    if [ -z "${XDG_RUNTIME_DIR:-}" ]; then
+        export XDG_RUNTIME_DIR="$carpeta/sesion"
+        mkdir -p -m 700 "$XDG_RUNTIME_DIR"
+    fi
+    openbox --sm-disable >"$carpeta/openbox.log" 2>&1 &
     HIJOS+=($!)
     Esperar 15 "el gestor de ventanas" sh -c 'xprop -root _NET_SUPPORTING_WM_CHECK | grep -q "window id"'
 }
@@ -52,26 +56,30 @@ Iniciar() {
 }
 
 VentanasVisibles() {
-    xdotool search --onlyvisible --pid "$PROGRAMA" --name . 2>/dev/null || true
+    xdotool search --all --onlyvisible --pid "$PROGRAMA" --name . 2>/dev/null || true
 }
 
 HayVentanas() {
     [ "$(VentanasVisibles | wc -l)" -eq "$1" ]
 }
 
-# A window of the program, other than the main one, has the keyboard: a question or a message.
+# A window of the program has the keyboard that is not the main one nor the last one seen here: a question, a
+# message, a dialog.
+CUADRO=''
 HayCuadro() {
     local activa
     activa=$(xdotool getactivewindow) || return 1
-    [ "$activa" != "$PRINCIPAL" ] && VentanasVisibles | grep -qx "$activa"
-}
-
-PrincipalActiva() {
-    [ "$(xdotool getactivewindow)" = "$PRINCIPAL" ] && HayVentanas 1
+    [ "$activa" != "${PRINCIPAL:-}" ] && [ "$activa" != "$CUADRO" ] || return 1
+    VentanasVisibles | grep -qx "$activa" || return 1
+    CUADRO=$activa
 }
 
 EsperarCuadro() {
     Esperar 10 "$1" HayCuadro
+}
+
+PrincipalActiva() {
+    [ "$(xdotool getactivewindow)" = "$PRINCIPAL" ] && HayVentanas 1
 }
 
 EsperarPrincipal() {
@@ -99,12 +107,12 @@ Foto() {
     echo "  $1"
 }
 
-# The main window is wider than the splash and any message.
+# The main window is higher than the splash and any message.
 VentanaPrincipal() {
     local ventana
     for ventana in $(VentanasVisibles); do
-        eval "$(xdotool getwindowgeometry --shell "$ventana" 2>/dev/null | grep '^WIDTH=')"
-        [ "${WIDTH:-0}" -lt 780 ] || { PRINCIPAL=$ventana; return 0; }
+        eval "$(xdotool getwindowgeometry --shell "$ventana" 2>/dev/null | grep '^HEIGHT=')"
+        [ "${HEIGHT:-0}" -lt 450 ] || { PRINCIPAL=$ventana; return 0; }
     done
     return 1
 }

@@ -1,9 +1,13 @@
 #include "programa/programaenpantalla.h"
 
 #include <SQLiteCpp/SQLiteCpp.h>
+#include <gtest/gtest.h>
 
+#include <QDir>
 #include <QFile>
 
+#include <algorithm>
+#include <exception>
 #include <stdexcept>
 
 namespace tarvo {
@@ -11,18 +15,20 @@ namespace tarvo {
 namespace {
 const QString kTeclado = QStringLiteral("xdotool");
 
-// The splash is 360 pixels wide, message boxes are rarely wider than 600.
-bool EsAncha(const QString &ventana) {
+// The splash is 264 pixels high and messages are lower, however long their text.
+bool EsPrincipal(const QString &ventana) {
     const QByteArray medidas =
         Ejecutar(kTeclado, {QStringLiteral("getwindowgeometry"), QStringLiteral("--shell"), ventana}, true);
-    const qsizetype lugar = medidas.indexOf("WIDTH=");
-    return lugar >= 0 && medidas.mid(lugar + 6, medidas.indexOf('\n', lugar) - lugar - 6).toInt() >= 780;
+    const qsizetype lugar = medidas.indexOf("HEIGHT=");
+    return lugar >= 0 && medidas.mid(lugar + 7, medidas.indexOf('\n', lugar) - lugar - 7).toInt() >= 450;
 }
 } // namespace
 
 Carpeta::Carpeta() {
     if (!QFile::copy(QStringLiteral(TARVO_PROGRAMA), Ruta("tarvo")))
         throw std::runtime_error("no copy of the program");
+    QDir(Raiz()).mkdir(QStringLiteral("sesion"));
+    QFile::setPermissions(Ruta("sesion"), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
 }
 
 std::vector<std::vector<std::string>> Carpeta::Filas(const char *archivo, const char *consulta) const {
@@ -46,6 +52,7 @@ ProgramaEnPantalla::ProgramaEnPantalla(const Carpeta &carpeta) {
     QProcessEnvironment entorno = QProcessEnvironment::systemEnvironment();
     entorno.insert(QStringLiteral("XDG_CONFIG_HOME"), carpeta.Ruta("ajustes"));
     entorno.insert(QStringLiteral("XDG_DATA_HOME"), carpeta.Ruta("usuario"));
+    entorno.insert(QStringLiteral("XDG_RUNTIME_DIR"), carpeta.Ruta("sesion"));
     entorno.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("xcb"));
     proceso_.setProcessEnvironment(entorno);
     proceso_.setProcessChannelMode(QProcess::ForwardedErrorChannel);
@@ -59,21 +66,23 @@ ProgramaEnPantalla::ProgramaEnPantalla(const Carpeta &carpeta) {
 }
 
 ProgramaEnPantalla::~ProgramaEnPantalla() {
+    FotoDeFallo();
     Matar();
 }
 
 QStringList ProgramaEnPantalla::VentanasVisibles() const {
     const QByteArray salida =
         Ejecutar(kTeclado,
-                 {QStringLiteral("search"), QStringLiteral("--onlyvisible"), QStringLiteral("--pid"),
-                  QString::number(proceso_.processId()), QStringLiteral("--name"), QStringLiteral(".")},
+                 {QStringLiteral("search"), QStringLiteral("--all"), QStringLiteral("--onlyvisible"),
+                  QStringLiteral("--pid"), QString::number(proceso_.processId()), QStringLiteral("--name"),
+                  QStringLiteral(".")},
                  true);
     return QString::fromLatin1(salida).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
 }
 
 QString ProgramaEnPantalla::BuscarPrincipal() const {
     const QStringList ventanas = VentanasVisibles();
-    const auto hallada = std::find_if(ventanas.begin(), ventanas.end(), EsAncha);
+    const auto hallada = std::find_if(ventanas.begin(), ventanas.end(), EsPrincipal);
     return hallada == ventanas.end() ? QString() : *hallada;
 }
 
@@ -117,8 +126,13 @@ void ProgramaEnPantalla::Escanear(const std::string &codigo) {
     Teclas({QStringLiteral("Return"), QStringLiteral("Return")});
 }
 
-void ProgramaEnPantalla::Foto(const QString &archivo) const {
-    Ejecutar(QStringLiteral("import"), {QStringLiteral("-window"), QStringLiteral("root"), archivo});
+void ProgramaEnPantalla::FotoDeFallo() const {
+    if (!testing::Test::HasFailure() && std::uncaught_exceptions() == 0)
+        return;
+    Ejecutar(QStringLiteral("import"),
+             {QStringLiteral("-window"), QStringLiteral("root"),
+              QStringLiteral("fallo-%1.png").arg(proceso_.processId())},
+             true);
 }
 
 int ProgramaEnPantalla::CodigoSalida() {

@@ -1,4 +1,5 @@
-// The built program as a process, in a folder of its own, driven by keys.
+// The built program as a process, in a folder of its own, driven by keys. At its end in a test that fails it
+// leaves a picture of the screen, fallo-<process>.png, in the working folder.
 #pragma once
 
 #include "programa/pantalla.h"
@@ -44,7 +45,6 @@ class ProgramaEnPantalla {
     void Escribir(const QString &texto);
     // What a barcode scanner sends, and the Enter that adds the article.
     void Escanear(const std::string &codigo);
-    void Foto(const QString &archivo) const;
 
     QStringList VentanasVisibles() const;
     bool HayVentanaPrincipal() const { return !BuscarPrincipal().isEmpty(); }
@@ -57,6 +57,7 @@ class ProgramaEnPantalla {
   private:
     QString BuscarPrincipal() const;
     QString Activa() const;
+    void FotoDeFallo() const;
     QProcess proceso_;
     QString principal_;
     QString cuadro_;

@@ -90,7 +90,7 @@ void Movimientos::HacerRecibo() {
     actual_.descripcion = "Recibo"s;
     actual_.subtotal.clear();
     actual_.iva = "0"s;
-    actual_.total = Dinero(500 * sorteo_.Entre(1, 12));
+    actual_.total = Dinero(std::int64_t{500} * sorteo_.Entre(1, 12));
 }
 
 void Movimientos::HacerDevolucion() {

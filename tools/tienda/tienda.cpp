@@ -158,7 +158,7 @@ QString HacerTienda(const QString &carpeta, const MedidaTienda &medida, QDate ha
     if (QDir(carpeta).exists(QStringLiteral("Datos")))
         throw ErrorDatos(errores::kAccesoRuta,
                          QStringLiteral("Ya hay una carpeta Datos en %1.").arg(carpeta));
-    const QString datos = PrepararDatos(carpeta, carpeta);
+    QString datos = PrepararDatos(carpeta, carpeta);
     try {
         LlenarConfig(datos);
         LlenarClientes(datos, medida.clientes);

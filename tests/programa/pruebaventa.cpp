@@ -1,0 +1,160 @@
+// A sale by keys, from the scanner to the files and the paper, and the same sale with the program killed
+// around the moment of its issue.
+#include "programa/mundoprograma.h"
+#include "tienda/tienda.h"
+
+#include <SQLiteCpp/SQLiteCpp.h>
+
+#include <QDir>
+#include <QRegularExpression>
+#include <QThread>
+
+using namespace tarvo;
+
+namespace {
+
+constexpr const char *kCuentaVentas = "SELECT count(*) FROM Ventas";
+constexpr const char *kStock = "SELECT group_concat(stock, ' ') FROM Articulos WHERE id IN (1, 2)";
+
+constexpr const char *kTicket = R"(    LA ESQUINA DE ÑANDÚ
+     Almacén y librería
+  Calle Mayor, 12 - Logroño
+      Tel. 941 000 000
+    Gracias por su compra
+
+FECHA    HORA
+
+Cliente    Sur 2
+Id. Fiscal 30-71234562
+Factura crédito
+Nº Comprobante 77
+---------------------------------------
+Detalle                           Total
+Yerba mate 1 kg                $ 100,00
+  1 x $ 100,00
+Café torrado molido de origen único
+                                $ 99,99
+  3 x $ 33,33
+---------------------------------------
+Subtotal                       $ 199,99
+IVA                             $ 42,00
+Percepción                       $ 7,26
+Total                          $ 249,25
+Descuento                           10 %
+Total c/Descuento              $ 224,32
+Vendedor 1 - Ana
+)";
+
+QString k(const char *tecla) {
+    return QString::fromLatin1(tecla);
+}
+
+void HacerTiendaConocida(const Carpeta &carpeta) {
+    HacerTienda(carpeta.Raiz(), {6, 3, 4}, QDate(2026, 11, 22));
+    SQLite::Database(carpeta.Ruta("Datos/articulos.mdb").toStdString(), SQLite::OPEN_READWRITE)
+        .exec("UPDATE Articulos SET codbarras1 = '779100000000' || id, idtipoiva = '1', stock = '5';"
+              "UPDATE Articulos SET nombre = 'Yerba mate 1 kg', subtotal = '100' WHERE id = 1;"
+              "UPDATE Articulos SET nombre = 'Café torrado molido de origen único 500 g', subtotal = '33,33'"
+              " WHERE id = 2");
+    SQLite::Database(carpeta.Ruta("Datos/clientes.mdb").toStdString(), SQLite::OPEN_READWRITE)
+        .exec("UPDATE Clientes SET nombre = 'Sur ' || id, ifiscal = '30-7123456' || id");
+    SQLite::Database(carpeta.Ruta("Datos/config.mdb").toStdString(), SQLite::OPEN_READWRITE)
+        .exec("UPDATE Vendedores SET nombre = 'Ana' WHERE id = 1");
+}
+
+void Tabular(ProgramaEnPantalla &programa, int veces) {
+    programa.Teclas(QStringList(veces, k("Tab")));
+}
+
+// Two articles (one unit of the first, three of the second), on credit to the second customer, first seller,
+// document 77, 10% of discount. The focus is left on the discount.
+void PonerVenta(ProgramaEnPantalla &programa) {
+    programa.Teclas({k("F8")});
+    programa.Escanear("7791000000001");
+    programa.Escribir(k("7791000000002"));
+    programa.Teclas({k("Return"), k("shift+Tab")});
+    programa.Escribir(k("3"));
+    programa.Teclas({k("Return")});
+    Tabular(programa, 7); // from the search field to the button of the customer panel
+    programa.Teclas({k("space")});
+    programa.Escribir(k("sur 2"));
+    programa.Teclas({k("Return"), k("Tab"), k("Tab"), k("Tab"), k("space")});
+    programa.Teclas({k("alt+d"), k("shift+Tab"), k("Down"), k("shift+Tab")});
+    programa.Escribir(k("77"));
+    programa.Teclas({k("shift+Tab"), k("space"), k("alt+d")});
+    programa.Escribir(k("10"));
+}
+
+// The question that confirms the issue is on screen.
+void PedirEmision(ProgramaEnPantalla &programa) {
+    programa.Teclas({k("Tab"), k("space")});
+    programa.EsperarCuadro();
+}
+
+QString TextoTicket(const Carpeta &carpeta) {
+    const QDir impresos(carpeta.Ruta("Impresos"));
+    const QStringList archivos = impresos.entryList({k("*.pdf")});
+    if (archivos.size() != 1)
+        return k("%1 documents").arg(archivos.size());
+    QString texto = QString::fromUtf8(
+        Ejecutar(k("pdftotext"), {k("-layout"), impresos.filePath(archivos.first()), k("-")}));
+    texto.remove(QLatin1Char('\f'));
+    texto.replace(QRegularExpression(k("\\d\\d/\\d\\d/\\d{4}( +)\\d\\d:\\d\\d")), k("FECHA\\1HORA"));
+    return texto;
+}
+
+} // namespace
+
+class VentaPrograma : public MundoPrograma {};
+
+TEST_F(VentaPrograma, ASaleByKeysIsInTheFilesAndOnPaper) {
+    HacerTiendaConocida(carpeta_);
+    ProgramaEnPantalla programa(carpeta_);
+    programa.EsperarPrincipal();
+    PonerVenta(programa);
+    PedirEmision(programa);
+    programa.Teclas({k("Return")});
+    programa.EsperarCuadro(); // ticket?
+    programa.Teclas({k("Return")});
+    programa.EsperarCuadro(); // success
+    programa.Teclas({k("Return")});
+    programa.EsperarVuelta();
+    programa.Cerrar();
+
+    const auto ventas =
+        carpeta_.Filas("ventas.mdb", "SELECT idcliente, idoperador, idusuario, numcomp, tipo,"
+                                     " descripcion, subtotal, iva, total FROM Ventas WHERE id > 4");
+    ASSERT_EQ(ventas.size(), 1u);
+    // 100 + 3 x 33,33; IVA 21%; 3% of both on top; 10% off.
+    EXPECT_EQ(ventas[0], (std::vector<std::string>{"2", "1", "", "77", "Credito", "Factura crédito",
+                                                   "$ 199,99", "$ 42,00", "$ 224,32"}));
+    EXPECT_EQ(carpeta_.Valor("articulos.mdb", kStock), "4 2");
+    EXPECT_EQ(TextoTicket(carpeta_).toStdString(), kTicket);
+}
+
+TEST_F(VentaPrograma, KilledAroundTheIssueTheSaleIsWholeOrAbsent) {
+    constexpr int kTrasElExito = -1;
+    for (const int espera : {0, 4, 12, 40, kTrasElExito}) {
+        SCOPED_TRACE(espera);
+        const Carpeta carpeta;
+        HacerTiendaConocida(carpeta);
+        ProgramaEnPantalla programa(carpeta);
+        programa.EsperarPrincipal();
+        PonerVenta(programa);
+        PedirEmision(programa);
+        programa.Teclas({k("Return")});
+        if (espera == kTrasElExito) {
+            programa.EsperarCuadro();
+            programa.Teclas({k("Escape")}); // no ticket
+            programa.EsperarCuadro();
+        } else {
+            QThread::msleep(static_cast<unsigned long>(espera));
+        }
+        programa.Matar();
+
+        const bool esta = carpeta.Valor("ventas.mdb", kCuentaVentas) == "5";
+        EXPECT_EQ(carpeta.Valor("ventas.mdb", kCuentaVentas), esta ? "5" : "4");
+        EXPECT_EQ(carpeta.Valor("articulos.mdb", kStock), esta ? "4 2" : "5 5");
+        EXPECT_TRUE(esta || espera != kTrasElExito);
+    }
+}
