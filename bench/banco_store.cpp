@@ -227,6 +227,7 @@ double NanosSeek(FrmBases &b, int articulos) {
     constexpr int kVeces = 200'000;
     b.datArticulos.Index(QStringLiteral("primarykey"));
     std::vector<QString> ids;
+    ids.reserve(64);
     for (int i = 0; i < 64; ++i)
         ids.push_back(QString::number(1 + i * (articulos / 64)));
     return Mejor(5,
@@ -238,11 +239,28 @@ double NanosSeek(FrmBases &b, int articulos) {
            1e6 / kVeces;
 }
 
+// A new row in a table of which nothing has been read: it must not be read for that either.
+double MilisegundosAlta(FrmBases &b) {
+    std::vector<double> altas;
+    altas.reserve(20);
+    for (int i = 0; i < 20; ++i) {
+        b.datVentas.Invalidar();
+        altas.push_back(Milisegundos([&] {
+            b.datVentas.AddNew();
+            b.camVentNumComp = QStringLiteral("1");
+            b.datVentas.Refresh();
+        }));
+    }
+    return Mediana(altas);
+}
+
 void MedirTamano(const Datos &chica, const Datos &grande) {
     FrmBases a(chica.carpeta, Moneda());
     FrmBases b(grande.carpeta, Moneda());
     Abrir(a);
     Abrir(b);
+    const double alta = MilisegundosAlta(a);
+    Linea("AddNew and Refresh unread, 1,000,000 : 0 rows", MilisegundosAlta(b), alta, "ms", 1.5);
     const double refresco = NanosRefresh(a);
     Linea("Refresh with nothing changed, 1,000,000 : 1,000", NanosRefresh(b), refresco, "ns", 1.5);
     const double busca = NanosSeek(a, 1000);

@@ -64,8 +64,8 @@ bool EsSeparador(const QString &texto) {
 
 QString PrepararDatos(const QString &carpetaPrograma, const QString &carpetaUsuario) {
     const QString nombre = QStringLiteral("Datos");
-    const QString propia = QDir(carpetaPrograma).filePath(nombre);
-    const QString deUsuario = QDir(carpetaUsuario).filePath(nombre);
+    QString propia = QDir(carpetaPrograma).filePath(nombre);
+    QString deUsuario = QDir(carpetaUsuario).filePath(nombre);
     if (QFileInfo::exists(propia))
         return propia;
     try {
