@@ -1,10 +1,13 @@
 #include "shell/ajustesprincipal.h"
 #include "shell/apertura.h"
+#include "shell/avisofallas.h"
 #include "shell/medidas.h"
 
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
+
+#include <stdexcept>
 
 namespace tarvo {
 namespace {
@@ -69,6 +72,34 @@ TEST(Apertura, OnlyAPartialOpeningGivesAHint) {
     EXPECT_EQ(AvisoApertura(
                   {EstadoApertura::Parcial, QStringLiteral("clientes.mdb"), QStringLiteral("está dañado")}),
               QStringLiteral("No se pudo abrir clientes.mdb: está dañado"));
+}
+
+// Each message sets off another exception, as a window that can't be painted would.
+class PreguntasQueFallan final : public Preguntas {
+  public:
+    AvisoFallas aviso{*this};
+    QStringList mostrados;
+
+    Respuesta Preguntar(const QString &, Respuesta preseleccionada) override { return preseleccionada; }
+    void Mostrar(const QString &texto, Icono icono) override {
+        EXPECT_EQ(icono, Icono::Critico);
+        mostrados += texto;
+        aviso.Proteger([]() -> bool { throw std::runtime_error("otra vez"); });
+    }
+};
+
+TEST(AvisoFallas, TellsAnExceptionOnceAndGoesOn) {
+    PreguntasQueFallan preguntas;
+    EXPECT_FALSE(preguntas.aviso.Proteger([] { return false; }));
+    EXPECT_TRUE(preguntas.mostrados.isEmpty());
+    for (int vez = 1; vez <= 2; ++vez) {
+        EXPECT_TRUE(preguntas.aviso.Proteger([]() -> bool { throw std::runtime_error("disco lleno, ñ"); }));
+        EXPECT_EQ(preguntas.mostrados.size(), vez);
+    }
+    EXPECT_EQ(preguntas.mostrados.front(),
+              QStringLiteral("No se pudo completar la operación: disco lleno, ñ"));
+    EXPECT_TRUE(preguntas.aviso.Proteger([]() -> bool { throw 3; }));
+    EXPECT_EQ(preguntas.mostrados.size(), 3);
 }
 
 } // namespace

@@ -1,7 +1,7 @@
 // The application: an exception that no handler caught is told to the operator and never ends the program.
 #pragma once
 
-#include "desktop/preguntas.h"
+#include "shell/avisofallas.h"
 
 #include <QApplication>
 
@@ -16,9 +16,7 @@ class Aplicacion : public QApplication {
     bool notify(QObject *receptor, QEvent *evento) override;
 
   private:
-    void Avisar(const QString &motivo);
-    Preguntas &preguntas_;
-    bool avisando_ = false;
+    AvisoFallas aviso_;
 };
 
 } // namespace tarvo

@@ -44,6 +44,7 @@ BarraEstado::BarraEstado(QWidget *padre)
     : QStatusBar(padre), fabricante(new EtiquetaEnlace(this)), separador(new PanelSugerencia(this)) {
     setSizeGripEnabled(false);
     fabricante->setObjectName(QStringLiteral("fabricante"));
+    fabricante->setFocusPolicy(Qt::NoFocus); // the Tab key stays within the module
     fabricante->setText(QStringLiteral("Velbrina Software"));
     fabricante->setToolTip(QStringLiteral("Sitio web de Velbrina Software"));
     fabricante->PonerColores(colores::kTextoTenue, colores::kTitulo);

@@ -7,6 +7,7 @@
 namespace tarvo {
 
 void PantallaCompleta::OcultarBorde(QWidget &ventana) {
+    borde_ = ventana.geometry().topLeft() - ventana.frameGeometry().topLeft();
     ventana.setWindowState(ventana.windowState() | Qt::WindowFullScreen);
 }
 
@@ -30,8 +31,9 @@ void PantallaCompleta::Salir() {
     if (antes.estado != kVentanaNormal)
         return;
     ventana_.setWindowState(ventana_.windowState() & ~Qt::WindowMaximized);
-    ventana_.move(APixeles(antes.x), APixeles(antes.y));
-    ventana_.resize(APixeles(antes.ancho), APixeles(antes.alto));
+    // The frame comes back later than this, so the place is told without it.
+    ventana_.setGeometry(APixeles(antes.x) + borde_.x(), APixeles(antes.y) + borde_.y(),
+                         APixeles(antes.ancho), APixeles(antes.alto));
 }
 
 } // namespace tarvo

@@ -4,6 +4,8 @@
 
 #include "shell/ajustesprincipal.h"
 
+#include <QPoint>
+
 class QWidget;
 
 namespace tarvo {
@@ -17,12 +19,13 @@ class PantallaCompleta {
     void Salir();
 
   private:
-    static void OcultarBorde(QWidget &ventana);
+    void OcultarBorde(QWidget &ventana);
     static void MostrarBorde(QWidget &ventana);
     Geometria Actual() const;
 
     QWidget &ventana_;
     AjustesPrincipal ajustes_;
+    QPoint borde_; // left and top of the frame, while it is hidden
 };
 
 } // namespace tarvo
