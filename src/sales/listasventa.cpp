@@ -106,7 +106,7 @@ QString EntradaVendedor(const FrmBases &bases) {
 std::vector<ColumnaLista> ColumnasArticulos() {
     return {{QStringLiteral("Código"), 800},
             {QStringLiteral("Cód. Barras"), 1180},
-            {QStringLiteral("Artículo"), 1650},
+            {QStringLiteral("Artículo"), 1700},
             {QStringLiteral("Stock"), 600, true},
             {QStringLiteral("P. Unitario"), 945, true},
             {QStringLiteral("IVA"), 560, true},
@@ -115,8 +115,8 @@ std::vector<ColumnaLista> ColumnasArticulos() {
 }
 
 std::vector<ColumnaLista> ColumnasDetalle() {
-    return {{QStringLiteral("Código"), 800},
-            {QStringLiteral("Artículo"), 2000},
+    return {{QStringLiteral("Código"), 860},
+            {QStringLiteral("Artículo"), 2200},
             {QStringLiteral("P. Unitario"), 1045, true},
             {QStringLiteral("Cantidad"), 945, true},
             {QStringLiteral("Subtotal"), 1045, true},

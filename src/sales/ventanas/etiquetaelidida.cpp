@@ -21,6 +21,12 @@ void EtiquetaElidida::paintEvent(QPaintEvent *) {
     const QString cabe = fontMetrics().elidedText(texto, Qt::ElideRight, sitio.width());
     setToolTip(cabe == texto ? QString() : texto.toHtmlEscaped());
     QPainter pintor(this);
+    if (texto.isEmpty()) {
+        QPalette tenue = palette();
+        tenue.setCurrentColorGroup(QPalette::Disabled);
+        style()->drawItemText(&pintor, sitio, int(alignment()), tenue, false, sugerencia_, foregroundRole());
+        return;
+    }
     style()->drawItemText(&pintor, sitio, int(alignment()), palette(), isEnabled(), cabe, foregroundRole());
 }
 

@@ -1,5 +1,6 @@
 // A label for text of any length that the operator typed once: what does not fit is elided, and shown whole
 // in the tool tip. Its text() is always the whole text, and it never asks for more room than there is.
+// Without text it shows its hint, dim.
 #pragma once
 
 #include <QLabel>
@@ -8,6 +9,7 @@ namespace tarvo {
 
 class EtiquetaElidida : public QLabel {
     Q_OBJECT
+    Q_PROPERTY(QString sugerencia MEMBER sugerencia_)
   public:
     using QLabel::QLabel;
     QSize sizeHint() const override;
@@ -15,6 +17,9 @@ class EtiquetaElidida : public QLabel {
 
   protected:
     void paintEvent(QPaintEvent *evento) override;
+
+  private:
+    QString sugerencia_;
 };
 
 } // namespace tarvo
