@@ -1,6 +1,7 @@
 // A sale by keys, from the scanner to the files and the paper, and the same sale with the program killed
 // around the moment of its issue.
 #include "programa/mundoprograma.h"
+#include "programa/ventaporteclas.h"
 #include "tienda/tienda.h"
 
 #include <SQLiteCpp/SQLiteCpp.h>
@@ -45,10 +46,6 @@ Total c/Descuento              $ 224,32
 Vendedor 1 - Ana
 )";
 
-QString k(const char *tecla) {
-    return QString::fromLatin1(tecla);
-}
-
 void HacerTiendaConocida(const Carpeta &carpeta) {
     HacerTienda(carpeta.Raiz(), {6, 3, 4}, QDate(2026, 11, 22));
     SQLite::Database(carpeta.Ruta("Datos/articulos.mdb").toStdString(), SQLite::OPEN_READWRITE)
@@ -62,10 +59,6 @@ void HacerTiendaConocida(const Carpeta &carpeta) {
         .exec("UPDATE Vendedores SET nombre = 'Ana' WHERE id = 1");
 }
 
-void Tabular(ProgramaEnPantalla &programa, int veces) {
-    programa.Teclas(QStringList(veces, k("Tab")));
-}
-
 // Two articles (one unit of the first, three of the second), on credit to the second customer, first seller,
 // document 77, 10% of discount. The focus is left on the discount.
 void PonerVenta(ProgramaEnPantalla &programa) {
@@ -75,20 +68,11 @@ void PonerVenta(ProgramaEnPantalla &programa) {
     programa.Teclas({k("Return"), k("shift+Tab")});
     programa.Escribir(k("3"));
     programa.Teclas({k("Return")});
-    Tabular(programa, 7); // from the search field to the button of the customer panel
-    programa.Teclas({k("space")});
-    programa.Escribir(k("sur 2"));
-    programa.Teclas({k("Return"), k("Tab"), k("Tab"), k("Tab"), k("space")});
+    ElegirCliente(programa, "sur 2");
     programa.Teclas({k("alt+d"), k("shift+Tab"), k("Down"), k("shift+Tab")});
     programa.Escribir(k("77"));
     programa.Teclas({k("shift+Tab"), k("space"), k("alt+d")});
     programa.Escribir(k("10"));
-}
-
-// The question that confirms the issue is on screen.
-void PedirEmision(ProgramaEnPantalla &programa) {
-    programa.Teclas({k("Tab"), k("space")});
-    programa.EsperarCuadro();
 }
 
 QString TextoTicket(const Carpeta &carpeta) {
@@ -112,13 +96,7 @@ TEST_F(VentaPrograma, ASaleByKeysIsInTheFilesAndOnPaper) {
     ProgramaEnPantalla programa(carpeta_);
     programa.EsperarPrincipal();
     PonerVenta(programa);
-    PedirEmision(programa);
-    programa.Teclas({k("Return")});
-    programa.EsperarCuadro(); // ticket?
-    programa.Teclas({k("Return")});
-    programa.EsperarCuadro(); // success
-    programa.Teclas({k("Return")});
-    programa.EsperarVuelta();
+    EmitirConTicket(programa);
     programa.Cerrar();
 
     const auto ventas =
