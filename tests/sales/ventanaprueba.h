@@ -1,0 +1,65 @@
+// The sale window on the small shop, with the operator's hands on it.
+#pragma once
+
+#include "tiendaprueba.h"
+
+#include "desktop/anfitrion.h"
+#include "desktop/ventanas/listavista.h"
+#include "sales/ventanas/frmventas.h"
+
+#include <QAction>
+#include <QCheckBox>
+#include <QClipboard>
+#include <QComboBox>
+#include <QFrame>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTimer>
+#include <QToolBar>
+
+namespace tarvo {
+
+inline const QString kFinal = QStringLiteral("La búsqueda ha finalizado.");
+
+class AnfitrionMudo final : public Anfitrion {
+  public:
+    void ActDesMenu(int, const QString &, bool) override {}
+    void Sugerencia(const QString &) override {}
+};
+
+class VentanaVentas : public ::testing::Test {
+  protected:
+    VentanaVentas() { mundo.datos.Ejecutar(kTienda); }
+
+    void Abrir() {
+        ventana = std::make_unique<FrmVentas>(mundo.servicios(), anfitrion, nullptr);
+        ventana->resize(800, 455);
+        MostrarVentana(*ventana);
+    }
+    template <typename T> T *C(const char *nombre) { return Control<T>(*ventana, nombre); }
+    QLineEdit *Campo(const char *nombre) { return C<QLineEdit>(nombre); }
+    ListaVista *Lista(const char *nombre) { return C<ListaVista>(nombre); }
+    QString Texto(const char *etiqueta) { return C<QLabel>(etiqueta)->text(); }
+    bool Se(const char *nombre) { return C<QWidget>(nombre)->isVisible(); }
+    void Clic(const char *boton) { Pulsar(C<QWidget>(boton)); }
+    // Keys go to whatever has the focus, as from a keyboard.
+    void Teclas(const QString &texto) { QTest::keyClicks(QApplication::focusWidget(), texto); }
+    void Entrar() { QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return); }
+    void Escanear(const char *codigo) {
+        Teclas(QLatin1String(codigo));
+        Entrar();
+        Entrar();
+    }
+    QString Linea(int fila, int columna) { return Lista("LVDetalle")->Lista()->Celda(fila, columna); }
+    int Lineas() { return Lista("LVDetalle")->Lista()->Filas(); }
+    void Modo(const char *barra, const char *clave) {
+        Control<QAction>(*C<QToolBar>(barra), clave)->trigger();
+    }
+
+    MundoPrueba mundo;
+    AnfitrionMudo anfitrion;
+    std::unique_ptr<FrmVentas> ventana;
+};
+
+} // namespace tarvo
