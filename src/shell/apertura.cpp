@@ -11,7 +11,7 @@ QString MensajeBloqueada() {
 QString AvisoApertura(const ResultadoApertura &resultado) {
     if (resultado.estado != EstadoApertura::Parcial)
         return {};
-    return QStringLiteral("No se pudo abrir %1: %2").arg(resultado.archivo, resultado.motivo);
+    return QStringLiteral("%1: %2").arg(resultado.archivo, resultado.motivo);
 }
 
 } // namespace tarvo

@@ -71,7 +71,7 @@ TEST(Apertura, OnlyAPartialOpeningGivesAHint) {
     EXPECT_TRUE(AvisoApertura({}).isEmpty());
     EXPECT_EQ(AvisoApertura(
                   {EstadoApertura::Parcial, QStringLiteral("clientes.mdb"), QStringLiteral("está dañado")}),
-              QStringLiteral("No se pudo abrir clientes.mdb: está dañado"));
+              QStringLiteral("clientes.mdb: está dañado"));
 }
 
 // Each message sets off another exception, as a window that can't be painted would.

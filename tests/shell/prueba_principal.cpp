@@ -279,12 +279,34 @@ TEST_F(PrincipalTest, ClosingAsksTheModuleAndThenClosesTheData) {
 
 TEST_F(PrincipalTest, NoticeOfThePartialOpeningComesBackBehindHints) {
     Abrir();
-    frm->PonerAviso(QStringLiteral("No se pudo abrir clientes.mdb: está dañado"));
-    EXPECT_EQ(TextoEstado(), QStringLiteral("No se pudo abrir clientes.mdb: está dañado"));
+    frm->PonerAviso(QStringLiteral("clientes.mdb: está dañado"));
+    EXPECT_EQ(TextoEstado(), QStringLiteral("clientes.mdb: está dañado"));
     Tecla(frm.get(), Qt::Key_F2);
     EXPECT_EQ(TextoEstado(), QStringLiteral("Pulse Enter"));
     Tecla(frm.get(), Qt::Key_F2);
-    EXPECT_EQ(TextoEstado(), QStringLiteral("No se pudo abrir clientes.mdb: está dañado"));
+    EXPECT_EQ(TextoEstado(), QStringLiteral("clientes.mdb: está dañado"));
+}
+
+// The program's own windows, after an opening that failed at its first file.
+TEST_F(PrincipalTest, ModulesOpenEmptyOnClosedData) {
+    composicion = Componer(mundo.servicios());
+    mundo.datos.Cerrar();
+    frm = std::make_unique<FrmPrincipal>(Servicios{mundo.datos.Bases(), mundo.preguntas, mundo.reloj,
+                                                   mundo.impresoras, mundo.ajustes, mundo.escritorio},
+                                         composicion, mundo.datos.Carpeta());
+    frm->Presentar(19200);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(frm.get()));
+    for (const Qt::Key tecla : {Qt::Key_F8, Qt::Key_F2, Qt::Key_F3, Qt::Key_F4}) {
+        Tecla(frm.get(), tecla);
+        const auto *modulo = frm->findChild<VentanaModulo *>();
+        ASSERT_NE(modulo, nullptr);
+        EXPECT_FALSE(modulo->EntradaEnCurso());
+        EXPECT_TRUE(modulo->isAncestorOf(QApplication::focusWidget()) ||
+                    QApplication::focusWidget() == modulo);
+        // No module makes the window grow, nor needs more room than a small screen has.
+        EXPECT_EQ(frm->size(), QSize(800, 600));
+        EXPECT_LE(modulo->minimumSizeHint().width(), 800) << modulo->objectName().toStdString();
+    }
 }
 
 TEST_F(PrincipalTest, StatusBarTellsMakerAndDate) {

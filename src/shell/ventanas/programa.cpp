@@ -7,7 +7,6 @@
 #include "shell/ventanas/frmprincipal.h"
 #include "shell/ventanas/frmsplash.h"
 #include "shell/ventanas/senalfin.h"
-#include "store/errordatos.h"
 #include "store/instalacion.h"
 #include "store/store.h"
 
@@ -41,19 +40,22 @@ int Programa::Ejecutar() {
 
 void Programa::Arrancar() {
     try {
-        const QString datos = PrepararDatos(carpetaPrograma_, carpetaUsuario_);
-        frmBases_ = std::make_unique<FrmBases>(datos, LeerRegional(ajustes_));
-        impresoras_ = std::make_unique<ImpresorasSistema>(reloj_, QFileInfo(datos).path() +
-                                                                      QStringLiteral("/Impresos"));
-    } catch (const ErrorDatos &error) {
-        Abandonar(error.Descripcion(), Icono::Critico);
-        return;
+        const ResultadoApertura resultado = AbrirDatos();
+        if (resultado.estado == EstadoApertura::Bloqueada)
+            Abandonar(MensajeBloqueada(), Icono::Informacion);
+        else
+            MostrarPrincipal(AvisoApertura(resultado));
+    } catch (const std::exception &error) {
+        Abandonar(QString::fromUtf8(error.what()), Icono::Critico);
     }
-    const ResultadoApertura resultado = frmBases_->Abrir();
-    if (resultado.estado == EstadoApertura::Bloqueada)
-        Abandonar(MensajeBloqueada(), Icono::Informacion);
-    else
-        MostrarPrincipal(AvisoApertura(resultado));
+}
+
+ResultadoApertura Programa::AbrirDatos() {
+    const QString datos = PrepararDatos(carpetaPrograma_, carpetaUsuario_);
+    impresoras_ =
+        std::make_unique<ImpresorasSistema>(reloj_, QFileInfo(datos).path() + QStringLiteral("/Impresos"));
+    frmBases_ = std::make_unique<FrmBases>(datos, LeerRegional(ajustes_));
+    return frmBases_->Abrir();
 }
 
 void Programa::MostrarPrincipal(const QString &aviso) {

@@ -16,6 +16,7 @@ class FrmBases;
 class FrmPrincipal;
 class FrmSplash;
 class Impresoras;
+struct ResultadoApertura;
 
 class Programa : public QObject {
     Q_OBJECT
@@ -30,6 +31,7 @@ class Programa : public QObject {
 
   private:
     void Arrancar();
+    ResultadoApertura AbrirDatos();
     void MostrarPrincipal(const QString &aviso);
     void Abandonar(const QString &mensaje, Icono icono);
     void Cerrar();
