@@ -1,6 +1,7 @@
 #include "desktop/ordentexto.h"
 
 #include <algorithm>
+#include <array>
 #include <numeric>
 
 namespace tarvo {
@@ -9,27 +10,70 @@ OrdenTexto::OrdenTexto() : comparador_(QLocale(QLocale::Spanish)) {
     comparador_.setCaseSensitivity(Qt::CaseInsensitive);
 }
 
-std::vector<std::uint32_t> OrdenTexto::Rangos(const ColumnaTexto &columna) const {
-    const auto filas = static_cast<std::size_t>(columna.Filas());
-    std::vector<QCollatorSortKey> claves;
-    claves.reserve(filas);
-    for (std::size_t i = 0; i < filas; ++i)
-        claves.push_back(comparador_.sortKey(columna.Texto(static_cast<std::int64_t>(i))));
+namespace {
 
+// Letters and digits of ASCII in the order of the collator, by their bytes: digits, then letters whatever
+// their case. 0 for all others, whose order takes more than a look at one byte.
+constexpr std::array<unsigned char, 256> kSencillos = [] {
+    std::array<unsigned char, 256> tabla{};
+    for (unsigned char c = '0'; c <= '9'; ++c)
+        tabla[c] = c;
+    for (unsigned char c = 'A'; c <= 'Z'; ++c)
+        tabla[c] = tabla[static_cast<unsigned char>(c + 'a' - 'A')] = c;
+    return tabla;
+}();
+
+unsigned char Peso(char c) {
+    return kSencillos[static_cast<unsigned char>(c)];
+}
+
+// Codes, mostly: a column of them needs no collation keys, which are dear.
+bool TodosSencillos(const ColumnaTexto &columna) {
+    for (std::int64_t i = 0; i < columna.Filas(); ++i) {
+        const std::string_view celda = columna.Celda(i);
+        if (!std::all_of(celda.begin(), celda.end(), [](char c) { return Peso(c) != 0; }))
+            return false;
+    }
+    return true;
+}
+
+bool SencilloMenor(std::string_view a, std::string_view b) {
+    return std::lexicographical_compare(a.begin(), a.end(), b.begin(), b.end(),
+                                        [](char x, char y) { return Peso(x) < Peso(y); });
+}
+
+// Ranks of rows of which `menor` tells whether one stands before another.
+template <typename Menor> std::vector<std::uint32_t> RangosPor(std::size_t filas, Menor menor) {
     std::vector<std::uint32_t> orden(filas);
     std::iota(orden.begin(), orden.end(), 0U);
-    // A merge sort: it compares least, and comparing keys is what takes the time.
-    std::stable_sort(orden.begin(), orden.end(),
-                     [&](std::uint32_t a, std::uint32_t b) { return claves[a].compare(claves[b]) < 0; });
-
+    // Codes often stand in their order already. A merge sort else: it compares least, and comparing is what
+    // takes the time.
+    if (!std::is_sorted(orden.begin(), orden.end(), menor))
+        std::stable_sort(orden.begin(), orden.end(), menor);
     std::vector<std::uint32_t> rangos(filas);
     std::uint32_t rango = 0;
     for (std::size_t i = 1; i < filas; ++i) {
-        if (claves[orden[i - 1]].compare(claves[orden[i]]) != 0)
+        if (menor(orden[i - 1], orden[i]))
             ++rango;
         rangos[orden[i]] = rango;
     }
     return rangos;
+}
+
+} // namespace
+
+std::vector<std::uint32_t> OrdenTexto::Rangos(const ColumnaTexto &columna) const {
+    const auto filas = static_cast<std::size_t>(columna.Filas());
+    if (TodosSencillos(columna))
+        return RangosPor(filas, [&](std::uint32_t a, std::uint32_t b) {
+            return SencilloMenor(columna.Celda(a), columna.Celda(b));
+        });
+    std::vector<QCollatorSortKey> claves;
+    claves.reserve(filas);
+    for (std::size_t i = 0; i < filas; ++i)
+        claves.push_back(comparador_.sortKey(columna.Texto(static_cast<std::int64_t>(i))));
+    return RangosPor(filas,
+                     [&](std::uint32_t a, std::uint32_t b) { return claves[a].compare(claves[b]) < 0; });
 }
 
 std::vector<std::uint32_t> Permutacion(const std::vector<std::uint32_t> &rangos, Qt::SortOrder orden) {

@@ -62,6 +62,7 @@ ReglasDetalle ReglasDe(FrmBases &bases) {
         .id = bases.camArtId,
         .campos = CamposDe(bases),
         .columnas = ColumnasDe(bases),
+        .apoyo = {&bases.camArtIdTipoIVA},
         .columnasBusqueda = {kCodigo, kNombre},
         .duplicados = {{kCodigo, ArticulosLogica::kCodigo,
                         QStringLiteral("El código ingresado ya existe en la base de datos.")},

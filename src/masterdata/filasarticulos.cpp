@@ -96,9 +96,6 @@ Tono TonoDeStock(double stock) {
 } // namespace
 
 ContenidoLista LeerArticulos(FrmBases &bases, int filtro) {
-    bases.datArticulos.Cargar({&bases.camArtCodigo, &bases.camArtNombre, &bases.camArtStock,
-                               &bases.camArtPCompra, &bases.camArtSubtotal, &bases.camArtIdTipoIVA,
-                               &bases.camArtIdCategoria1});
     Filas filas;
     if (filtro != kTodas)
         filas = FilasCon(bases, filtro);

@@ -65,6 +65,7 @@ void ListaDetalle::LlenarLista() {
 void ListaDetalle::Llenar() {
     indice_.Olvidar();
     idMostrado_.clear();
+    CargarColumnas();
     if (reglas_.cursor.RecordCount() == 0) {
         lista_.Limpiar();
         PasarAVacia();
@@ -82,6 +83,16 @@ void ListaDetalle::Llenar() {
     if (reglas_.enfocarAlLlenar)
         vista_.EnfocarLista();
     Mostrar();
+}
+
+// All columns in one pass over the table.
+void ListaDetalle::CargarColumnas() {
+    std::vector<const Campo *> campos = reglas_.apoyo;
+    for (const ColumnaDetalle &columna : reglas_.columnas) {
+        if (columna.campo != nullptr)
+            campos.push_back(columna.campo);
+    }
+    reglas_.cursor.Cargar(campos);
 }
 
 ContenidoLista ListaDetalle::LeerFilas() {

@@ -50,6 +50,7 @@ struct ReglasDetalle {
     Campo &id;
     std::vector<CampoDetalle> campos{};
     std::vector<ColumnaDetalle> columnas{};    // the one of `id` is the hidden key of the row
+    std::vector<const Campo *> apoyo{};        // read with the columns, for what is computed from them
     std::vector<int> columnasBusqueda{};       // column of chkBuscarPor(0), (1), ...
     std::vector<PruebaDuplicado> duplicados{}; // tested together, row by row
     QString indice{};                          // named for Seek; empty: the table has none
@@ -142,6 +143,7 @@ class ListaDetalle {
 
   private:
     void Llenar();
+    void CargarColumnas();
     bool Posicionar(const QString &id);
     void PasarAVacia();
     void PasarAViendo();

@@ -24,7 +24,7 @@ std::string_view Campo::Utf8() const {
     if (posicion_ < 0)
         return TextoId();
     if (!d.memoria.ConColumna(posicion_))
-        cursor_->Cargar({posicion_});
+        cursor_->CargarPosiciones({posicion_});
     return d.fila < d.memoria.Filas() ? d.memoria.Celda(posicion_, d.fila) : std::string_view();
 }
 
@@ -64,7 +64,7 @@ void Campo::Poner(const QString &texto) {
 
 const ColumnaTexto &Campo::Columna() const {
     if (cursor_->conexion_)
-        cursor_->Cargar({posicion_});
+        cursor_->CargarPosiciones({posicion_});
     return cursor_->d_->memoria.Columna(posicion_);
 }
 

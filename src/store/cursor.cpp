@@ -135,14 +135,14 @@ bool Cursor::IrAId(const QString &texto) {
     return fila >= 0;
 }
 
-void Cursor::Cargar(std::initializer_list<const Campo *> campos) {
+void Cursor::Cargar(const std::vector<const Campo *> &campos) {
     std::vector<int> posiciones;
     for (const Campo *campo : campos)
         posiciones.push_back(campo->posicion_);
-    Cargar(posiciones);
+    CargarPosiciones(posiciones);
 }
 
-void Cursor::Cargar(const std::vector<int> &posiciones) {
+void Cursor::CargarPosiciones(const std::vector<int> &posiciones) {
     if (conexion_)
         d_->memoria.Cargar(*conexion_, posiciones);
 }

@@ -11,7 +11,6 @@
 
 #include <QString>
 
-#include <initializer_list>
 #include <memory>
 #include <string>
 #include <vector>
@@ -92,7 +91,7 @@ class Cursor {
     // The `id` that the engine gave to the row that this cursor committed last; empty before the first.
     QString UltimoId() const;
     // Loads these columns in one pass over the table, as far as they aren't in memory yet.
-    void Cargar(std::initializer_list<const Campo *> campos);
+    void Cargar(const std::vector<const Campo *> &campos);
     const char *Tabla() const { return tabla_; }
 
     // --- for the data layer
@@ -114,7 +113,7 @@ class Cursor {
     friend class Campo;
     struct Datos;
     std::int64_t Filas();
-    void Cargar(const std::vector<int> &posiciones);
+    void CargarPosiciones(const std::vector<int> &posiciones);
     void Guardar();
     void GuardarNueva();
     void GuardarEdicion();

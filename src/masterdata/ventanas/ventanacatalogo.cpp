@@ -57,6 +57,7 @@ void VentanaCatalogo::Montar(std::unique_ptr<ListaDetalle> logica) {
     LV().Mostrar(&lista);
     connect(&lista, &QAbstractItemModel::modelReset, this, [this] { AjustarColumnas(); });
     connect(&lista, &QAbstractItemModel::rowsInserted, this, [this] { AjustarColumnas(); });
+    LV().viewport()->installEventFilter(this);
     connect(&LV(), &ListaVista::FilaPulsada, this, [this] { logica_->Mostrar(); });
     filtro_->AlSuprimir(&LV(), [this] {
         if (logica_->Lista().Filas() > 0)
@@ -66,6 +67,7 @@ void VentanaCatalogo::Montar(std::unique_ptr<ListaDetalle> logica) {
     OrdenarTabulacion();
     ConectarBotones();
     ConectarBusqueda();
+    EnfocarLista();
 }
 
 void VentanaCatalogo::Montar(const ReglasDetalle &reglas, Anfitrion &anfitrion) {
@@ -142,9 +144,8 @@ void VentanaCatalogo::ConectarBoton(QPushButton *boton, void (ListaDetalle::*acc
 
 void VentanaCatalogo::ConectarBotones() {
     const std::initializer_list<std::pair<QPushButton *, const char *>> iconos = {
-        {ui_->cmdNuevo, "nuevo"},           {ui_->cmdGuardar, "guardar"},   {ui_->cmdEliminar, "eliminar"},
-        {ui_->cmdActualizar, "actualizar"}, {ui_->cmdCancelar, "cancelar"}, {ui_->cmdBuscar, "buscar"},
-        {ui_->cmdImprimir, "imprimir"}};
+        {ui_->cmdNuevo, "nuevo"},       {ui_->cmdEliminar, "eliminar"}, {ui_->cmdActualizar, "actualizar"},
+        {ui_->cmdCancelar, "cancelar"}, {ui_->cmdBuscar, "buscar"},     {ui_->cmdImprimir, "imprimir"}};
     for (const auto &[boton, icono] : iconos)
         boton->setIcon(IconoDe(QString::fromUtf8(icono)));
     ConectarBoton(ui_->cmdNuevo, &ListaDetalle::Nuevo);
@@ -224,10 +225,15 @@ int VentanaCatalogo::AnchoListaTwips() const {
     return LV().viewport()->width() * kTwipsPorPunto;
 }
 
+// The list gets its new width after the window.
+bool VentanaCatalogo::eventFilter(QObject *objeto, QEvent *evento) {
+    if (evento->type() == QEvent::Resize && objeto == LV().viewport())
+        AjustarColumnas();
+    return VentanaModulo::eventFilter(objeto, evento);
+}
+
 void VentanaCatalogo::resizeEvent(QResizeEvent *evento) {
     VentanaModulo::resizeEvent(evento);
-    if (logica_)
-        AjustarColumnas();
     ColocarPaneles();
 }
 

@@ -80,6 +80,7 @@ class VentanaCatalogo : public VentanaModulo, public VistaDetalle {
     void EnfocarLista() override;
     void MostrarBotones(const Botones &botones) override;
 
+    bool eventFilter(QObject *objeto, QEvent *evento) override;
     void resizeEvent(QResizeEvent *evento) override;
     void closeEvent(QCloseEvent *evento) override;
 
