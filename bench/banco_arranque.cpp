@@ -1,0 +1,140 @@
+// From the end of the splash to the main window, and what the program then weighs: the real program as a
+// process, on a shop of 100,000 articles and 1,000,000 documents and, as the limit, on an empty one.
+//
+// Needs a display without a window manager: xvfb-run -a build/release/bench/banco_arranque [articles
+// documents]
+#include "tienda/tienda.h"
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTextStream>
+#include <QThread>
+
+#include <xcb/xcb.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <memory>
+#include <stdexcept>
+#include <vector>
+
+using namespace tarvo;
+
+namespace {
+
+constexpr int kSplash = 5000;       // ms
+constexpr int kAltoPrincipal = 450; // pixels; the splash is lower
+constexpr int kVeces = 3;
+
+// Tells when a window comes onto the screen.
+class Vigia {
+  public:
+    Vigia() : servidor_(xcb_connect(nullptr, nullptr)) {
+        if (xcb_connection_has_error(servidor_) != 0)
+            throw std::runtime_error("no display");
+        const xcb_window_t raiz = xcb_setup_roots_iterator(xcb_get_setup(servidor_)).data->root;
+        const std::uint32_t eventos = XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY;
+        xcb_change_window_attributes(servidor_, raiz, XCB_CW_EVENT_MASK, &eventos);
+        xcb_flush(servidor_);
+    }
+    ~Vigia() { xcb_disconnect(servidor_); }
+    Vigia(const Vigia &) = delete;
+    Vigia &operator=(const Vigia &) = delete;
+
+    // Waits for a window of at least this height that becomes visible.
+    void Esperar(int alto) {
+        while (const std::unique_ptr<xcb_generic_event_t, decltype(&std::free)> evento{
+            xcb_wait_for_event(servidor_), &std::free}) {
+            if ((evento->response_type & 0x7f) == XCB_MAP_NOTIFY &&
+                Alto(reinterpret_cast<xcb_map_notify_event_t *>(evento.get())->window) >= alto)
+                return;
+        }
+        throw std::runtime_error("the display is gone");
+    }
+
+  private:
+    int Alto(xcb_window_t ventana) {
+        const std::unique_ptr<xcb_get_geometry_reply_t, decltype(&std::free)> medidas{
+            xcb_get_geometry_reply(servidor_, xcb_get_geometry(servidor_, ventana), nullptr), &std::free};
+        return medidas ? medidas->height : 0;
+    }
+    xcb_connection_t *servidor_;
+};
+
+struct Medida {
+    qint64 ms = 0;
+    int megas = 0;
+};
+
+int Memoria(qint64 proceso) {
+    QFile estado(QStringLiteral("/proc/%1/status").arg(proceso));
+    if (!estado.open(QIODevice::ReadOnly))
+        return 0;
+    const QByteArray texto = estado.readAll();
+    const qsizetype lugar = texto.indexOf("VmRSS:") + 6;
+    return texto.mid(lugar, texto.indexOf("kB", lugar) - lugar).trimmed().toInt() / 1024;
+}
+
+Medida Arrancar(const QString &carpeta) {
+    Vigia vigia;
+    QProcess programa;
+    QProcessEnvironment entorno = QProcessEnvironment::systemEnvironment();
+    entorno.insert(QStringLiteral("XDG_CONFIG_HOME"), carpeta);
+    programa.setProcessEnvironment(entorno);
+    programa.setStandardErrorFile(QProcess::nullDevice());
+    programa.start(carpeta + QStringLiteral("/tarvo"), QStringList());
+    vigia.Esperar(200);
+    QElapsedTimer reloj;
+    reloj.start();
+    vigia.Esperar(kAltoPrincipal);
+    Medida medida{reloj.elapsed() - kSplash, 0};
+    QThread::msleep(500); // until it is painted
+    medida.megas = Memoria(programa.processId());
+    programa.kill();
+    programa.waitForFinished();
+    return medida;
+}
+
+// The middle one of several starts.
+Medida Medir(const char *nombre, const MedidaTienda &tamano) {
+    const QTemporaryDir carpeta;
+    HacerTienda(carpeta.path(), tamano, QDate(2026, 11, 22));
+    if (!QFile::copy(QCoreApplication::applicationDirPath() + QStringLiteral("/../tarvo"),
+                     carpeta.filePath(QStringLiteral("tarvo"))))
+        throw std::runtime_error("build the program first");
+    std::vector<Medida> medidas;
+    for (int i = 0; i < kVeces; ++i)
+        medidas.push_back(Arrancar(carpeta.path()));
+    std::sort(medidas.begin(), medidas.end(), [](const Medida &a, const Medida &b) { return a.ms < b.ms; });
+    const Medida mediana = medidas[kVeces / 2];
+    QTextStream(stdout) << nombre << ": " << mediana.ms << " ms behind the splash, " << mediana.megas
+                        << " MB\n";
+    return mediana;
+}
+
+} // namespace
+
+int main(int argc, char **argv) {
+    const QCoreApplication aplicacion(argc, argv);
+    MedidaTienda grande{100000, 5000, 1000000};
+    if (argc == 3) {
+        grande.articulos = std::atoi(argv[1]);
+        grande.ventas = std::atoi(argv[2]);
+    }
+    try {
+        const Vigia siempre; // a display without any client resets itself
+        const Medida limite = Medir("empty shop", {0, 0, 0});
+        const Medida medida = Medir("large shop", grande);
+        QTextStream(stdout) << "large / empty: "
+                            << static_cast<double>(medida.ms) /
+                                   static_cast<double>(std::max<qint64>(limite.ms, 1))
+                            << "\n";
+    } catch (const std::exception &error) {
+        QTextStream(stderr) << error.what() << "\n";
+        return 1;
+    }
+    return 0;
+}
