@@ -251,6 +251,16 @@ TEST_P(Catalogos, SearchAdvancesItsStartRowByOneAndLeavesTheFields) {
     Confirmar("eliminar", Respuesta::Si);
     Click("cmdEliminar");
     EXPECT_EQ(Codigos(), QStringList({u"10"_qs, u"2"_qs}));
+    Click("cmdBuscar");
+    Teclear(C("txtArtBuscar"), u"banana"_qs);
+    Click("cmdBuscarArt");
+    EXPECT_EQ(LV()->FilaActual(), 1);
+    Click("cmdCancelarArt");
+    Teclear(C("txtCodigo"), u"0"_qs);
+    Confirmar("modificar", Respuesta::Si);
+    Click("cmdGuardar");
+    EXPECT_EQ(Tabla()[1], (std::vector<QString>{u"0"_qs, u"Ana"_qs}));
+    EXPECT_EQ(Codigos(), QStringList({u"0"_qs, u"2"_qs}));
 }
 
 TEST_P(Catalogos, EscapeGivesUpANewRowAndClosingAsks) {

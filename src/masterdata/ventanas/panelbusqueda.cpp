@@ -12,6 +12,7 @@ PanelBusqueda::PanelBusqueda(const QStringList &criterios, QWidget *padre)
     txtArtBuscar = ui_->txtArtBuscar;
     cmdBuscarArt = ui_->cmdBuscarArt;
     cmdCancelarArt = ui_->cmdCancelarArt;
+    txtArtBuscar->setMinimumWidth(45 * fontMetrics().averageCharWidth());
     QWidget *anterior = txtArtBuscar;
     for (const QString &criterio : criterios) {
         auto *casilla = new QCheckBox(criterio, this);

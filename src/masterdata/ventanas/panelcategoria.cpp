@@ -11,6 +11,7 @@ PanelCategoria::PanelCategoria(QWidget *padre) : QFrame(padre), ui_(std::make_un
     txtCatCategoria = ui_->txtCatCategoria;
     cmdCatGuardar = ui_->cmdCatGuardar;
     cmdCatCancelar = ui_->cmdCatCancelar;
+    txtCatCategoria->setMinimumWidth(40 * fontMetrics().averageCharWidth());
     SoloCaracteres(txtCatCodigo, QStringLiteral("0123456789"));
     hide();
 }
