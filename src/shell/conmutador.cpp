@@ -263,10 +263,12 @@ void Conmutador::mnuFactura() {
     mnuOpciones();
 }
 
-// Closes the module of the first pressed button, with its questions; false when the operator refused.
+// Closes the module of the first pressed button, with its questions; false when the operator refused. A
+// button that stayed pressed after a refusal, with its module closed, is passed over: the module that is open
+// must not stay behind the dialog.
 bool Conmutador::Despejar(const Dialogo &dialogo) {
     for (const Modulo modulo : kOrdenDialogos) {
-        if (tablero_.BotonPresionado(DatosDe(modulo).boton))
+        if (tablero_.BotonPresionado(DatosDe(modulo).boton) && Marcado(modulo))
             return DespejarModulo(modulo, dialogo);
     }
     return true;

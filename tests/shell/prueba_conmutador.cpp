@@ -266,12 +266,32 @@ TEST(ConmutadorDialogos, OpenAtOnceWithNoModuleOrWithStatistics) {
     }
 }
 
-TEST(ConmutadorDialogos, ActOnTheFirstPressedButton) {
-    MesaPrueba mesa;
-    mesa.Abierta(Articulos, true);
-    mesa.presionados += QStringLiteral("ventas"); // as a refused sale leaves it
-    mesa.conmutador.mnuOpciones();
-    EXPECT_EQ(mesa.preguntadas, QStringList{QString::fromUtf8(kDialogos[0].opciones)});
+// A refusal leaves a button pressed beside that of the open module, before or behind it in the toolbar.
+TEST(ConmutadorDialogos, CloseTheOpenModuleBesideAStrayButton) {
+    struct Caso {
+        Modulo abierta;
+        Modulo rechazada;
+    };
+    for (const Caso &caso : {Caso{Articulos, Ventas}, {Articulos, Estados}, {Proveedores, Stats}}) {
+        for (const bool opciones : {true, false}) {
+            SCOPED_TRACE(Nombre(caso.abierta) + " in progress, " + Nombre(caso.rechazada) + " refused");
+            MesaPrueba mesa;
+            mesa.Abierta(caso.abierta, true);
+            mesa.PorClic(caso.rechazada);
+            mesa.Tick();
+            ASSERT_EQ(mesa.presionados.size(), 2);
+            for (const Respuesta respuesta : {Respuesta::No, Respuesta::Si}) {
+                mesa.preguntadas.clear();
+                mesa.respuesta = respuesta;
+                opciones ? mesa.conmutador.mnuOpciones() : mesa.conmutador.mnuRespaldar();
+                EXPECT_EQ(mesa.preguntadas, QStringList{DatosDe(caso.abierta).alSalir});
+                EXPECT_EQ(mesa.abiertas.isEmpty(), respuesta == Respuesta::Si);
+                EXPECT_EQ(
+                    mesa.hechos.contains(opciones ? QStringLiteral("opciones") : QStringLiteral("respaldo")),
+                    respuesta == Respuesta::Si);
+            }
+        }
+    }
 }
 
 TEST(ConmutadorDialogos, DesignerIsAskedForOnceOnly) {
