@@ -116,6 +116,23 @@ TEST(FiltroCampos, TheFocusIsToldOnceAndNotWhileAnotherWindowAsks) {
     EXPECT_EQ(hechos.join(u' '), u"+cboxDos -cboxDos +DTPTres");
 }
 
+// Ctrl+A stands for any letter that is an editing key of a field and a shortcut of the window.
+TEST(FiltroCampos, AShortcutOfTheWindowIsNotTakenByAField) {
+    VentanaDeCampos ventana;
+    auto *entrada = new QAction(&ventana);
+    ventana.addAction(entrada);
+    entrada->setShortcut(Qt::CTRL | Qt::Key_A);
+    QSignalSpy elegida(entrada, &QAction::triggered);
+    ventana.txtUno->deselect();
+    Tecla(ventana.txtUno, Qt::Key_A, Qt::ControlModifier);
+    EXPECT_EQ(elegida.size(), 1);
+    EXPECT_FALSE(ventana.txtUno->hasSelectedText());
+    entrada->setEnabled(false);
+    Tecla(ventana.txtUno, Qt::Key_A, Qt::ControlModifier);
+    EXPECT_EQ(elegida.size(), 1);
+    EXPECT_EQ(ventana.txtUno->selectedText(), u"uno") << "a key without an entry edits";
+}
+
 TEST(FiltroCampos, EscapeIsOfferedOncePerStrokeFromAnyControl) {
     VentanaDeCampos ventana;
     int veces = 0;

@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QAbstractSpinBox>
+#include <QAction>
 #include <QApplication>
 #include <QCheckBox>
 #include <QChildEvent>
@@ -36,6 +37,18 @@ void PasarAlSiguiente(QWidget *control) {
     const int partes = qobject_cast<QAbstractSpinBox *>(control) != nullptr ? 4 : 1;
     for (int i = 0; i == 0 || (i < partes && control->hasFocus()); ++i) {
         QKeyEvent tabulador(QEvent::KeyPress, Qt::Key_Tab, Qt::NoModifier);
+// A key with Ctrl that the window has given to one of its entries. Fields would take some of these letters as
+// editing keys before the entry could get them.
+bool EsAtajo(const QWidget &control, const QKeyEvent &evento) {
+    if ((evento.modifiers() & Qt::ControlModifier) == 0)
+        return false;
+    const QKeySequence tecla(evento.keyCombination());
+    const QList<QAction *> acciones = control.window()->findChildren<QAction *>();
+    return std::any_of(acciones.begin(), acciones.end(), [&tecla](const QAction *accion) {
+        return accion->isEnabled() && accion->shortcut() == tecla;
+    });
+}
+
         QCoreApplication::sendEvent(control, &tabulador);
     }
 }
@@ -114,6 +127,11 @@ bool FiltroCampos::eventFilter(QObject *objeto, QEvent *evento) {
         if (auto *campo = qobject_cast<QLineEdit *>(recibe);
             campo != nullptr && campo == porRaton_ && !campo->hasSelectedText())
             campo->selectAll();
+        escapeVisto_ = false;
+        if (!EsAtajo(*recibe, *static_cast<QKeyEvent *>(evento)))
+            return false;
+        evento->ignore();
+        return true;
         porRaton_ = nullptr;
         return false;
     default:
