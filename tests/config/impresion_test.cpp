@@ -18,6 +18,11 @@ class Impresion : public OpcionesPrueba {
   protected:
     void AbrirPanel() {
         Abrir();
+    void PulsarNodo(int nodo) {
+        auto *arbol = Control<QTreeView>(*ventana, "TVOpciones");
+        const QRect lugar = arbol->visualRect(arbol->model()->index(nodo, 0));
+        QTest::mouseClick(arbol->viewport(), Qt::LeftButton, {}, lugar.center());
+    }
         ElegirNodo(kNodoImpresion);
     }
     QString CantLineas() { return Filas("SELECT cantlineas FROM Factura"); }
@@ -74,6 +79,18 @@ TEST_F(Impresion, MoreThanThirtyLinesAreRefusedOnLeavingTheField) {
     AbrirPanel();
     const char *mensaje = "La cantidad de lineas de detalle debe ser menor o igual a 30.";
     Teclear("txtLinDetalle", "31");
+    EXPECT_EQ(Campo("txtLinDetalle")->selectedText(), QStringLiteral("30"));
+
+    Teclear("txtLinDetalle", "31");
+    EsperaMensaje(mensaje);
+    PulsarNodo(0);
+    EXPECT_EQ(CantLineas(), QStringLiteral("30"));
+    EXPECT_EQ(ConFoco(), QStringLiteral("txtLinDetalle"));
+    EXPECT_EQ(Campo("txtLinDetalle")->selectedText(), QStringLiteral("30"));
+    PulsarNodo(0);
+    EXPECT_TRUE(Control<QWidget>(*ventana, "frImpuestos")->isVisible());
+    PulsarNodo(kNodoImpresion);
+    Campo("txtLinDetalle")->setFocus();
     EXPECT_EQ(CantLineas(), QStringLiteral("31")); // written while it is typed
     EsperaMensaje(mensaje);
     Tecla(Campo("txtLinDetalle"), Qt::Key_Return);

@@ -52,6 +52,7 @@ void FrmConfig::CrearArbol() {
         arbol_->appendRow(fila);
     }
     ui_->TVOpciones->setModel(arbol_);
+    ui_->TVOpciones->viewport()->installEventFilter(this);
     connect(ui_->TVOpciones->selectionModel(), &QItemSelectionModel::currentChanged, this,
             [this](const QModelIndex &nodo) { MostrarPanel(nodo.row()); });
 }
@@ -101,6 +102,14 @@ void FrmConfig::MostrarTicket(bool visible) {
 
 void FrmConfig::done(int resultado) {
     if (frImpresion->EnDetalle() && !frImpresion->PermiteSalirDeDetalle())
+// A click gives the tree the focus before the tree sees it. When the field of the detail lines has taken the
+// focus back by then, its panel stays.
+bool FrmConfig::eventFilter(QObject *objeto, QEvent *evento) {
+    const bool clic =
+        evento->type() == QEvent::MouseButtonPress || evento->type() == QEvent::MouseButtonDblClick;
+    return (clic && frImpresion->EnDetalle()) || QDialog::eventFilter(objeto, evento);
+}
+
         return;
     QDialog::done(resultado);
 }

@@ -33,6 +33,7 @@ class FrmConfig : public QDialog {
     void done(int resultado) override;
 
   protected:
+    bool eventFilter(QObject *objeto, QEvent *evento) override;
     void keyPressEvent(QKeyEvent *evento) override;
 
   private:

@@ -72,11 +72,17 @@ bool PanelImpresion::PermiteSalirDeDetalle() {
         return true;
     ui_->txtLinDetalle->setText(QString::number(LineasDetalle::kMaximo));
     ui_->txtLinDetalle->setFocus();
+    ui_->txtLinDetalle->selectAll();
     return false;
 }
 
+// Also while the window isn't active again, just after a message.
 bool PanelImpresion::EnDetalle() const {
-    return ui_->txtLinDetalle->hasFocus();
+    return window()->focusWidget() == ui_->txtLinDetalle;
+}
+
+void PanelImpresion::EnfocarLineasTicket() {
+    ui_->cmdLineasTicket->setFocus();
 }
 
 void PanelImpresion::AgregarImpresora() {
