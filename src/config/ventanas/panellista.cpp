@@ -79,7 +79,8 @@ void PanelLista::HabilitarLista(bool habilitada) {
 }
 
 void PanelLista::EnfocarLista() {
-    if (panel_->isVisible())
+    // The first fill comes before the window is on screen.
+    if (panel_->isVisibleTo(panel_->window()))
         vista_->setFocus();
 }
 
