@@ -134,29 +134,6 @@ TEST(Listado, Customers) {
 )");
 }
 
-TEST(Listado, Suppliers) {
-    QObject padre;
-    const ListaTexto *lista =
-        Lista(padre, {{QStringLiteral("P1"), QStringLiteral("Molino"), QStringLiteral("Molino SRL"),
-                       QStringLiteral("21"), QStringLiteral("099 123 456"), QStringLiteral("7")}});
-    ImpresorasPrueba impresoras;
-    const SuperficieGrabada *papel = Imprimir(impresoras, ReporteProveedores(*lista), lista->Filas());
-    EXPECT_EQ(papel->Volcado().toStdString(), R"(
-                          [13][n]LISTADO DE PROVEEDORES
-                          ----------------------
-
-[/n]Hoja    [n] 1 de 1 
-
-[10][/n]-----------------------------------------------------------------------------------------------
-  Código   Nombre                    Nombre Fiscal             Id. Fiscal            Teléfono
-
-  P1       Molino                    Molino SRL                21                099 123 456
-
-
-                                            [13][n]Cantidad de proveedores: 1
-)");
-}
-
 // The price is the purchase price, and a long name pushes the stock to the next line.
 TEST(Listado, Articles) {
     QObject padre;
@@ -185,17 +162,8 @@ TEST(Listado, Articles) {
 )");
 }
 
-TEST(Listado, NoPrintsNothing) {
-    QObject padre;
-    ImpresorasPrueba impresoras;
-    PreguntasGuion preguntas;
-    preguntas.Espera(QStringLiteral("Desea imprimir el listado de clientes?"), Respuesta::Si, Respuesta::No);
-    EXPECT_FALSE(ImprimirReporte(impresoras, preguntas, ReporteClientes(*Lista(padre, {})), 0));
-    EXPECT_TRUE(impresoras.documentos.empty());
-}
-
-// Only the articles' message has a full stop.
-TEST(Listado, FailuresAreTold) {
+// Suppliers print as customers do, under their own title. Only the articles' message has a full stop.
+TEST(Listado, EachReportAsksAndTellsItsFailures) {
     QObject padre;
     const ListaTexto &lista = *Lista(padre, {});
     const struct {
@@ -227,5 +195,14 @@ TEST(Listado, FailuresAreTold) {
         preguntas.Espera(caso.pregunta, Respuesta::Si, Respuesta::Si);
         preguntas.EsperaMensaje(caso.mensaje, Icono::Informacion);
         EXPECT_FALSE(ImprimirReporte(impresoras, preguntas, roto, 1));
+        const std::size_t antes = impresoras.documentos.size();
+        preguntas.Espera(caso.pregunta, Respuesta::Si, Respuesta::No);
+        EXPECT_FALSE(ImprimirReporte(impresoras, preguntas, caso.reporte, 0));
+        EXPECT_EQ(impresoras.documentos.size(), antes);
     }
+    ImpresorasPrueba impresoras;
+    const QString papel = Imprimir(impresoras, ReporteProveedores(lista), 0)->Lineas().join(u'\n');
+    EXPECT_TRUE(
+        papel.startsWith(QString(26, u' ').prepend(u'\n') + QStringLiteral("LISTADO DE PROVEEDORES")));
+    EXPECT_TRUE(papel.endsWith(QStringLiteral("Cantidad de proveedores: 0")));
 }

@@ -180,6 +180,7 @@ TEST(Cortar, KeepsSurrogatesTogether) {
     EXPECT_EQ(Cortar(QStringLiteral("a😀c"), 3), QStringLiteral("a😀"));
 }
 
+// A column that the head has passed lies on the next line, a position is told in twips.
 TEST_F(Papel, AmountsEndFlushWithTheRule) {
     const auto papel = Pintada(80, 200, {39, 8});
     papel->Tamano(8);
@@ -192,19 +193,18 @@ TEST_F(Papel, AmountsEndFlushWithTheRule) {
     EXPECT_NEAR(Derecha(1), Derecha(0), 1);
     EXPECT_NEAR(Derecha(2), Derecha(0), 1);
     EXPECT_LT(motor.pintados[0].lugar.y(), motor.pintados[1].lugar.y());
-}
-
-TEST_F(Papel, PassedColumnGoesToTheNextLine) {
-    const auto papel = Pintada();
     papel->Texto(QString(20, u'x'));
     papel->Columna(20);
     papel->Texto(QStringLiteral("a"));
     papel->Columna(20);
     papel->Texto(QStringLiteral("b"));
-    ASSERT_EQ(motor.pintados.size(), 3u);
-    EXPECT_EQ(motor.pintados[1].lugar.y(), motor.pintados[0].lugar.y());
-    EXPECT_GT(motor.pintados[2].lugar.y(), motor.pintados[0].lugar.y());
-    EXPECT_EQ(motor.pintados[2].lugar.x(), motor.pintados[1].lugar.x());
+    EXPECT_EQ(motor.pintados[4].lugar.y(), motor.pintados[3].lugar.y());
+    EXPECT_GT(motor.pintados[5].lugar.y(), motor.pintados[3].lugar.y());
+    EXPECT_EQ(motor.pintados[5].lugar.x(), motor.pintados[4].lugar.x());
+    papel->Posicion(720, 1440);
+    papel->Texto(QStringLiteral("c"));
+    EXPECT_NEAR(motor.pintados[6].lugar.x(), 600, 1); // dots, 1200 to the inch
+    EXPECT_NEAR(motor.pintados[6].lugar.y(), 1200 + 80, 80);
 }
 
 // Ninety-five columns at size 10 take the whole of an A4 sheet; narrower paper gets everything smaller.
@@ -227,15 +227,6 @@ TEST_F(Papel, FullPageGoesOnOnTheNextOne) {
     EXPECT_EQ(motor.pintados.back().pagina, 2);
     for (const Pintado &pintado : motor.pintados)
         EXPECT_LE(pintado.lugar.y(), altoHoja) << pintado.texto.toStdString();
-}
-
-TEST_F(Papel, PositionsAreTwips) {
-    const auto papel = Pintada();
-    papel->Posicion(1440, 2880);
-    papel->Texto(QStringLiteral("x"));
-    EXPECT_NEAR(motor.pintados[0].lugar.x(), 1200, 1); // dots, 1200 to the inch
-    EXPECT_GT(motor.pintados[0].lugar.y(), 2400);
-    EXPECT_LT(motor.pintados[0].lugar.y(), 2400 + 200);
 }
 
 TEST_F(Papel, PrinterThatRefusesIsAnError) {
@@ -325,25 +316,22 @@ TEST(Pdf, WhatCannotBeWrittenLeavesNoFile) {
 
 TEST(Impresoras, ChosenByPurpose) {
     QTemporaryDir carpeta;
+    QSettings ajustes(carpeta.filePath(QStringLiteral("ajustes.ini")), QSettings::IniFormat);
     const struct {
-        const char *impTick;
-        const char *impList;
-        Proposito proposito;
-        QString actual;
-    } casos[] = {
-        {"", "", Proposito::Ticket, QStringLiteral("Láser")},
-        {"Tickets", "PDF", Proposito::Ticket, QStringLiteral("Tickets")},
-        {"Tickets", "PDF", Proposito::Listado, QStringLiteral("PDF")},
-        {"Vendida", "tickets", Proposito::Ticket, QStringLiteral("Láser")},
-        {"Vendida", "tickets", Proposito::Listado, QStringLiteral("Láser")},
-    };
+        const char *impTick, *impList, *ticket, *listado;
+    } casos[] = {{"", "", "Láser", "Láser"},
+                 {"Tickets", "PDF", "Tickets", "PDF"},
+                 {"Vendida", "tickets", "Láser", "Láser"}};
     for (const auto &caso : casos) {
-        QSettings ajustes(carpeta.filePath(QStringLiteral("ajustes.ini")), QSettings::IniFormat);
         ajustes.setValue("ImpTick", QString::fromUtf8(caso.impTick));
         ajustes.setValue("ImpList", QString::fromUtf8(caso.impList));
-        ImpresorasPrueba impresoras;
-        EXPECT_EQ(ElegirImpresora(impresoras, ajustes, caso.proposito), caso.actual);
-        EXPECT_EQ(impresoras.actual, caso.actual);
+        for (const bool ticket : {true, false}) {
+            ImpresorasPrueba impresoras;
+            const QString esperada = QString::fromUtf8(ticket ? caso.ticket : caso.listado);
+            EXPECT_EQ(ElegirImpresora(impresoras, ajustes, ticket ? Proposito::Ticket : Proposito::Listado),
+                      esperada);
+            EXPECT_EQ(impresoras.actual, esperada);
+        }
     }
 }
 
