@@ -48,13 +48,6 @@ TEST_F(Ventana, TheTreeShowsOnePanelUnderItsTitle) {
         EXPECT_EQ(PanelesVisibles(), QString::fromUtf8(nodo.panel));
         EXPECT_EQ(Titulo(), QString::fromUtf8(nodo.titulo));
         Tecla(arbol, Qt::Key_Down);
-TEST_F(Ventana, TheListOfTheFirstPanelHasTheFocusAtTheOpening) {
-    Sql("INSERT INTO Iva (codigo, tipo, porcentaje) VALUES ('1', 'Normal', '22')");
-    Sql("INSERT INTO Vendedores (codigo, nombre) VALUES ('1', 'Ana')");
-    Abrir();
-    EXPECT_EQ(ConFoco(), QStringLiteral("LVIVA"));
-}
-
     }
 }
 
@@ -62,6 +55,13 @@ TEST_F(Ventana, TheRequestForTheDesignerStartsOnThePrintPanel) {
     Abrir(true);
     EXPECT_EQ(PanelesVisibles(), QStringLiteral("frImpresion"));
     EXPECT_EQ(Titulo(), QStringLiteral("Configuración de impresión"));
+}
+
+TEST_F(Ventana, TheListOfTheFirstPanelHasTheFocusAtTheOpening) {
+    Sql("INSERT INTO Iva (codigo, tipo, porcentaje) VALUES ('1', 'Normal', '22')");
+    Sql("INSERT INTO Vendedores (codigo, nombre) VALUES ('1', 'Ana')");
+    Abrir();
+    EXPECT_EQ(ConFoco(), QStringLiteral("LVIVA"));
 }
 
 TEST_F(Ventana, ASellerIsEnteredWithTheKeyboardAlone) {

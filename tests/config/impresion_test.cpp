@@ -18,12 +18,12 @@ class Impresion : public OpcionesPrueba {
   protected:
     void AbrirPanel() {
         Abrir();
+        ElegirNodo(kNodoImpresion);
+    }
     void PulsarNodo(int nodo) {
         auto *arbol = Control<QTreeView>(*ventana, "TVOpciones");
         const QRect lugar = arbol->visualRect(arbol->model()->index(nodo, 0));
         QTest::mouseClick(arbol->viewport(), Qt::LeftButton, {}, lugar.center());
-    }
-        ElegirNodo(kNodoImpresion);
     }
     QString CantLineas() { return Filas("SELECT cantlineas FROM Factura"); }
     // What the file itself holds, as another program would find it after a crash.
@@ -79,18 +79,6 @@ TEST_F(Impresion, MoreThanThirtyLinesAreRefusedOnLeavingTheField) {
     AbrirPanel();
     const char *mensaje = "La cantidad de lineas de detalle debe ser menor o igual a 30.";
     Teclear("txtLinDetalle", "31");
-    EXPECT_EQ(Campo("txtLinDetalle")->selectedText(), QStringLiteral("30"));
-
-    Teclear("txtLinDetalle", "31");
-    EsperaMensaje(mensaje);
-    PulsarNodo(0);
-    EXPECT_EQ(CantLineas(), QStringLiteral("30"));
-    EXPECT_EQ(ConFoco(), QStringLiteral("txtLinDetalle"));
-    EXPECT_EQ(Campo("txtLinDetalle")->selectedText(), QStringLiteral("30"));
-    PulsarNodo(0);
-    EXPECT_TRUE(Control<QWidget>(*ventana, "frImpuestos")->isVisible());
-    PulsarNodo(kNodoImpresion);
-    Campo("txtLinDetalle")->setFocus();
     EXPECT_EQ(CantLineas(), QStringLiteral("31")); // written while it is typed
     EsperaMensaje(mensaje);
     Tecla(Campo("txtLinDetalle"), Qt::Key_Return);
@@ -103,6 +91,18 @@ TEST_F(Impresion, MoreThanThirtyLinesAreRefusedOnLeavingTheField) {
     Tecla(Campo("txtLinDetalle"), Qt::Key_Escape); // closing the window leaves the field too
     EXPECT_TRUE(ventana->isVisible());
     EXPECT_EQ(CantLineas(), QStringLiteral("30"));
+    EXPECT_EQ(Campo("txtLinDetalle")->selectedText(), QStringLiteral("30"));
+
+    Teclear("txtLinDetalle", "31");
+    EsperaMensaje(mensaje);
+    PulsarNodo(0);
+    EXPECT_EQ(CantLineas(), QStringLiteral("30"));
+    EXPECT_EQ(ConFoco(), QStringLiteral("txtLinDetalle"));
+    EXPECT_EQ(Campo("txtLinDetalle")->selectedText(), QStringLiteral("30"));
+    PulsarNodo(0);
+    EXPECT_TRUE(Control<QWidget>(*ventana, "frImpuestos")->isVisible());
+    PulsarNodo(kNodoImpresion);
+    Campo("txtLinDetalle")->setFocus();
     Tecla(Campo("txtLinDetalle"), Qt::Key_Escape);
     EXPECT_FALSE(ventana->isVisible());
 }
@@ -209,6 +209,7 @@ TEST_F(Impresion, TheTicketLinesAreEditedAboveTheWindow) {
     Tecla(Campo("txtLinea4"), Qt::Key_Escape);
     EXPECT_FALSE(picTicket()->isVisible());
     EXPECT_TRUE(Control<QWidget>(*ventana, "frFondo")->isEnabled());
+    EXPECT_EQ(ConFoco(), QStringLiteral("cmdLineasTicket"));
     Tecla(ventana.get(), Qt::Key_Escape);
     EXPECT_FALSE(ventana->isVisible());
 }

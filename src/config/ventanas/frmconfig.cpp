@@ -94,14 +94,14 @@ void FrmConfig::MostrarPanel(int nodo) {
 void FrmConfig::MostrarTicket(bool visible) {
     ui_->frFondo->setEnabled(!visible);
     picTicket->setVisible(visible);
-    if (!visible)
+    if (!visible) {
+        frImpresion->EnfocarLineasTicket();
         return;
+    }
     picTicket->raise();
     picTicket->setFocus();
 }
 
-void FrmConfig::done(int resultado) {
-    if (frImpresion->EnDetalle() && !frImpresion->PermiteSalirDeDetalle())
 // A click gives the tree the focus before the tree sees it. When the field of the detail lines has taken the
 // focus back by then, its panel stays.
 bool FrmConfig::eventFilter(QObject *objeto, QEvent *evento) {
@@ -110,6 +110,8 @@ bool FrmConfig::eventFilter(QObject *objeto, QEvent *evento) {
     return (clic && frImpresion->EnDetalle()) || QDialog::eventFilter(objeto, evento);
 }
 
+void FrmConfig::done(int resultado) {
+    if (frImpresion->EnDetalle() && !frImpresion->PermiteSalirDeDetalle())
         return;
     QDialog::done(resultado);
 }

@@ -32,6 +32,8 @@ class PanelImpresion : public QWidget {
     bool PermiteSalirDeDetalle();
     // The operator is in that field.
     bool EnDetalle() const;
+    // The button that opens the ticket lines gets the focus.
+    void EnfocarLineasTicket();
 
   signals:
     void LineasTicketPedidas();

@@ -31,12 +31,6 @@ bool SinModificador(const QKeyEvent &evento) {
     return (evento.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
 }
 
-// What the Tab key would do, so that the tab order of the window is the one order that there is. A date stops
-// at each of its three parts first; any other field that keeps the focus has refused to be left.
-void PasarAlSiguiente(QWidget *control) {
-    const int partes = qobject_cast<QAbstractSpinBox *>(control) != nullptr ? 4 : 1;
-    for (int i = 0; i == 0 || (i < partes && control->hasFocus()); ++i) {
-        QKeyEvent tabulador(QEvent::KeyPress, Qt::Key_Tab, Qt::NoModifier);
 // A key with Ctrl that the window has given to one of its entries. Fields would take some of these letters as
 // editing keys before the entry could get them.
 bool EsAtajo(const QWidget &control, const QKeyEvent &evento) {
@@ -49,6 +43,12 @@ bool EsAtajo(const QWidget &control, const QKeyEvent &evento) {
     });
 }
 
+// What the Tab key would do, so that the tab order of the window is the one order that there is. A date stops
+// at each of its three parts first; any other field that keeps the focus has refused to be left.
+void PasarAlSiguiente(QWidget *control) {
+    const int partes = qobject_cast<QAbstractSpinBox *>(control) != nullptr ? 4 : 1;
+    for (int i = 0; i == 0 || (i < partes && control->hasFocus()); ++i) {
+        QKeyEvent tabulador(QEvent::KeyPress, Qt::Key_Tab, Qt::NoModifier);
         QCoreApplication::sendEvent(control, &tabulador);
     }
 }
@@ -112,6 +112,11 @@ bool FiltroCampos::eventFilter(QObject *objeto, QEvent *evento) {
         return false;
     }
     case QEvent::ShortcutOverride:
+        escapeVisto_ = false;
+        if (!EsAtajo(*recibe, *static_cast<QKeyEvent *>(evento)))
+            return false;
+        evento->ignore();
+        return true;
     case QEvent::KeyRelease:
         escapeVisto_ = false;
         return false;
@@ -127,11 +132,6 @@ bool FiltroCampos::eventFilter(QObject *objeto, QEvent *evento) {
         if (auto *campo = qobject_cast<QLineEdit *>(recibe);
             campo != nullptr && campo == porRaton_ && !campo->hasSelectedText())
             campo->selectAll();
-        escapeVisto_ = false;
-        if (!EsAtajo(*recibe, *static_cast<QKeyEvent *>(evento)))
-            return false;
-        evento->ignore();
-        return true;
         porRaton_ = nullptr;
         return false;
     default:
