@@ -342,9 +342,14 @@ TEST_F(PrincipalTest, HelpOpensTheFileBesideTheProgram) {
     Pulsar(Boton("ayuda"));
     QPointer<QWidget> menu = QApplication::activePopupWidget();
     ASSERT_NE(menu, nullptr);
+    for (const char *ayuda : {"Ayuda", "Ayuda en el sitio web del programa"}) {
+        Tecla(menu, Qt::Key_Down);
+        EXPECT_EQ(TextoEstado(), QString::fromUtf8(ayuda));
+    }
     AccionDe(menu, QStringLiteral("popayuda"))->trigger();
     AccionDe(menu, QStringLiteral("popayudaweb"))->trigger();
     menu->close();
+    EXPECT_EQ(TextoEstado(), QString());
     EXPECT_EQ(mundo.escritorio.archivos.size(), 2);
     EXPECT_EQ(mundo.escritorio.direcciones.size(), 1);
 }

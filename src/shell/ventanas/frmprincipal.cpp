@@ -66,6 +66,9 @@ void FrmPrincipal::CrearMenu() {
         LlenarMenu(ui_->mnuBarra->addMenu(superior.titulo), superior.entradas);
     DeMenu(QStringLiteral("salir"))->setText(QStringLiteral("&Salir\tAlt+F4"));
     LlenarMenu(menuAyuda_, MenuAyuda());
+    // A popup is a window of its own: its hints reach no other one by themselves.
+    connect(menuAyuda_, &QMenu::hovered, this, [this](QAction *accion) { accion->showStatusText(this); });
+    connect(menuAyuda_, &QMenu::aboutToHide, this, [this] { PonerAyudaEntrada(QString()); });
     QList<QAction *> acciones = ui_->mnuBarra->findChildren<QAction *>();
     acciones += menuAyuda_->actions();
     for (QAction *accion : acciones) {
@@ -240,6 +243,11 @@ void FrmPrincipal::Sugerencia(const QString &texto) {
     MostrarTextoEstado();
 }
 
+void FrmPrincipal::PonerAyudaEntrada(const QString &ayuda) {
+    ayudaEntrada_ = ayuda;
+    MostrarTextoEstado();
+}
+
 void FrmPrincipal::MostrarTextoEstado() {
     for (const QString &texto : {ayudaEntrada_, sugerencia_, aviso_}) {
         if (!texto.isEmpty()) {
@@ -257,8 +265,7 @@ void FrmPrincipal::ActualizarEstado() {
 
 bool FrmPrincipal::event(QEvent *evento) {
     if (evento->type() == QEvent::StatusTip) {
-        ayudaEntrada_ = static_cast<QStatusTipEvent *>(evento)->tip();
-        MostrarTextoEstado();
+        PonerAyudaEntrada(static_cast<QStatusTipEvent *>(evento)->tip());
         return true;
     }
     return QMainWindow::event(evento);

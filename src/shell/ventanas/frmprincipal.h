@@ -72,6 +72,7 @@ class FrmPrincipal : public QMainWindow, public Anfitrion, public TableroModulos
 
     void Abrir(const QUrl &direccion);
     void AjustarAncho();
+    void PonerAyudaEntrada(const QString &ayuda);
     void MostrarTextoEstado();
     void ActualizarEstado();
     void CerrarDatos();
