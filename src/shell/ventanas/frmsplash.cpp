@@ -14,6 +14,7 @@ FrmSplash::FrmSplash() : QWidget(nullptr, Qt::SplashScreen), Timer1(new QTimer(t
     ui.imgSplash->setPixmap(ImagenPresentacion(devicePixelRatioF()));
     Timer1->setObjectName(QStringLiteral("Timer1"));
     Timer1->setInterval(5000);
+    Timer1->setTimerType(Qt::PreciseTimer); // the usual kind may be a quarter of a second off
     Timer1->setSingleShot(true);
     connect(Timer1, &QTimer::timeout, this, [this] {
         emit Terminado();
