@@ -330,7 +330,8 @@ void ListaDetalle::TrasModificar(int fila) {
         ActualizarFila(fila);
     Mostrar();
     vista_.HabilitarLista(true);
-    vista_.EnfocarLista();
+    if (reglas_.enfocarTrasModificar)
+        vista_.EnfocarLista();
 }
 
 void ListaDetalle::TrasAgregar() {

@@ -62,6 +62,7 @@ struct ReglasDetalle {
     bool nuevoTrasGuardar = false;   // a saved new row begins another one
     bool rellenarAlGuardar = false;  // every save fills the list again
     bool enfocarAlLlenar = false;
+    bool enfocarTrasModificar = false;  // a saved change gives the list the focus; else it stays
     bool eliminarApagaExportar = false; // until the fill after it finds rows
     bool callarErrores = true;          // a fill that fails says nothing
 };

@@ -42,6 +42,7 @@ ReglasDetalle ReglasClientes(FrmBases &bases) {
         .preguntaEliminar =
             QStringLiteral("Está seguro de querer eliminar los datos del cliente seleccionado?"),
         .preguntaCerrar = QStringLiteral("Desea cerrar el programa sin completar el ingreso del cliente?"),
+        .enfocarTrasModificar = true,
         .eliminarApagaExportar = true,
     };
 }
@@ -66,6 +67,7 @@ ReglasDetalle ReglasProveedores(FrmBases &bases) {
         .preguntaEliminar =
             QStringLiteral("Está seguro de querer eliminar los datos del proveedor seleccionado?"),
         .preguntaCerrar = QStringLiteral("Desea cerrar el programa sin completar el ingreso del proveedor?"),
+        .enfocarTrasModificar = true,
         .callarErrores = false,
     };
 }
