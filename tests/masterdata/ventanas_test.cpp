@@ -9,6 +9,7 @@
 #include <QClipboard>
 #include <QComboBox>
 #include <QFrame>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 
@@ -122,6 +123,7 @@ TEST_F(VentanaArticulos, ARefusedCategoryLeavesThePanelAsTyped) {
 
 TEST_F(VentanaArticulos, TheSecondCategoryStaysInert) {
     auto *segunda = C<QComboBox>("cboxCategoria2");
+    EXPECT_EQ(C<QLabel>("lblCategoria2")->text(), u"C&ategoría &2"_qs); // both letters marked
     EXPECT_EQ(segunda->count(), 0);
     EXPECT_FALSE(segunda->isEnabled());
     EXPECT_FALSE(C("txtPVenta")->isEnabled());
