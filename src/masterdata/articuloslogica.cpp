@@ -288,6 +288,18 @@ QString ArticulosLogica::AMostrar(int campo, const QString &guardado) const {
     const bool importe = campo == kPCompra || campo == kSubtotal;
     return importe ? frmBases().moneda().FormatoMoneda(guardado, true) : guardado;
 }
+// A price that came into the table as another text is shown as it is, but nobody types a new one.
+bool ArticulosLogica::CamposValidos() {
+    for (const int campo : {kPCompra, kSubtotal}) {
+        if (Moneda::EsNumero(SinPrefijo(vista().Texto(campo))))
+            continue;
+        preguntas().Informar(QStringLiteral("El importe ingresado no es un número."));
+        vista().EnfocarCampo(campo);
+        return false;
+    }
+    return true;
+}
+
 
 QString ArticulosLogica::AGuardar(int campo) const {
     const QString texto = ListaDetalle::AGuardar(campo);

@@ -86,6 +86,7 @@ class ArticulosLogica : public ListaDetalle {
   protected:
     ContenidoLista LeerFilas() override;
     void AlMostrar() override;
+    bool CamposValidos() override;
     void AlNuevo() override;
     void AlCambiarEstado() override;
     QString AMostrar(int campo, const QString &guardado) const override;

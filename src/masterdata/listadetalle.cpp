@@ -256,7 +256,7 @@ bool ListaDetalle::RequeridosLlenos() {
 }
 
 void ListaDetalle::Guardar() {
-    if (!botones_.guardar || !RequeridosLlenos())
+    if (!botones_.guardar || !RequeridosLlenos() || !CamposValidos())
         return;
     const bool nueva = estado_ == EstadoDetalle::Nueva;
     if (!nueva && !preguntas_.Confirma(reglas_.preguntaModificar, Respuesta::No))

@@ -123,6 +123,8 @@ class ListaDetalle {
     virtual ContenidoLista LeerFilas();
     // The fields were filled from the current row of the table.
     virtual void AlMostrar() {}
+    // What is in the fields, all required ones filled, may be saved; tells the operator what may not.
+    virtual bool CamposValidos() { return true; }
     // The fields were emptied for a new row; the list is still enabled.
     virtual void AlNuevo() {}
     // State or buttons have changed.

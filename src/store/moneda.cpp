@@ -188,6 +188,16 @@ std::string_view Moneda::SinSimbolo(std::string_view monto) const {
     return monto.substr(i);
 }
 
+bool Moneda::EsNumero(std::string_view texto) {
+    const std::string_view recortado = Recortar(texto);
+    Decimal numero;
+    return recortado.empty() || Leer(recortado, EsSeparador, numero) == recortado.size();
+}
+
+bool Moneda::EsNumero(const QString &texto) {
+    return EsNumero(Vista(texto.toUtf8()));
+}
+
 double Moneda::Numero(std::string_view texto) const {
     return NumeroInicial(texto, [this](char c) { return !decimal8_.empty() && c == decimal8_[0]; });
 }

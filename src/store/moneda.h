@@ -32,6 +32,9 @@ class Moneda {
     QString SinSimbolo(const QString &monto) const;
     std::string_view SinSimbolo(std::string_view monto) const;
 
+    // The whole of `texto` is a number, with either separator and no symbol; empty text counts as 0.
+    static bool EsNumero(std::string_view texto);
+    static bool EsNumero(const QString &texto);
     // A number in the machine's locale: the leading number of `texto`, 0 when there is none.
     double Numero(std::string_view texto) const;
     double Numero(const QString &texto) const;

@@ -127,6 +127,7 @@ TEST_F(Articulos, ShowsAndSavesTheFiltersCategoryWhateverTheArticleHas) {
     EXPECT_EQ(vista.textos[A::kCodigo], u"A3"_qs);
     EXPECT_EQ(vista.textos[A::kIdCategoria], u"-1"_qs);
     EXPECT_EQ(vista.textos[A::kCategoria], u"Sin categoría"_qs);
+    vista.textos[A::kPCompra] = u"$ 1,00"_qs;
     ConfirmarCambio();
     EXPECT_EQ(Guardado("idcategoria1", 3), u"-1"_qs);
     logica_->Actualizar();
@@ -152,7 +153,7 @@ TEST_F(Articulos, StoresPlainNumbersWithoutTrailingZeros) {
     Abrir();
     const std::pair<const char *, const char *> casos[] = {
         {"$ 12,00", "12"},   {"$ 12,50", "12,5"}, {"$ 12,05", "12,05"}, {"$ 0,00", "0"},
-        {"$ 100,00", "100"}, {"7,50", "7,5"},     {"$ -1,10", "-1,1"},  {"x", "x"}};
+        {"$ 100,00", "100"}, {"7,50", "7,5"},     {"$ -1,10", "-1,1"}};
     for (const auto &[texto, guardado] : casos) {
         vista.textos[A::kSubtotal] = QString::fromUtf8(texto);
         ConfirmarCambio();
@@ -252,6 +253,8 @@ TEST_F(Articulos, ASupplierThatIsGoneShowsAsNoneAndIsSavedAsNone) {
     EXPECT_EQ(Guardado("idtipoiva", 2), u"2"_qs);
     Elegir(2); // a dangling category or IVA type is kept
     EXPECT_EQ(vista.textos[A::kCategoria], QString());
+    EXPECT_EQ(vista.textos[A::kPCompra], u"x"_qs);
+    vista.textos[A::kPCompra] = u"$ 1,00"_qs;
     ConfirmarCambio();
     EXPECT_EQ(Guardado("idcategoria1", 3), u"999"_qs);
     EXPECT_EQ(Guardado("idtipoiva", 3), u"77"_qs);
@@ -287,6 +290,25 @@ TEST_F(Articulos, LeavesAmountsReadWithAPointOnly) {
     vista.textos[A::kPCompra] = u"$ 12,50"_qs;
     logica_->EntrarImporte(A::kPCompra);
     EXPECT_EQ(vista.textos[A::kPCompra], u"12,50"_qs);
+}
+
+TEST_F(Articulos, AnAmountThatIsNoNumberIsRefusedBeforeAnythingIsAsked) {
+    Abrir();
+    for (const int campo : {A::kPCompra, A::kSubtotal}) {
+        for (const char *texto : {"1.2.3", "$ 1,2,3", "1.234,50", "$ .", "x"}) {
+            SCOPED_TRACE(texto);
+            Elegir(0);
+            vista.textos[campo] = QString::fromUtf8(texto);
+            vista.foco = -1;
+            mundo_.preguntas.EsperaMensaje(u"El importe ingresado no es un número."_qs, Icono::Informacion);
+            logica_->Guardar();
+            EXPECT_EQ(vista.foco, campo);
+        }
+    }
+    EXPECT_EQ(Guardado("pcompra || ' ' || subtotal", 1), u"80 100"_qs);
+    vista.textos[A::kNombre].clear(); // a missing name comes first
+    mundo_.preguntas.EsperaMensaje(u"Debe llenar el campo \"Nombre\""_qs, Icono::Informacion);
+    logica_->Guardar();
 }
 
 TEST_F(Articulos, AnEmptiedTableBehindTheWindowLosesNothingAndWritesNothing) {
