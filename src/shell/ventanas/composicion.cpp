@@ -1,6 +1,7 @@
 #include "shell/ventanas/composicion.h"
 
 #include "config/ventanas/frmconfig.h"
+#include "desktop/preguntas.h"
 #include "masterdata/ventanas/frmarticulos.h"
 #include "masterdata/ventanas/frmclientes.h"
 #include "masterdata/ventanas/frmproveedores.h"
@@ -28,6 +29,9 @@ Composicion Componer(const Servicios &servicios) {
     };
     composicion.opciones = [servicios](bool abrirDisenador, QWidget *padre) {
         FrmConfig(servicios, abrirDisenador, padre).exec();
+    };
+    composicion.exportar = [servicios](VentanaModulo &) {
+        servicios.preguntas.Informar(QStringLiteral("La exportación no está disponible en esta versión."));
     };
     return composicion;
 }
