@@ -21,13 +21,7 @@ class Ventana : public OpcionesPrueba {
 };
 
 TEST_F(Ventana, TheTreeShowsOnePanelUnderItsTitle) {
-    struct Nodo {
-        const char *clave;
-        const char *texto;
-        const char *panel;
-        const char *titulo;
-    };
-    const Nodo nodos[] = {
+    const char *const nodos[][4] = {
         {"Impuestos", "Impuestos", "frImpuestos", "Configuración de impuestos"},
         {"Categorías", "Artículos", "frCategorias", "Configuración de categorías"},
         {"Vendedores", "Vendedores", "frVendedores", "Configuración de vendedores"},
@@ -39,20 +33,17 @@ TEST_F(Ventana, TheTreeShowsOnePanelUnderItsTitle) {
     ASSERT_EQ(arbol->model()->rowCount(), 4);
     arbol->setFocus();
     for (int i = 0; i < 4; ++i) {
-        const Nodo &nodo = nodos[i];
+        const auto &[clave, texto, panel, titulo] = nodos[i];
         const QModelIndex fila = arbol->model()->index(i, 0);
         EXPECT_EQ(arbol->currentIndex(), fila);
-        EXPECT_EQ(fila.data(Qt::UserRole).toString(), QString::fromUtf8(nodo.clave));
-        EXPECT_EQ(fila.data().toString(), QString::fromUtf8(nodo.texto));
+        EXPECT_EQ(fila.data(Qt::UserRole).toString(), QString::fromUtf8(clave));
+        EXPECT_EQ(fila.data().toString(), QString::fromUtf8(texto));
         EXPECT_FALSE(fila.data(Qt::DecorationRole).value<QIcon>().isNull());
-        EXPECT_EQ(PanelesVisibles(), QString::fromUtf8(nodo.panel));
-        EXPECT_EQ(Titulo(), QString::fromUtf8(nodo.titulo));
+        EXPECT_EQ(PanelesVisibles(), QString::fromUtf8(panel));
+        EXPECT_EQ(Titulo(), QString::fromUtf8(titulo));
         Tecla(arbol, Qt::Key_Down);
     }
-}
-
-TEST_F(Ventana, TheRequestForTheDesignerStartsOnThePrintPanel) {
-    Abrir(true);
+    Abrir(true); // for the invoice designer
     EXPECT_EQ(PanelesVisibles(), QStringLiteral("frImpresion"));
     EXPECT_EQ(Titulo(), QStringLiteral("Configuración de impresión"));
 }
@@ -78,6 +69,9 @@ TEST_F(Ventana, ASellerIsEnteredWithTheKeyboardAlone) {
     EXPECT_EQ(Filas("SELECT codigo, nombre, documento, direccion, telefono, mail, otros FROM Vendedores"),
               QStringLiteral("1|Ñandú|30-1|Calle 2|555|a@b|ninguno"));
     EXPECT_EQ(ConFoco(), QStringLiteral("LVVendedores"));
+    Boton("cmdVenNuevo")->click();
+    Boton("cmdVenCancelar")->click();
+    EXPECT_EQ(Texto("txtVenEmail") + Texto("txtVenOtros"), QStringLiteral("a@bninguno"));
 }
 
 TEST_F(Ventana, EnterInTheCategoryNameSavesAndInAListPressesNothing) {
