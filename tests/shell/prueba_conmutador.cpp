@@ -11,54 +11,30 @@ std::string Nombre(Modulo modulo) {
     return DatosDe(modulo).boton.toStdString();
 }
 
-constexpr std::array kConEntrada{Ventas, Articulos, Clientes, Proveedores};
-
-TEST(Conmutador, QuestionsOfTheModulesAreTheseTexts) {
-    EXPECT_EQ(DatosDe(Ventas).alSalir, QStringLiteral("Confirma que desea salir sin completar la venta?"));
-    EXPECT_EQ(DatosDe(Articulos).alSalir,
-              QStringLiteral("Confirma que desea salir sin completar el ingreso del artículo?"));
-    EXPECT_EQ(DatosDe(Clientes).alSalir,
-              QStringLiteral("Confirma que desea salir sin completar el ingreso del cliente?"));
-    EXPECT_EQ(DatosDe(Proveedores).alSalir,
-              QStringLiteral("Confirma que desea salir sin completar el ingreso del proveedor?"));
-}
-
-// Every module open without an entry (or none) x every handler x click or key: no question is asked.
-TEST(Conmutador, SwitchesFreelyWithoutAnEntry) {
+// Every module open without an entry (or none) x every handler x click or key: no question is asked. With an
+// entry that is given up there is one, and the handler's module is the one open.
+TEST(Conmutador, SwitchesFreelyWithoutAnEntryAndAfterYes) {
     for (const bool clic : {true, false}) {
         for (const Modulo propio : kModulos) {
             for (const Modulo abierta : kModulos) {
-                SCOPED_TRACE(Nombre(abierta) + " open, " + Nombre(propio) + (clic ? " by click" : " by key"));
-                MesaPrueba mesa;
-                mesa.Abierta(abierta, false);
-                clic ? mesa.PorClic(propio) : mesa.PorTecla(propio);
-                mesa.Tick();
-                EXPECT_TRUE(abierta == propio ? mesa.Vacia() : mesa.SoloAbierta(propio));
-                EXPECT_TRUE(mesa.preguntadas.isEmpty());
+                for (const bool entrada : {false, true}) {
+                    if (entrada && (abierta == Estados || abierta == Stats))
+                        continue;
+                    SCOPED_TRACE(Nombre(abierta) + (entrada ? " in progress, " : " open, ") + Nombre(propio));
+                    MesaPrueba mesa;
+                    mesa.Abierta(abierta, entrada);
+                    mesa.respuesta = Respuesta::Si;
+                    clic ? mesa.PorClic(propio) : mesa.PorTecla(propio);
+                    mesa.Tick();
+                    EXPECT_EQ(mesa.preguntadas,
+                              entrada ? QStringList{DatosDe(abierta).alSalir} : QStringList());
+                    EXPECT_TRUE(abierta == propio ? mesa.Vacia() : mesa.SoloAbierta(propio));
+                    EXPECT_FALSE(mesa.conmutador.puedeCerrar());
+                }
             }
             MesaPrueba mesa;
             clic ? mesa.PorClic(propio) : mesa.PorTecla(propio);
             EXPECT_TRUE(mesa.SoloAbierta(propio)) << Nombre(propio);
-        }
-    }
-}
-
-// Every module with an entry x every handler, answered Yes: one question, and the handler's module is the one
-// open.
-TEST(Conmutador, YesGivesTheEntryUp) {
-    for (const bool clic : {true, false}) {
-        for (const Modulo propio : kModulos) {
-            for (const Modulo abierta : kConEntrada) {
-                SCOPED_TRACE(Nombre(abierta) + " in progress, " + Nombre(propio));
-                MesaPrueba mesa;
-                mesa.Abierta(abierta, true);
-                mesa.respuesta = Respuesta::Si;
-                clic ? mesa.PorClic(propio) : mesa.PorTecla(propio);
-                mesa.Tick();
-                EXPECT_EQ(mesa.preguntadas, QStringList{DatosDe(abierta).alSalir});
-                EXPECT_TRUE(abierta == propio ? mesa.Vacia() : mesa.SoloAbierta(propio));
-                EXPECT_FALSE(mesa.conmutador.puedeCerrar());
-            }
         }
     }
 }
@@ -130,23 +106,6 @@ TEST(Conmutador, StrayButtonDoesNotLoseAnEntry) {
     EXPECT_EQ(Junta(mesa.abiertas), QStringLiteral("proveedores"));
 }
 
-TEST(Conmutador, YesUnpressesTheStatementsButtonInSomeHandlers) {
-    const auto trasSi = [](Modulo propio, Modulo abierta) {
-        MesaPrueba mesa;
-        mesa.Abierta(abierta, true);
-        mesa.presionados += QStringLiteral("estado");
-        mesa.respuesta = Respuesta::Si;
-        mesa.PorTecla(propio);
-        return mesa.hechos.contains(QStringLiteral("-estado"));
-    };
-    EXPECT_TRUE(trasSi(Ventas, Articulos));
-    EXPECT_TRUE(trasSi(Ventas, Proveedores));
-    EXPECT_FALSE(trasSi(Ventas, Clientes));
-    EXPECT_TRUE(trasSi(Estados, Proveedores));
-    EXPECT_FALSE(trasSi(Estados, Articulos));
-    EXPECT_FALSE(trasSi(Articulos, Proveedores));
-}
-
 TEST(Conmutador, AsksTheOtherModulesInTheHandlersOrder) {
     const std::vector<std::pair<Modulo, std::vector<Modulo>>> ordenes{
         {Articulos, {Ventas, Clientes, Proveedores}},
@@ -195,27 +154,16 @@ TEST(Conmutador, WindowThatFailsToOpenLeavesNothingChecked) {
 
 struct CasoDialogo {
     Modulo abierta;
-    const char *opciones;
-    const char *respaldo;
+    const char *formulario; // what the dialogs' questions call it
+    const char *alSalir;
 };
 
 const CasoDialogo kDialogos[] = {
-    {Ventas, "Al ingresar a las opciones del programa se cerrará el formulario de ventas.\nDesea continuar?",
-     "Al ingresar a las opciones de respaldo se cerrará el formulario de ventas.\nDesea continuar?"},
-    {Estados,
-     "Al ingresar a las opciones del programa se cerrará el formulario de estados de cuenta.\nDesea "
-     "continuar?",
-     "Al ingresar a las opciones de respaldo se cerrará el formulario de estados de cuenta.\nDesea "
-     "continuar?"},
-    {Articulos,
-     "Al ingresar a las opciones del programa se cerrará el formulario de artículos.\nDesea continuar?",
-     "Al ingresar a las opciones de respaldo se cerrará el formulario de artículos.\nDesea continuar?"},
-    {Proveedores,
-     "Al ingresar a las opciones del programa se cerrará el formulario de proveedores.\nDesea continuar?",
-     "Al ingresar a las opciones de respaldo se cerrará el formulario de proveedores.\nDesea continuar?"},
-    {Clientes,
-     "Al ingresar a las opciones del programa se cerrará el formulario de clientes.\nDesea continuar?",
-     "Al ingresar a las opciones de respaldo se cerrará el formulario de clientes.\nDesea continuar?"},
+    {Ventas, "ventas", "completar la venta?"},
+    {Estados, "estados de cuenta", ""},
+    {Articulos, "artículos", "completar el ingreso del artículo?"},
+    {Proveedores, "proveedores", "completar el ingreso del proveedor?"},
+    {Clientes, "clientes", "completar el ingreso del cliente?"},
 };
 
 // With an entry in progress only the module's own question is asked, else only the dialog's.
@@ -235,8 +183,14 @@ TEST(ConmutadorDialogos, AskOnceAndCloseTheModuleOnYes) {
                     mesa.respuesta = respuesta;
                     opciones ? mesa.conmutador.mnuOpciones() : mesa.conmutador.mnuRespaldar();
                     mesa.Tick();
-                    const QString aviso = QString::fromUtf8(opciones ? caso.opciones : caso.respaldo);
-                    EXPECT_EQ(mesa.preguntadas, QStringList{entrada ? DatosDe(caso.abierta).alSalir : aviso});
+                    const QString aviso =
+                        QStringLiteral("Al ingresar a las opciones %1 se cerrará el formulario de %2.\n"
+                                       "Desea continuar?")
+                            .arg(opciones ? QStringLiteral("del programa") : QStringLiteral("de respaldo"),
+                                 QString::fromUtf8(caso.formulario));
+                    const QString salir =
+                        QStringLiteral("Confirma que desea salir sin ") + QString::fromUtf8(caso.alSalir);
+                    EXPECT_EQ(mesa.preguntadas, QStringList{entrada ? salir : aviso});
                     const bool abierto = mesa.hechos.contains(opciones ? QStringLiteral("opciones")
                                                                        : QStringLiteral("respaldo"));
                     EXPECT_EQ(abierto, respuesta == Respuesta::Si);
