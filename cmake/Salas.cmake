@@ -61,5 +61,5 @@ function(tarvo_prueba nombre)
     target_link_libraries(${nombre} PRIVATE tarvo_testkit ${ARGN})
     set_target_properties(${nombre} PROPERTIES AUTOMOC ON LINKER_LANGUAGE CXX)
     gtest_discover_tests(${nombre} DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60
-        PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;ASAN_OPTIONS=detect_leaks=0" TIMEOUT 300)
+        PROPERTIES ENVIRONMENT LC_ALL=C.UTF-8 TIMEOUT 300)
 endfunction()
