@@ -37,12 +37,6 @@ void LineasCabecera(Superficie &papel, const Cabecera &cabecera, const Columna &
     }
 }
 
-void LineaNegrita(Superficie &papel, const QString &texto) {
-    papel.Negrita(true);
-    papel.Linea(texto);
-    papel.Negrita(false);
-}
-
 void Raya(Superficie &papel) {
     papel.Linea(QString(kColumnasTicket, QLatin1Char('-')));
 }
@@ -70,7 +64,8 @@ void Encabezado(Superficie &papel, const SolicitudTicket &venta) {
         if (!venta.idFiscal.isEmpty())
             LineaCuerpo(papel, QStringLiteral("Id. Fiscal ") + venta.idFiscal);
     }
-    LineaNegrita(papel, Cortar(venta.titulo, kColumnasTicket));
+    papel.Negrita(false);
+    LineaCuerpo(papel, venta.titulo);
     if (!venta.numero.isEmpty())
         LineaCuerpo(papel, QStringLiteral("Nº Comprobante ") + venta.numero);
     Raya(papel);

@@ -62,8 +62,8 @@ TEST(Ticket, CashSaleWithoutCustomer) {
 
 [8]22/11/2026    10:42
 
-Factura contado
-[/n]---------------------------------------
+[/n]Factura contado
+---------------------------------------
 [n]Detalle                           Total
 [/n]Yerba 1 kg                      $ 37,50
   3 x $ 12,50
@@ -93,8 +93,8 @@ TEST(Ticket, CreditSaleWithCustomerNumberAndCustomTax) {
     EXPECT_TRUE(volcado.contains(QStringLiteral("          [n]Gracias\n\n[8]22/11/2026    10:42\n\n"
                                                 "Cliente    Panadería La Espiga\n"
                                                 "[/n]Id. Fiscal 211234560018\n"
-                                                "[n]Factura crédito\n"
-                                                "[/n]Nº Comprobante A-0001\n-----")))
+                                                "Factura crédito\n"
+                                                "Nº Comprobante A-0001\n-----")))
         << volcado.toStdString();
     EXPECT_TRUE(volcado.contains(QStringLiteral("IVA                              $ 8,25\n"
                                                 "COFIS                            $ 1,00\n"
