@@ -11,7 +11,9 @@ QString MensajeBloqueada() {
 QString AvisoApertura(const ResultadoApertura &resultado) {
     if (resultado.estado != EstadoApertura::Parcial)
         return {};
-    return QStringLiteral("%1: %2").arg(resultado.archivo, resultado.motivo);
+    if (resultado.archivo.isEmpty())
+        return QStringLiteral("No se pudieron abrir los datos: %1").arg(resultado.motivo);
+    return QStringLiteral("No se pudo abrir %1: %2").arg(resultado.archivo, resultado.motivo);
 }
 
 } // namespace tarvo

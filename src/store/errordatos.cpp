@@ -39,24 +39,34 @@ bool Ocupada(int codigo) {
     return (codigo & 0xff) == SQLITE_BUSY || (codigo & 0xff) == SQLITE_LOCKED;
 }
 
+ErrorDatos Error(int numero, const QString &que, const QString &motivo) {
+    return {numero, QStringLiteral("%1: %2.").arg(que, motivo), motivo + QLatin1Char('.')};
+}
+
 ErrorDatos Bloqueada() {
     return {errores::kBaseBloqueada, QStringLiteral("La base de datos está abierta en modo exclusivo.")};
 }
 
 } // namespace
 
+QString ErrorDatos::Motivo() const {
+    const QString texto = motivo_.left(1).toLower() + motivo_.mid(1);
+    const QString sujeto = QStringLiteral("el archivo "); // its name stands before
+    return texto.startsWith(sujeto) ? texto.mid(sujeto.size()) : texto;
+}
+
 ErrorDatos ErrorLectura(int codigo, const char *mensaje) {
     if (Ocupada(codigo))
         return Bloqueada();
-    return {errores::kBaseIlegible,
-            QStringLiteral("No se pudo leer la base de datos: %1.").arg(Motivo(codigo, mensaje))};
+    return Error(errores::kBaseIlegible, QStringLiteral("No se pudo leer la base de datos"),
+                 Motivo(codigo, mensaje));
 }
 
 ErrorDatos ErrorEscritura(int codigo, const char *mensaje) {
     if (Ocupada(codigo))
         return Bloqueada();
-    return {errores::kEscritura,
-            QStringLiteral("No se pudo escribir en la base de datos: %1.").arg(Motivo(codigo, mensaje))};
+    return Error(errores::kEscritura, QStringLiteral("No se pudo escribir en la base de datos"),
+                 Motivo(codigo, mensaje));
 }
 
 } // namespace tarvo

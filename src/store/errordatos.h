@@ -25,14 +25,21 @@ constexpr int kDialogoCancelado = 32755;
 
 class ErrorDatos : public std::runtime_error {
   public:
-    ErrorDatos(int numero, const QString &descripcion)
-        : std::runtime_error(descripcion.toStdString()), numero_(numero), descripcion_(descripcion) {}
+    // `motivo` is the part of `descripcion` that tells why; without it all of it does.
+    ErrorDatos(int numero, const QString &descripcion, const QString &motivo = {})
+        : std::runtime_error(descripcion.toStdString()),
+          numero_(numero),
+          descripcion_(descripcion),
+          motivo_(motivo.isEmpty() ? descripcion : motivo) {}
     int Numero() const { return numero_; }
     const QString &Descripcion() const { return descripcion_; }
+    // Why, to stand behind the name of the file and a colon: "no es una base de datos."
+    QString Motivo() const;
 
   private:
     int numero_;
     QString descripcion_;
+    QString motivo_;
 };
 
 } // namespace tarvo

@@ -74,7 +74,7 @@ ResultadoApertura FrmBases::Abrir() {
         Cerrar();
         const bool bloqueada = error.Numero() == errores::kBaseBloqueada;
         resultado.estado = bloqueada ? EstadoApertura::Bloqueada : EstadoApertura::Parcial;
-        resultado.motivo = error.Descripcion();
+        resultado.motivo = error.Motivo();
     }
     return resultado;
 }
@@ -99,7 +99,7 @@ void FrmBases::AbrirTablas(ResultadoApertura &resultado) {
             if (nuevo && adjunto)
                 Soltar(conexion_, tabla.esquema);
             resultado.estado = EstadoApertura::Parcial;
-            resultado.motivo = error.Descripcion();
+            resultado.motivo = error.Motivo();
             return;
         }
     }

@@ -27,7 +27,7 @@ struct ResultadoApertura {
     // Name of the file that failed, "clientes.mdb"; empty when all opened, and when one of them is busy and
     // the engine doesn't tell which.
     QString archivo;
-    QString motivo; // what was wrong with it, in Spanish
+    QString motivo; // what was wrong with it, in Spanish, to stand behind its name and a colon
 };
 
 class FrmBases {

@@ -70,8 +70,10 @@ TEST_F(AjustesTest, WhatIsNotStoredOfTheWindowIsItsCurrentState) {
 TEST(Apertura, OnlyAPartialOpeningGivesAHint) {
     EXPECT_TRUE(AvisoApertura({}).isEmpty());
     EXPECT_EQ(AvisoApertura(
-                  {EstadoApertura::Parcial, QStringLiteral("clientes.mdb"), QStringLiteral("está dañado")}),
-              QStringLiteral("clientes.mdb: está dañado"));
+                  {EstadoApertura::Parcial, QStringLiteral("clientes.mdb"), QStringLiteral("está dañado.")}),
+              QStringLiteral("No se pudo abrir clientes.mdb: está dañado."));
+    EXPECT_EQ(AvisoApertura({EstadoApertura::Parcial, {}, QStringLiteral("el disco está lleno.")}),
+              QStringLiteral("No se pudieron abrir los datos: el disco está lleno."));
 }
 
 // Each message sets off another exception, as a window that can't be painted would.

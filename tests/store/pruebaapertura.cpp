@@ -76,34 +76,32 @@ struct Dano {
 };
 
 const Dano kDanos[] = {
-    {"missing", [](const QString &r, const Archivo &) { QFile::remove(r); }, "El archivo no existe."},
+    {"missing", [](const QString &r, const Archivo &) { QFile::remove(r); }, "no existe."},
     {"a folder", [](const QString &r, const Archivo &) { QFile::remove(r), QDir().mkdir(r); },
-     "No es un archivo."},
-    {"zero bytes", [](const QString &r, const Archivo &) { Escribir(r, {}); }, "El archivo está vacío."},
+     "no es un archivo."},
+    {"zero bytes", [](const QString &r, const Archivo &) { Escribir(r, {}); }, "está vacío."},
     {"garbage", [](const QString &r, const Archivo &) { Escribir(r, QByteArray(5000, 'x')); },
-     "No se pudo leer la base de datos: el archivo no es una base de datos."},
+     "no es una base de datos."},
     {"short garbage", [](const QString &r, const Archivo &) { Escribir(r, "MZ"); },
-     "No se pudo leer la base de datos: el archivo no es una base de datos."},
-    {"truncated by a page", [](const QString &r, const Archivo &) { Recortar(r, 4096); },
-     "No se pudo leer la base de datos: el archivo está dañado."},
-    {"truncated by a byte", [](const QString &r, const Archivo &) { Recortar(r, 1); },
-     "El archivo está cortado."},
+     "no es una base de datos."},
+    {"truncated by a page", [](const QString &r, const Archivo &) { Recortar(r, 4096); }, "está dañado."},
+    {"truncated by a byte", [](const QString &r, const Archivo &) { Recortar(r, 1); }, "está cortado."},
     {"table missing",
      [](const QString &r, const Archivo &a) { Sql(r, std::string("DROP TABLE ") + a.tabla); },
-     "Falta la tabla ", true},
+     "falta la tabla ", true},
     {"column missing",
      [](const QString &r, const Archivo &a) {
          const std::string tabla = a.tabla;
          Sql(r, "CREATE TABLE t(id INTEGER PRIMARY KEY); DROP TABLE " + tabla + "; ALTER TABLE t RENAME TO " +
                     tabla);
      },
-     "Falta la columna ", true},
+     "falta la columna ", true},
     {"a view instead of the table",
      [](const QString &r, const Archivo &a) {
          const std::string tabla = a.tabla;
          Sql(r, "ALTER TABLE " + tabla + " RENAME TO t; CREATE VIEW " + tabla + " AS SELECT * FROM t");
      },
-     "Falta la tabla ", true},
+     "falta la tabla ", true},
     {"an id that is no counter",
      [](const QString &r, const Archivo &a) {
          const std::string tabla = a.tabla;

@@ -159,7 +159,7 @@ TEST_F(PruebaFallas, AReadOnlyFileIsToldAndNotTouched) {
         const QString carpeta = Copia();
         const std::string extra = std::string("FALLAS_PROTEGIDO=") + nombre;
         const Salida salida = Correr("abrir", carpeta, "", 0, extra.c_str());
-        EXPECT_EQ(salida.Texto(), std::string("2 ") + nombre + " El archivo es de solo lectura.");
+        EXPECT_EQ(salida.Texto(), std::string("2 ") + nombre + " es de solo lectura.");
         EXPECT_EQ(QDir(carpeta).entryList(QDir::Files).size(), 5);
     }
 }
