@@ -45,6 +45,10 @@ TEST_F(VentanaVentas, CustomerSearchModesStartOverAtTheEnd) {
     Clic("cmdCliente");
     auto *boton = C<QPushButton>("cmdBuscarClientes");
     EXPECT_EQ(boton->text(), QStringLiteral("Buscar por nombre"));
+    QStringList menu;
+    for (const QAction *modo : Control<QAction>(*C<QToolBar>("tbrClientes"), "buscar")->menu()->actions())
+        menu += modo->objectName();
+    EXPECT_EQ(menu.join(QLatin1Char(' ')), QStringLiteral("codigo nombre telefono ruc"));
     const std::array<const char *, 3> modos[] = {{"codigo", "Buscar por código", "c1"},
                                                  {"nombre", "Buscar por nombre", "ÑANDÚ"},
                                                  {"telefono", "Buscar por teléfono", "444"},

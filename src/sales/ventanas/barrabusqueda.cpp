@@ -14,14 +14,17 @@
 #include <QToolBar>
 #include <QToolButton>
 
+#include <algorithm>
+
 namespace tarvo {
 
 BarraBusqueda::BarraBusqueda(const ControlesBusqueda &controles, std::vector<ModoBusqueda> modos,
-                             Buscador &buscador, Preguntas &preguntas, FiltroCampos &filtro)
+                             const QString &inicial, Buscador &buscador, Preguntas &preguntas,
+                             FiltroCampos &filtro)
     : QObject(controles.barra),
       c_(controles),
       modos_(std::move(modos)),
-      actual_(modos_.front()),
+      actual_(*std::ranges::find(modos_, inicial, &ModoBusqueda::clave)),
       buscador_(buscador),
       preguntas_(preguntas),
       buscar_(new QAction(IconoDe(QStringLiteral("buscar")), QStringLiteral("Buscar"), controles.barra)) {

@@ -38,9 +38,9 @@ struct ControlesBusqueda {
 class BarraBusqueda : public QObject {
     Q_OBJECT
   public:
-    // The first of `modos` is current.
-    BarraBusqueda(const ControlesBusqueda &controles, std::vector<ModoBusqueda> modos, Buscador &buscador,
-                  Preguntas &preguntas, FiltroCampos &filtro);
+    // The menu has `modos` in their order; it starts in the one with the key `inicial`.
+    BarraBusqueda(const ControlesBusqueda &controles, std::vector<ModoBusqueda> modos, const QString &inicial,
+                  Buscador &buscador, Preguntas &preguntas, FiltroCampos &filtro);
 
     // Searches on from the start row: selects the row of a hit and the text in the field, tells the end.
     void Buscar();

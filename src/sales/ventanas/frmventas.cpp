@@ -112,7 +112,8 @@ void FrmVentas::FiltrarCampos() {
 
 void FrmVentas::ConectarArticulos() {
     busqueda_ = new BarraBusqueda({ui_->tbrControles, ui_->txtBuscar, ui_->cmdBuscar, ui_->LVArticulos},
-                                  ModosArticulos(), buscador_, servicios_.preguntas, *filtro_);
+                                  ModosArticulos(), QStringLiteral("barras"), buscador_, servicios_.preguntas,
+                                  *filtro_);
     // The scanner's next Enter adds the article.
     connect(busqueda_, &BarraBusqueda::Encontrado, this, [this](const QString &modo) {
         if (modo == QLatin1String("barras"))

@@ -15,10 +15,10 @@ namespace tarvo {
 namespace {
 
 std::vector<ModoBusqueda> ModosClientes() {
-    return {{QStringLiteral("nombre"), QStringLiteral("Buscar por Nombre"),
-             QStringLiteral("Buscar por nombre"), cliente::Nombre},
-            {QStringLiteral("codigo"), QStringLiteral("Buscar por Código"),
+    return {{QStringLiteral("codigo"), QStringLiteral("Buscar por Código"),
              QStringLiteral("Buscar por código"), cliente::Codigo},
+            {QStringLiteral("nombre"), QStringLiteral("Buscar por Nombre"),
+             QStringLiteral("Buscar por nombre"), cliente::Nombre},
             {QStringLiteral("telefono"), QStringLiteral("Buscar por Teléfono"),
              QStringLiteral("Buscar por teléfono"), cliente::Telefono},
             {QStringLiteral("ruc"), QStringLiteral("Buscar por I. Fiscal"),
@@ -40,7 +40,7 @@ PicClientes::PicClientes(const Servicios &servicios, Buscador &buscador, FiltroC
     actualizar->setToolTip(QStringLiteral("Acualizar"));
     busqueda_ =
         new BarraBusqueda({ui_->tbrClientes, ui_->txtBuscarClientes, ui_->cmdBuscarClientes, ui_->LVClientes},
-                          ModosClientes(), buscador, servicios.preguntas, filtro);
+                          ModosClientes(), QStringLiteral("nombre"), buscador, servicios.preguntas, filtro);
     picNuevoCliente_ = new PicNuevoCliente(servicios, this);
     connect(actualizar, &QAction::triggered, this, &PicClientes::CargarClientes);
     // A search that has reached the end starts at the top again.
