@@ -172,6 +172,15 @@ TEST_F(VentanaVentas, TheQuantityTakesDigitsAndArrows) {
     for (int i = 0; i < 2; ++i)
         Tecla(cantidad, Qt::Key_Down);
     EXPECT_EQ(cantidad->text(), QStringLiteral("1"));
+    // A number typed above the limit is counted on from, by key and by click.
+    cantidad->setText(QStringLiteral("20000"));
+    Tecla(cantidad, Qt::Key_Down);
+    EXPECT_EQ(cantidad->text(), QStringLiteral("19999"));
+    QTest::mouseClick(flechas, Qt::LeftButton, {}, QPoint(flechas->width() / 2, flechas->height() - 3));
+    EXPECT_EQ(cantidad->text(), QStringLiteral("19998"));
+    QTest::mouseClick(flechas, Qt::LeftButton, {}, QPoint(flechas->width() / 2, 3));
+    Tecla(cantidad, Qt::Key_Up);
+    EXPECT_EQ(cantidad->text(), QStringLiteral("20000"));
     cantidad->clear();
     Campo("txtBuscar")->setFocus();
     EXPECT_EQ(cantidad->text(), QStringLiteral("1"));

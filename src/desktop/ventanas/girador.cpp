@@ -15,11 +15,10 @@ namespace tarvo {
 
 namespace {
 
-// Far beyond every limit of a field: a longer number only has to count as too much.
-constexpr double kDemasiado = 1e6;
+constexpr double kDemasiado = 1e15; // whole numbers up to here are exact
 
-int NumeroDe(const QString &texto) {
-    return int(std::min(Moneda::NumeroNeutro(texto), kDemasiado));
+qint64 NumeroDe(const QString &texto) {
+    return qint64(std::min(Moneda::NumeroNeutro(texto), kDemasiado));
 }
 
 } // namespace
@@ -29,10 +28,16 @@ Girador::Girador(QWidget *padre) : QAbstractSlider(padre) {
     setFocusPolicy(Qt::NoFocus);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Ignored);
     setSingleStep(1);
+    // A step counts from the number in the field, which may lie where the control can't follow.
+    connect(this, &QAbstractSlider::actionTriggered, this, [this](int accion) {
+        if (accion == SliderSingleStepSub || accion == SliderSingleStepAdd)
+            Paso(accion == SliderSingleStepSub ? 1 : -1);
+    });
 }
 
-void Girador::Acompanar(QLineEdit *campo, int minimo, int maximo) {
+void Girador::Acompanar(QLineEdit *campo, int minimo, int maximo, Tope tope) {
     campo_ = campo;
+    tope_ = tope;
     setRange(-maximo, -minimo);
     setAccessibleName(campo->accessibleName());
     connect(campo, &QLineEdit::textChanged, this, &Girador::Seguir);
@@ -43,14 +48,19 @@ void Girador::Acompanar(QLineEdit *campo, int minimo, int maximo) {
 
 void Girador::Seguir() {
     const QSignalBlocker sinAviso(this); // the limits of the arrows must not be written back over typed text
-    setValue(-NumeroDe(campo_->text()));
+    setValue(-int(std::min<qint64>(NumeroDe(campo_->text()), -minimum())));
     update();
 }
 
+bool Girador::Sube(qint64 numero) const {
+    return numero < -minimum() || (tope_ == Tope::SoloJusto && numero > -minimum());
+}
+
 void Girador::Paso(int paso) {
-    const int numero = NumeroDe(campo_->text());
-    if (paso > 0 ? numero < -minimum() : numero > -maximum())
+    const qint64 numero = NumeroDe(campo_->text());
+    if (paso > 0 ? Sube(numero) : numero > -maximum())
         campo_->setText(QString::number(numero + paso));
+    Seguir();
 }
 
 QSize Girador::sizeHint() const {

@@ -21,7 +21,7 @@ namespace tarvo {
 
 namespace {
 
-constexpr int kCantidadMayor = 9999; // as far as the arrows go; more can be typed
+constexpr int kCantidadMayor = 9999; // the upper arrow stops here; more can be typed, and counted on from
 
 std::vector<ModoBusqueda> ModosArticulos() {
     return {{QStringLiteral("barras"), QStringLiteral("Código de barras"), QStringLiteral("Código de barras"),
@@ -84,7 +84,7 @@ void FrmVentas::PrepararControles() {
     ui_->LVArticulos->Mostrar(&venta_.Articulos());
     ui_->LVDetalle->Mostrar(&venta_.Detalle());
     ui_->LVDetalle->header()->setSectionsClickable(false); // lines stay in the order in which they were added
-    ui_->FSB1->Acompanar(ui_->txtCantidad, 1, kCantidadMayor);
+    ui_->FSB1->Acompanar(ui_->txtCantidad, 1, kCantidadMayor, Girador::Tope::SoloJusto);
     ui_->cmdAgregar->setIcon(IconoDe(QStringLiteral("agregar")));
     ui_->cmdQuitar->setIcon(IconoDe(QStringLiteral("quitar")));
     ui_->cmdCliente->setIcon(IconoDe(QStringLiteral("cliente")));
