@@ -1,3 +1,5 @@
+#include "desktop/ventanas/comboelidido.h"
+#include "desktop/ventanas/etiquetaelidida.h"
 #include "desktop/ventanas/filtrocampos.h"
 #include "desktop/ventanas/iconos.h"
 #include "desktop/ventanas/kitmenu.h"
@@ -5,6 +7,7 @@
 #include "desktop/ventanas/preguntasqt.h"
 #include "testkit/manos.h"
 
+#include <QAbstractItemView>
 #include <QClipboard>
 #include <QComboBox>
 #include <QDateEdit>
@@ -379,3 +382,34 @@ TEST(Iconos, EveryPictureIsDrawn) {
 
 } // namespace
 } // namespace tarvo
+TEST(EtiquetaElidida, LabelAndComboShowInTheTipWhatTheyCut) {
+    QWidget fondo;
+    fondo.resize(600, 200);
+    EtiquetaElidida etiqueta;
+    auto &combo = *new ComboElidido(&fondo);
+    combo.resize(120, 26);
+    etiqueta.resize(120, 26);
+    for (const QString &texto :
+         {u"Ana & Cía"_qs, QString(40, u'W') + u" & <b>x</b>"_qs, u"Línea\ndos <b"_qs}) {
+        etiqueta.setText(texto);
+        combo.clear();
+        combo.addItem(texto);
+        etiqueta.grab();
+        combo.grab();
+        const bool cortado = texto.size() > 20;
+        EXPECT_EQ(etiqueta.toolTip(), cortado ? texto.toHtmlEscaped() : QString());
+        EXPECT_EQ(combo.toolTip(), etiqueta.toolTip());
+        EXPECT_EQ(combo.currentText(), texto);
+    }
+    etiqueta.setText(QString(40, u'W') + u" & 1"_qs); // no markup: nothing to escape
+    etiqueta.grab();
+    EXPECT_EQ(etiqueta.toolTip(), etiqueta.text());
+    EXPECT_EQ(etiqueta.minimumSizeHint().width(), 0);
+    combo.setItemText(0, QString(30, u'W'));
+    MostrarVentana(fondo);
+    combo.showPopup();
+    EXPECT_GE(combo.view()->viewport()->width(), combo.fontMetrics().horizontalAdvance(QString(30, u'W')));
+    EXPECT_LE(combo.view()->width(), 600);
+    combo.hidePopup();
+}
+

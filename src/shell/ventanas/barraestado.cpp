@@ -1,47 +1,13 @@
 #include "shell/ventanas/barraestado.h"
 
 #include "desktop/ventanas/estilo.h"
+#include "desktop/ventanas/etiquetaelidida.h"
 #include "shell/ventanas/etiquetaenlace.h"
-
-#include <QPainter>
-#include <QStyleOption>
 
 namespace tarvo {
 
-namespace {
-
-constexpr int kMargen = 8;
-
-} // namespace
-
-// The hint panel: it asks for the width it was given and takes less when there is less.
-class PanelSugerencia : public QLabel {
-  public:
-    using QLabel::QLabel;
-    void PonerAncho(int pixeles) {
-        ancho_ = pixeles;
-        updateGeometry();
-    }
-    QSize sizeHint() const override { return {ancho_, QLabel::sizeHint().height()}; }
-    QSize minimumSizeHint() const override { return {0, QLabel::minimumSizeHint().height()}; }
-
-  protected:
-    void paintEvent(QPaintEvent *) override {
-        QPainter pintor(this);
-        QStyleOption opcion;
-        opcion.initFrom(this);
-        style()->drawPrimitive(QStyle::PE_Widget, &opcion, &pintor, this);
-        const QRect zona = rect().adjusted(kMargen, 0, -kMargen, 0);
-        pintor.drawText(zona, Qt::AlignVCenter | Qt::TextSingleLine,
-                        fontMetrics().elidedText(text(), Qt::ElideRight, zona.width()));
-    }
-
-  private:
-    int ancho_ = 0;
-};
-
 BarraEstado::BarraEstado(QWidget *padre)
-    : QStatusBar(padre), fabricante(new EtiquetaEnlace(this)), separador(new PanelSugerencia(this)) {
+    : QStatusBar(padre), fabricante(new EtiquetaEnlace(this)), separador(new EtiquetaElidida(this)) {
     setSizeGripEnabled(false);
     fabricante->setObjectName(QStringLiteral("fabricante"));
     fabricante->setFocusPolicy(Qt::NoFocus); // the Tab key stays within the module
@@ -50,7 +16,10 @@ BarraEstado::BarraEstado(QWidget *padre)
     fabricante->PonerColores(colores::kTextoTenue, colores::kTitulo);
     connect(fabricante, &EtiquetaEnlace::Activada, this, &BarraEstado::FabricantePulsado);
     addWidget(fabricante);
+    constexpr int kMargen = 8;
     separador->setObjectName(QStringLiteral("separador"));
+    separador->setTextFormat(Qt::PlainText);
+    separador->setContentsMargins(kMargen, 0, kMargen, 0);
     addWidget(separador);
     mayusculas = Panel("mayusculas", QStringLiteral("MAYÚS"), QStringLiteral("Mayúsculas"));
     numerico = Panel("numerico", QStringLiteral("NÚM"), QStringLiteral("Teclado numérico"));
@@ -68,7 +37,6 @@ QLabel *BarraEstado::Panel(const char *nombre, const QString &texto, const QStri
 
 void BarraEstado::PonerTexto(const QString &texto) {
     separador->setText(texto);
-    separador->setToolTip(texto);
 }
 
 void BarraEstado::PonerAncho(int pixeles) {

@@ -10,8 +10,8 @@ class QLabel;
 
 namespace tarvo {
 
+class EtiquetaElidida;
 class EtiquetaEnlace;
-class PanelSugerencia;
 
 class BarraEstado : public QStatusBar {
     Q_OBJECT
@@ -32,7 +32,7 @@ class BarraEstado : public QStatusBar {
   private:
     QLabel *Panel(const char *nombre, const QString &texto, const QString &ayuda);
     EtiquetaEnlace *fabricante;
-    PanelSugerencia *separador;
+    EtiquetaElidida *separador;
     QLabel *mayusculas;
     QLabel *numerico;
     QLabel *fecha;

@@ -1,16 +1,26 @@
-#include "sales/ventanas/etiquetaelidida.h"
+#include "desktop/ventanas/etiquetaelidida.h"
 
 #include <QPainter>
 #include <QStyle>
+#include <QTextDocument>
 
 #include <algorithm>
 
 namespace tarvo {
 
+QString AyudaLlana(const QString &texto) {
+    return Qt::mightBeRichText(texto) ? texto.toHtmlEscaped() : texto;
+}
+
+void EtiquetaElidida::PonerAncho(int pixeles) {
+    ancho_ = pixeles;
+    updateGeometry();
+}
+
 QSize EtiquetaElidida::sizeHint() const {
     constexpr int kSuficiente = 160;
     const QSize medida = QLabel::sizeHint();
-    return {std::min(medida.width(), kSuficiente), medida.height()};
+    return {ancho_ >= 0 ? ancho_ : std::min(medida.width(), kSuficiente), medida.height()};
 }
 
 void EtiquetaElidida::paintEvent(QPaintEvent *) {
@@ -19,8 +29,9 @@ void EtiquetaElidida::paintEvent(QPaintEvent *) {
     constexpr int kMasQueLaVentana = 1000;
     const QString texto = text().left(kMasQueLaVentana).replace(QLatin1Char('\n'), QLatin1Char(' '));
     const QString cabe = fontMetrics().elidedText(texto, Qt::ElideRight, sitio.width());
-    setToolTip(cabe == texto ? QString() : texto.toHtmlEscaped());
+    setToolTip(cabe == texto ? QString() : AyudaLlana(texto));
     QPainter pintor(this);
+    drawFrame(&pintor);
     if (texto.isEmpty()) {
         QPalette tenue = palette();
         tenue.setCurrentColorGroup(QPalette::Disabled);

@@ -1,0 +1,30 @@
+// A label for text of any length: what does not fit is elided, and shown whole in the tool tip. Its text() is
+// always the whole text, and it never asks for more room than there is. Without text it shows its hint, dim.
+#pragma once
+
+#include <QLabel>
+
+namespace tarvo {
+
+class EtiquetaElidida : public QLabel {
+    Q_OBJECT
+    Q_PROPERTY(QString sugerencia MEMBER sugerencia_)
+  public:
+    using QLabel::QLabel;
+    // The width to ask for, in pixels, instead of what the text needs.
+    void PonerAncho(int pixeles);
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return {0, QLabel::minimumSizeHint().height()}; }
+
+  protected:
+    void paintEvent(QPaintEvent *evento) override;
+
+  private:
+    QString sugerencia_;
+    int ancho_ = -1;
+};
+
+// A tool tip that shows `texto` letter by letter, also where it looks like markup.
+QString AyudaLlana(const QString &texto);
+
+} // namespace tarvo
