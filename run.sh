@@ -13,6 +13,6 @@ cmake --build --preset release --target tarvo muestra
 
 # The run folder holds a copy of the program with its data, so that the build folder stays clean.
 mkdir -p build/muestra/ajustes
-cp -f build/release/tarvo build/muestra/tarvo
+cp -f build/release/tarvo build/release/tarvo27me.pdf build/muestra/
 [ -d build/muestra/Datos ] || build/release/muestra build/muestra
 XDG_CONFIG_HOME="$PWD/build/muestra/ajustes" exec build/muestra/tarvo
