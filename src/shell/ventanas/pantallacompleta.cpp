@@ -3,11 +3,11 @@
 #include "shell/medidas.h"
 
 #include <QWidget>
+#include <QWindow>
 
 namespace tarvo {
 
 void PantallaCompleta::OcultarBorde(QWidget &ventana) {
-    borde_ = ventana.geometry().topLeft() - ventana.frameGeometry().topLeft();
     ventana.setWindowState(ventana.windowState() | Qt::WindowFullScreen);
 }
 
@@ -15,9 +15,12 @@ void PantallaCompleta::MostrarBorde(QWidget &ventana) {
     ventana.setWindowState(ventana.windowState() & ~Qt::WindowFullScreen);
 }
 
+// The place is the one of the frame, asked of the window system: the widget learns late of a frame that comes
+// or goes.
 Geometria PantallaCompleta::Actual() const {
-    return {ventana_.isMaximized() ? kVentanaMaximizada : kVentanaNormal, ATwips(ventana_.x()),
-            ATwips(ventana_.y()), ATwips(ventana_.width()), ATwips(ventana_.height())};
+    const QPoint sitio = ventana_.windowHandle()->framePosition();
+    return {ventana_.isMaximized() ? kVentanaMaximizada : kVentanaNormal, ATwips(sitio.x()),
+            ATwips(sitio.y()), ATwips(ventana_.width()), ATwips(ventana_.height())};
 }
 
 void PantallaCompleta::Entrar() {
@@ -31,9 +34,8 @@ void PantallaCompleta::Salir() {
     if (antes.estado != kVentanaNormal)
         return;
     ventana_.setWindowState(ventana_.windowState() & ~Qt::WindowMaximized);
-    // The frame comes back later than this, so the place is told without it.
-    ventana_.setGeometry(APixeles(antes.x) + borde_.x(), APixeles(antes.y) + borde_.y(),
-                         APixeles(antes.ancho), APixeles(antes.alto));
+    ventana_.resize(APixeles(antes.ancho), APixeles(antes.alto));
+    ventana_.windowHandle()->setFramePosition({APixeles(antes.x), APixeles(antes.y)});
 }
 
 } // namespace tarvo

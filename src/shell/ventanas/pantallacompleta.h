@@ -4,8 +4,6 @@
 
 #include "shell/ajustesprincipal.h"
 
-#include <QPoint>
-
 class QWidget;
 
 namespace tarvo {
@@ -19,13 +17,12 @@ class PantallaCompleta {
     void Salir();
 
   private:
-    void OcultarBorde(QWidget &ventana);
+    static void OcultarBorde(QWidget &ventana);
     static void MostrarBorde(QWidget &ventana);
     Geometria Actual() const;
 
     QWidget &ventana_;
     AjustesPrincipal ajustes_;
-    QPoint borde_; // left and top of the frame, while it is hidden
 };
 
 } // namespace tarvo
