@@ -2,7 +2,9 @@
 
 #include "shell/ventanas/barraestado.h"
 #include "shell/ventanas/tablamenu.h"
+#include "shell/ventanas/traduccionteclas.h"
 
+#include <QLibraryInfo>
 #include <QMenuBar>
 #include <QTimer>
 #include <QToolButton>
@@ -90,6 +92,21 @@ TEST_F(PrincipalTest, MenuHoldsItsEntriesWithTheirShortcuts) {
         EXPECT_EQ(accion->shortcut().toString(QKeySequence::PortableText), QLatin1String(esperada.atajo));
         EXPECT_EQ(accion->isCheckable(), esperada.marcable);
     }
+}
+
+TEST(TraduccionTeclas, KeysKeepTheirNamesInTheToolkitsSpanish) {
+    const QKeySequence exportar(Qt::CTRL | Qt::Key_F6);
+    QTranslator espanol;
+    ASSERT_TRUE(
+        espanol.load(QStringLiteral("qtbase_es"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)));
+    QCoreApplication::installTranslator(&espanol);
+    EXPECT_NE(exportar.toString(QKeySequence::NativeText), QStringLiteral("Ctrl+F6"));
+    TraduccionTeclas teclas;
+    QCoreApplication::installTranslator(&teclas);
+    EXPECT_EQ(exportar.toString(QKeySequence::NativeText), QStringLiteral("Ctrl+F6"));
+    EXPECT_EQ(QCoreApplication::translate("QPlatformTheme", "Cancel"), QStringLiteral("Cancelar"));
+    QCoreApplication::removeTranslator(&teclas);
+    QCoreApplication::removeTranslator(&espanol);
 }
 
 // The help text of an entry under the mouse shows in the hint panel, odd spelling and all, and goes again.

@@ -1,6 +1,7 @@
 #include "shell/ventanas/aplicacion.h"
 
 #include "desktop/ventanas/estilo.h"
+#include "shell/ventanas/traduccionteclas.h"
 
 #include <QLibraryInfo>
 #include <QTranslator>
@@ -15,6 +16,7 @@ Aplicacion::Aplicacion(int &argc, char **argv, Preguntas &preguntas)
     auto *traduccion = new QTranslator(this);
     if (traduccion->load(QStringLiteral("qtbase_es"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         installTranslator(traduccion);
+    installTranslator(new TraduccionTeclas(this));
     AplicarEstilo(*this);
 }
 
