@@ -142,6 +142,8 @@ TEST_F(PrincipalTest, ToolbarShowsWholeCaptionsInOneRow) {
     EXPECT_TRUE(DeBarra("ayuda")->isVisible());
     frm->resize(730, 600);
     EXPECT_FALSE(DeBarra("ayuda")->isVisible());
+    const QList<QAction *> botones = barra->actions();
+    EXPECT_FALSE(botones.at(botones.indexOf(DeBarra("ayuda")) - 1)->isVisible()) << "their separator";
     frm->resize(800, 600);
     EXPECT_TRUE(DeBarra("salir")->isVisible() && DeBarra("ayuda")->isVisible());
 }

@@ -286,7 +286,10 @@ void FrmPrincipal::resizeEvent(QResizeEvent *evento) {
 void FrmPrincipal::AjustarAncho() {
     const int ancho = ATwips(width());
     DeBarra(QStringLiteral("salir"))->setVisible(CabeSalir(ancho));
-    DeBarra(QStringLiteral("ayuda"))->setVisible(CabeAyuda(ancho));
+    QAction *const ayuda = DeBarra(QStringLiteral("ayuda"));
+    ayuda->setVisible(CabeAyuda(ancho));
+    const QList<QAction *> botones = ui_->tbrPrincipal->actions();
+    botones.at(botones.indexOf(ayuda) - 1)->setVisible(CabeAyuda(ancho)); // no separator before nothing
     const bool llena = (windowState() & (Qt::WindowMaximized | Qt::WindowFullScreen)) != 0;
     ui_->SB1->PonerAncho(APixeles(AnchoSeparador(ancho, llena)));
 }
