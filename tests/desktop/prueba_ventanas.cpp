@@ -273,11 +273,42 @@ TEST(ListaVista, ColumnsShareTheWidthAndHiddenOnesTakeNone) {
     v.vista.PonerAncho(1, 3000);
     EXPECT_NEAR(ancho(0), ancho(1), 1);
     EXPECT_EQ(v.vista.horizontalScrollBar()->maximum(), 0);
-    v.vista.resize(500, 14 * 10); // twips: 2100, room for Int(10 - 1.5) rows
-    v.lista.Limpiar();
-    for (int filas = 1; filas <= 9; ++filas) {
-        v.lista.AgregarFila({});
-        EXPECT_EQ(v.vista.DesbordaFilas(), filas > 8) << filas;
+}
+
+TEST(ListaVista, ACodeCanBeReadHoweverNarrowTheList) {
+    ListaTexto lista{
+        {{.titulo = u"C"_qs, .ancho = 100, .legibles = 13}, {.titulo = u"Otra"_qs, .ancho = 9000}}};
+    ListaVista vista;
+    vista.resize(200, 100);
+    vista.Mostrar(&lista);
+    lista.AgregarFila({u"7790001234567"_qs, {}});
+    MostrarVentana(vista);
+    const QImage entero = vista.viewport()->grab().toImage();
+    vista.resize(1000, 100);
+    vista.PonerAncho(0, 9000);
+    const int hasta = vista.fontMetrics().horizontalAdvance(lista.Celda(0, 0)) + 10;
+    EXPECT_EQ(entero.copy(0, 0, hasta, 15), vista.viewport()->grab().toImage().copy(0, 0, hasta, 15));
+}
+
+TEST(ListaVista, RowsOverflowJustWhenTheScrollBarTakesRoom) {
+    VistaDePrueba v(0);
+    // How many rows are one too many for the height.
+    const auto desbordan = [&] {
+        v.lista.Limpiar();
+        do {
+            v.lista.AgregarFila({});
+            v.vista.doItemsLayout();
+            QApplication::processEvents();
+            EXPECT_EQ(v.vista.DesbordaFilas(), v.vista.verticalScrollBar()->maximum() > 0) << v.lista.Filas();
+        } while (!v.vista.DesbordaFilas() && v.lista.Filas() < 50);
+        return v.lista.Filas();
+    };
+    const int antes = desbordan();
+    const int fila = v.vista.visualRect(v.lista.index(0, 0)).height();
+    for (int pixeles = 1; pixeles <= fila; ++pixeles) {
+        SCOPED_TRACE(pixeles);
+        v.vista.resize(500, 300 + pixeles);
+        EXPECT_LE(desbordan(), antes + 1);
     }
 }
 
@@ -383,6 +414,7 @@ TEST(Iconos, EveryPictureIsDrawn) {
 } // namespace
 } // namespace tarvo
 TEST(EtiquetaElidida, LabelAndComboShowInTheTipWhatTheyCut) {
+    EXPECT_EQ(desbordan(), antes + 1) << "a row higher, a row more";
     QWidget fondo;
     fondo.resize(600, 200);
     EtiquetaElidida etiqueta;

@@ -13,7 +13,22 @@ namespace tarvo {
 namespace {
 
 constexpr int kTwipsPorPunto = 15;
-constexpr int kTwipsPorFila = 210;
+constexpr int kBordesCelda = 18; // pixels, beside the text of a cell, and a letter's excess over a digit
+
+// Brings the chosen row back into view also when it is the last one already.
+bool EsDeMovimiento(const QKeyEvent &evento) {
+    switch (evento.key()) {
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+    case Qt::Key_PageUp:
+    case Qt::Key_PageDown:
+    case Qt::Key_Home:
+    case Qt::Key_End:
+        return true;
+    default:
+        return false;
+    }
+}
 
 } // namespace
 
@@ -89,8 +104,9 @@ void ListaVista::PonerAncho(int columna, int twips) {
 }
 
 bool ListaVista::DesbordaFilas() const {
-    const double caben = static_cast<double>(height()) * kTwipsPorPunto / kTwipsPorFila - 1.5;
-    return lista_->Filas() > static_cast<int>(caben);
+    if (lista_->Filas() == 0)
+        return false;
+    return lista_->Filas() > maximumViewportSize().height() / indexRowSizeHint(lista_->index(0, 0));
 }
 
 QRect ListaVista::visualRect(const QModelIndex &indice) const {

@@ -23,7 +23,8 @@ class ListaVista : public QTreeView {
     void SeleccionarFila(int fila);
     // Changes the width of a column, in twips, as a resize rule of a window asks.
     void PonerAncho(int columna, int twips);
-    // True when the rows exceed Int(height / 210 - 1.5), height in twips: a scroll bar takes room.
+    // True exactly when a scroll bar takes room: the rows exceed Int(height / row - 1.5), where `row` is the
+    // height of a row and the 1.5 are header and frame, both as high as font and style make them.
     bool DesbordaFilas() const;
 
     // Rows are all of one height, so both are told from the row number, whatever the number of rows.
