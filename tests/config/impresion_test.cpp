@@ -176,6 +176,7 @@ TEST_F(Impresion, TheTicketLinesAreEditedAboveTheWindow) {
     Tecla(Campo("txtLinea4"), Qt::Key_Escape);
     EXPECT_FALSE(picTicket()->isVisible());
     EXPECT_TRUE(Control<QWidget>(*ventana, "frFondo")->isEnabled());
+    EXPECT_EQ(ConFoco(), QStringLiteral("cmdLineasTicket"));
     Tecla(ventana.get(), Qt::Key_Escape);
     EXPECT_FALSE(ventana->isVisible());
 }
