@@ -275,21 +275,6 @@ TEST(ListaVista, ColumnsShareTheWidthAndHiddenOnesTakeNone) {
     EXPECT_EQ(v.vista.horizontalScrollBar()->maximum(), 0);
 }
 
-TEST(ListaVista, ACodeCanBeReadHoweverNarrowTheList) {
-    ListaTexto lista{
-        {{.titulo = u"C"_qs, .ancho = 100, .legibles = 13}, {.titulo = u"Otra"_qs, .ancho = 9000}}};
-    ListaVista vista;
-    vista.resize(200, 100);
-    vista.Mostrar(&lista);
-    lista.AgregarFila({u"7790001234567"_qs, {}});
-    MostrarVentana(vista);
-    const QImage entero = vista.viewport()->grab().toImage();
-    vista.resize(1000, 100);
-    vista.PonerAncho(0, 9000);
-    const int hasta = vista.fontMetrics().horizontalAdvance(lista.Celda(0, 0)) + 10;
-    EXPECT_EQ(entero.copy(0, 0, hasta, 15), vista.viewport()->grab().toImage().copy(0, 0, hasta, 15));
-}
-
 TEST(ListaVista, RowsOverflowJustWhenTheScrollBarTakesRoom) {
     VistaDePrueba v(0);
     // How many rows are one too many for the height.

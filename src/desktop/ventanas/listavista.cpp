@@ -13,22 +13,6 @@ namespace tarvo {
 namespace {
 
 constexpr int kTwipsPorPunto = 15;
-constexpr int kBordesCelda = 18; // pixels, beside the text of a cell, and a letter's excess over a digit
-
-// Brings the chosen row back into view also when it is the last one already.
-bool EsDeMovimiento(const QKeyEvent &evento) {
-    switch (evento.key()) {
-    case Qt::Key_Up:
-    case Qt::Key_Down:
-    case Qt::Key_PageUp:
-    case Qt::Key_PageDown:
-    case Qt::Key_Home:
-    case Qt::Key_End:
-        return true;
-    default:
-        return false;
-    }
-}
 
 } // namespace
 
@@ -106,7 +90,7 @@ void ListaVista::PonerAncho(int columna, int twips) {
 bool ListaVista::DesbordaFilas() const {
     if (lista_->Filas() == 0)
         return false;
-    return lista_->Filas() > maximumViewportSize().height() / indexRowSizeHint(lista_->index(0, 0));
+    return lista_->Filas() > viewport()->height() / indexRowSizeHint(lista_->index(0, 0));
 }
 
 QRect ListaVista::visualRect(const QModelIndex &indice) const {
