@@ -117,11 +117,11 @@ void ListaDetalle::Mostrar() {
         const QString id = lista_.Celda(fila, columnaId_);
         if (!Posicionar(id))
             return;
-        idMostrado_ = id;
-        for (std::size_t i = 0; i < reglas_.campos.size(); ++i) {
+        idMostrado_.clear(); // fields that a failing read leaves half filled belong to no row
+        for (std::size_t i = 0; i < reglas_.campos.size(); ++i)
             if (const Campo *campo = reglas_.campos[i].campo)
                 vista_.Poner(static_cast<int>(i), AMostrar(static_cast<int>(i), campo->Texto()));
-        }
+        idMostrado_ = id;
         AlMostrar();
     } catch (const ErrorDatos &) {
         // The row can't be read: the fields stay half filled, as the operator has always seen it.

@@ -198,6 +198,29 @@ TEST(Personas, EachFieldIsStoredInItsOwnColumn) {
         u"codigo,nombre,nfiscal,ifiscal,telefono,fax,direccion,email"_qs);
 }
 
+TEST(Personas, FieldsThatAFailedReadLeftHalfFilledAreNotSaved) {
+    MundoPrueba mundo;
+    mundo.datos.Ejecutar("INSERT INTO clientes.Clientes(codigo, nombre, tel2) VALUES ('1','Ana','a'),"
+                         "('2','Beto','b')");
+    AnfitrionPrueba anfitrion;
+    FrmClientes ventana(mundo.servicios(), anfitrion);
+    MostrarVentana(ventana);
+    FrmBases &bases = mundo.frmBases();
+    bases.datClientes.Invalidar();
+    bases.datClientes.Cargar({&bases.camCliCodigo, &bases.camCliNombre});
+    mundo.datos.Filas("ALTER TABLE clientes.Clientes RENAME TO Otra");
+    Tecla(Control<ListaVista>(ventana, "LVClientes"), Qt::Key_Down);
+    EXPECT_EQ(Control<QLineEdit>(ventana, "txtNombre")->text(), u"Beto"_qs);
+    EXPECT_EQ(Control<QLineEdit>(ventana, "txtTel2")->text(), u"a"_qs);
+    mundo.datos.Filas("ALTER TABLE clientes.Otra RENAME TO Clientes");
+    mundo.preguntas.Espera(u"Está seguro de querer modificar los datos del cliente seleccionado?"_qs,
+                           Respuesta::No, Respuesta::Si);
+    mundo.preguntas.EsperaMensaje(u"El registro ya no existe."_qs, Icono::Critico);
+    Pulsar(Control<QPushButton>(ventana, "cmdGuardar"));
+    EXPECT_EQ(mundo.datos.Filas("SELECT group_concat(nombre||tel2) FROM clientes.Clientes")[0][0],
+              u"Anaa,Betob"_qs);
+}
+
 TEST(Personas, AFailedReadOfTheSuppliersIsTold) {
     MundoPrueba mundo;
     mundo.datos.Ejecutar("INSERT INTO proveedores.Proveedores(codigo, nombre) VALUES ('1','Uno')");
