@@ -255,7 +255,7 @@ TEST_F(VentanaVentas, AFullListNarrowsItsColumn) {
         return Lista("LVDetalle")->Lista()->headerData(linea::Cantidad, Qt::Horizontal).toString();
     };
     EXPECT_EQ(titulo(), QStringLiteral("Cantidad"));
-    for (int fila = 0; fila < 40; ++fila)
+    for (int fila = 0; fila < 12; ++fila)
         emit Lista("LVArticulos")->FilaDobleClic((Lista("LVArticulos")->SeleccionarFila(fila), fila));
     EXPECT_EQ(titulo(), QStringLiteral("Cant."));
     mundo.preguntas.Espera(QStringLiteral("Está seguro de querer comenzar una nueva venta?"), Respuesta::No,
