@@ -6,6 +6,8 @@
 #include "store/store.h"
 #include "store/transaccion.h"
 
+#include <exception>
+
 namespace tarvo {
 
 namespace {
@@ -63,10 +65,10 @@ void OfrecerTicket(const Servicios &servicios, const Venta &venta, const DatosCo
         servicios.impresoras.HacerActual(comprobante.impresora);
         const auto papel = servicios.impresoras.NuevoDocumento(Proposito::Ticket, solicitud.titulo);
         ImprimirTicket(*papel, solicitud);
-    } catch (const ErrorDatos &error) {
+    } catch (const std::exception &error) { // whatever it is, a sale that is stored must not stay on screen
         servicios.preguntas.Mostrar(
             QStringLiteral("No se pudo imprimir el ticket. %1\n\nLa venta quedó guardada.")
-                .arg(error.Descripcion()),
+                .arg(QString::fromUtf8(error.what())),
             Icono::Critico);
     }
 }
