@@ -245,6 +245,31 @@ TEST(ListaVista, TellsWhatTheOperatorChoseButNotWhatTheProgramSelects) {
     EXPECT_EQ(doble.first().first().toInt(), 3);
 }
 
+TEST(ListaVista, TheRowChosenByAKeyIsWhollyInView) {
+    VistaDePrueba v(300);
+    v.lista.Ordenar(0, Qt::AscendingOrder);
+    v.vista.SeleccionarFila(0);
+    const auto visible = [&] {
+        return v.vista.viewport()->rect().contains(v.vista.visualRect(v.vista.currentIndex()));
+    };
+    for (int i = 0; i < 30; ++i) {
+        Tecla(&v.vista, Qt::Key_Down);
+        EXPECT_TRUE(visible()) << i;
+    }
+    for (const Qt::Key tecla : {Qt::Key_PageDown, Qt::Key_PageDown, Qt::Key_PageUp, Qt::Key_End, Qt::Key_Home,
+                                Qt::Key_PageDown, Qt::Key_Up}) {
+        Tecla(&v.vista, tecla);
+        EXPECT_TRUE(visible()) << tecla;
+    }
+    Tecla(&v.vista, Qt::Key_End);
+    v.vista.verticalScrollBar()->setValue(0); // the wheel
+    Tecla(&v.vista, Qt::Key_End);
+    EXPECT_TRUE(visible()) << "chosen already";
+    QTest::keyClicks(&v.vista, u"fila 00150"_qs);
+    EXPECT_EQ(v.vista.FilaActual(), 150);
+    EXPECT_TRUE(visible()) << "found by its text";
+}
+
 TEST(ListaVista, AChosenRowStaysChosen) {
     VistaDePrueba v(4);
     const auto centro = [&](int fila) { return v.vista.visualRect(v.lista.index(fila, 0)).center(); };

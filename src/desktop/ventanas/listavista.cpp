@@ -13,6 +13,22 @@ namespace tarvo {
 namespace {
 
 constexpr int kTwipsPorPunto = 15;
+constexpr int kBordesCelda = 18; // pixels, beside the text of a cell, and a letter's excess over a digit
+
+// Brings the chosen row back into view also when it is the last one already.
+bool EsDeMovimiento(const QKeyEvent &evento) {
+    switch (evento.key()) {
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+    case Qt::Key_PageUp:
+    case Qt::Key_PageDown:
+    case Qt::Key_Home:
+    case Qt::Key_End:
+        return true;
+    default:
+        return false;
+    }
+}
 
 } // namespace
 
@@ -122,6 +138,8 @@ void ListaVista::resizeEvent(QResizeEvent *evento) {
 void ListaVista::keyPressEvent(QKeyEvent *evento) {
     const int antes = FilaActual();
     QTreeView::keyPressEvent(evento);
+    if (EsDeMovimiento(*evento) || FilaActual() != antes)
+        scrollTo(currentIndex());
     if (FilaActual() >= 0 && FilaActual() != antes)
         emit FilaPulsada(FilaActual());
 }
