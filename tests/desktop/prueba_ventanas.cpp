@@ -21,8 +21,10 @@
 #include <QPushButton>
 #include <QScrollBar>
 #include <QSignalSpy>
+#include <QSpinBox>
 #include <QStyledItemDelegate>
 #include <QTimer>
+#include <QWheelEvent>
 
 #include <gtest/gtest.h>
 
@@ -134,6 +136,52 @@ TEST(FiltroCampos, AShortcutOfTheWindowIsNotTakenByAField) {
     Tecla(ventana.txtUno, Qt::Key_A, Qt::ControlModifier);
     EXPECT_EQ(elegida.size(), 1);
     EXPECT_EQ(ventana.txtUno->selectedText(), u"uno") << "a key without an entry edits";
+}
+
+// Turns the wheel over a control, as the window system does.
+void Rueda(QWidget *control) {
+    const QPointF centro = QRectF(control->rect()).center();
+    QWheelEvent rueda(centro, control->mapToGlobal(centro), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
+                      Qt::NoScrollPhase, false);
+    QSpontaneKeyEvent::setSpontaneous(&rueda);
+    qApp->notify(control, &rueda);
+}
+
+TEST(FiltroCampos, TheWheelChangesNoFieldOnItsWay) {
+    VentanaDeCampos ventana;
+    auto *tardio = ventana.Poner<QSpinBox>("tardio");
+    tardio->setValue(5);
+    tardio->show();
+    QApplication::processEvents();
+    const QDate fecha = ventana.DTPTres->date();
+    for (QWidget *control : std::initializer_list<QWidget *>{ventana.cboxDos, ventana.DTPTres, tardio})
+        Rueda(control);
+    EXPECT_EQ(ConFoco(), u"txtUno") << "nor does it take the focus along";
+    ventana.cboxDos->setFocus();
+    Rueda(ventana.cboxDos);
+    EXPECT_EQ(ventana.cboxDos->currentIndex(), 0);
+    EXPECT_EQ(ventana.DTPTres->date(), fecha);
+    EXPECT_EQ(tardio->value(), 5);
+    tardio->setFocus();
+    Rueda(tardio);
+    EXPECT_EQ(tardio->value(), 4) << "being edited";
+}
+
+TEST(FiltroCampos, TheWheelScrollsWhatLiesBehindAField) {
+    struct Fondo : QWidget {
+        int veces = 0;
+        void wheelEvent(QWheelEvent *evento) override {
+            ++veces;
+            evento->accept();
+        }
+    } fondo;
+    fondo.resize(300, 200);
+    auto *combo = new QComboBox(&fondo);
+    combo->addItems({u"a"_qs, u"b"_qs});
+    const FiltroCampos filtro(&fondo);
+    MostrarVentana(fondo);
+    Rueda(combo);
+    EXPECT_EQ(fondo.veces, 1);
 }
 
 TEST(FiltroCampos, EscapeIsOfferedOncePerStrokeFromAnyControl) {

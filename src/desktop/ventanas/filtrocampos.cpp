@@ -23,6 +23,12 @@ bool EsCampo(const QWidget *control) {
            qobject_cast<const QAbstractSpinBox *>(control) != nullptr;
 }
 
+// The wheel scrolls what it is over; it must not come by a focus, and with it a field's value, on its way.
+void SinFocoPorRueda(QWidget *control) {
+    if (EsCampo(control) && control->focusPolicy() == Qt::WheelFocus)
+        control->setFocusPolicy(Qt::StrongFocus);
+}
+
 bool EsEntrar(const QKeyEvent &evento) {
     return evento.key() == Qt::Key_Return || evento.key() == Qt::Key_Enter;
 }
@@ -90,6 +96,7 @@ void FiltroCampos::AlEscapar(std::function<bool()> accion) {
 
 void FiltroCampos::Vigilar(QWidget *control) {
     control->installEventFilter(this);
+    SinFocoPorRueda(control);
     for (QObject *hijo : control->children())
         if (hijo->isWidgetType())
             Vigilar(static_cast<QWidget *>(hijo));
@@ -111,6 +118,14 @@ bool FiltroCampos::eventFilter(QObject *objeto, QEvent *evento) {
             Vigilar(static_cast<QWidget *>(hijo));
         return false;
     }
+    case QEvent::Polish: // what was added while the window lives is a whole control only now
+        SinFocoPorRueda(recibe);
+        return false;
+    case QEvent::Wheel:
+        if (recibe->window() != ventana_->window() || AdmiteRueda(recibe))
+            return false;
+        evento->ignore(); // for its parent
+        return true;
     case QEvent::ShortcutOverride:
         escapeVisto_ = false;
         if (!EsAtajo(*recibe, *static_cast<QKeyEvent *>(evento)))
@@ -137,6 +152,14 @@ bool FiltroCampos::eventFilter(QObject *objeto, QEvent *evento) {
     default:
         return false;
     }
+}
+
+// A choice is never wheeled; a number or a date is while it is being edited.
+bool FiltroCampos::AdmiteRueda(QWidget *recibe) const {
+    const QWidget *const control = ControlDe(recibe);
+    if (qobject_cast<const QComboBox *>(control) != nullptr)
+        return false;
+    return qobject_cast<const QAbstractSpinBox *>(control) == nullptr || control->hasFocus();
 }
 
 bool FiltroCampos::Tecla(QWidget *recibe, QKeyEvent *evento) {

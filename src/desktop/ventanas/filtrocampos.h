@@ -3,7 +3,8 @@
 // Enter in a text field or combo moves to the next control (and is never typed in), on a button it presses
 // it; a field that gets the focus has its text selected. A window names its exceptions. The colour of the
 // field with the focus comes from the style. A field keeps the focus while another window (a question) is
-// active: neither end is told.
+// active: neither end is told. The mouse wheel changes no combo, and a number or date only while it has the
+// focus: elsewhere it is meant for what lies behind.
 #pragma once
 
 #include <QHash>
@@ -42,6 +43,7 @@ class FiltroCampos : public QObject {
   private:
     void Vigilar(QWidget *control);
     QWidget *ControlDe(QWidget *recibe) const;
+    bool AdmiteRueda(QWidget *recibe) const;
     bool Tecla(QWidget *recibe, QKeyEvent *evento);
     bool Entrar(QWidget *control, const QKeyEvent &evento);
     bool Escapar();
