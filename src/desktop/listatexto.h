@@ -24,6 +24,7 @@ struct ColumnaLista {
     bool derecha = false; // numbers and amounts
     bool oculta = false;
     int claveOrden = -1; // column by whose text a click on this header sorts; -1: its own
+    int legibles = 0;    // so many characters can be read, however narrow the list
 };
 
 class ListaTexto : public QAbstractTableModel {

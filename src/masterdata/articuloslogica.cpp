@@ -30,14 +30,18 @@ std::vector<CampoDetalle> CamposDe(FrmBases &bases) {
     };
 }
 
-ColumnaDetalle Columna(const char *titulo, int ancho, bool derecha, Campo *campo) {
-    return {{.titulo = QString::fromUtf8(titulo), .ancho = ancho, .derecha = derecha, .oculta = ancho == 0},
+ColumnaDetalle Columna(const char *titulo, int ancho, bool derecha, Campo *campo, int legibles = 0) {
+    return {{.titulo = QString::fromUtf8(titulo),
+             .ancho = ancho,
+             .derecha = derecha,
+             .oculta = ancho == 0,
+             .legibles = legibles},
             campo};
 }
 
 std::vector<ColumnaDetalle> ColumnasDe(FrmBases &bases) {
     return {
-        Columna("Código", 2381, false, &bases.camArtCodigo),
+        Columna("Código", 2381, false, &bases.camArtCodigo, 7),
         Columna("Artículo", 4145, false, &bases.camArtNombre),
         Columna("Stock", 1411, true, &bases.camArtStock),
         Columna("P. Compra", 2117, true, &bases.camArtPCompra),
@@ -284,10 +288,6 @@ void ArticulosLogica::CalcularPVenta() {
     vista().Poner(kPVenta, moneda.FormatoMoneda(neto + porcentaje / 100 * neto, true));
 }
 
-QString ArticulosLogica::AMostrar(int campo, const QString &guardado) const {
-    const bool importe = campo == kPCompra || campo == kSubtotal;
-    return importe ? frmBases().moneda().FormatoMoneda(guardado, true) : guardado;
-}
 // A price that came into the table as another text is shown as it is, but nobody types a new one.
 bool ArticulosLogica::CamposValidos() {
     for (const int campo : {kPCompra, kSubtotal}) {
@@ -300,6 +300,10 @@ bool ArticulosLogica::CamposValidos() {
     return true;
 }
 
+QString ArticulosLogica::AMostrar(int campo, const QString &guardado) const {
+    const bool importe = campo == kPCompra || campo == kSubtotal;
+    return importe ? frmBases().moneda().FormatoMoneda(guardado, true) : guardado;
+}
 
 QString ArticulosLogica::AGuardar(int campo) const {
     const QString texto = ListaDetalle::AGuardar(campo);

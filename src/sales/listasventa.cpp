@@ -104,8 +104,8 @@ QString EntradaVendedor(const FrmBases &bases) {
 } // namespace
 
 std::vector<ColumnaLista> ColumnasArticulos() {
-    return {{QStringLiteral("Código"), 800},
-            {QStringLiteral("Cód. Barras"), 1180},
+    return {{.titulo = QStringLiteral("Código"), .ancho = 800, .legibles = 7},
+            {.titulo = QStringLiteral("Cód. Barras"), .ancho = 1180, .legibles = 13},
             {QStringLiteral("Artículo"), 1700},
             {QStringLiteral("Stock"), 600, true},
             {QStringLiteral("P. Unitario"), 945, true},
@@ -115,7 +115,7 @@ std::vector<ColumnaLista> ColumnasArticulos() {
 }
 
 std::vector<ColumnaLista> ColumnasDetalle() {
-    return {{QStringLiteral("Código"), 860},
+    return {{.titulo = QStringLiteral("Código"), .ancho = 860, .legibles = 7},
             {QStringLiteral("Artículo"), 2200},
             {QStringLiteral("P. Unitario"), 1045, true},
             {QStringLiteral("Cantidad"), 945, true},

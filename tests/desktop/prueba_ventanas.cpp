@@ -335,6 +335,39 @@ TEST(ListaVista, AChosenRowStaysChosen) {
     EXPECT_EQ(v.vista.FilaActual(), 2);
 }
 
+// The part of `zona` that differs between the two pictures.
+QRect Cambiado(const QImage &antes, const QImage &despues, const QRect &zona) {
+    QRect cambio;
+    for (int y = zona.top(); y <= zona.bottom(); ++y)
+        for (int x = zona.left(); x <= zona.right(); ++x)
+            if (antes.pixel(x, y) != despues.pixel(x, y))
+                cambio |= QRect(x, y, 1, 1);
+    return cambio;
+}
+
+TEST(ListaVista, TheSortIconStandsBesideItsCaptionAndMovesNoBorder) {
+    VistaDePrueba v(3);
+    v.vista.resize(150, 300); // so narrow that the captions alone set the widths
+    const auto ancho = [&](int columna) { return v.vista.columnWidth(columna); };
+    const QImage antes = v.vista.header()->grab().toImage();
+    const std::pair<int, int> anchos{ancho(0), ancho(1)};
+    for (const int columna : {0, 1}) {
+        SCOPED_TRACE(columna);
+        v.lista.Ordenar(columna, Qt::AscendingOrder);
+        EXPECT_EQ(std::pair(ancho(0), ancho(1)), anchos);
+        const QImage despues = v.vista.header()->grab().toImage();
+        const int x = v.vista.header()->sectionViewportPosition(columna);
+        const QRect icono = Cambiado(antes, despues, {x, 0, ancho(columna), antes.height()});
+        const int texto = v.vista.header()->fontMetrics().horizontalAdvance(
+            v.lista.headerData(columna, Qt::Horizontal).toString());
+        ASSERT_FALSE(icono.isNull());
+        EXPECT_LT(icono.width(), 12) << "the caption is painted where it was";
+        const int hueco = columna == 0 ? icono.left() - (x + texto) : x + ancho(1) - texto - icono.right();
+        EXPECT_GT(hueco, 0);
+        EXPECT_LT(hueco, 20);
+    }
+}
+
 TEST(ListaVista, ColumnsShareTheWidthAndHiddenOnesTakeNone) {
     VistaDePrueba v(3);
     const auto ancho = [&](int columna) { return v.vista.columnWidth(columna); };
@@ -346,6 +379,21 @@ TEST(ListaVista, ColumnsShareTheWidthAndHiddenOnesTakeNone) {
     v.vista.PonerAncho(1, 3000);
     EXPECT_NEAR(ancho(0), ancho(1), 1);
     EXPECT_EQ(v.vista.horizontalScrollBar()->maximum(), 0);
+}
+
+TEST(ListaVista, ACodeCanBeReadHoweverNarrowTheList) {
+    ListaTexto lista{
+        {{.titulo = u"C"_qs, .ancho = 100, .legibles = 13}, {.titulo = u"Otra"_qs, .ancho = 9000}}};
+    ListaVista vista;
+    vista.resize(200, 100);
+    vista.Mostrar(&lista);
+    lista.AgregarFila({u"7790001234567"_qs, {}});
+    MostrarVentana(vista);
+    const QImage entero = vista.viewport()->grab().toImage();
+    vista.resize(1000, 100);
+    vista.PonerAncho(0, 9000);
+    const int hasta = vista.fontMetrics().horizontalAdvance(lista.Celda(0, 0)) + 10;
+    EXPECT_EQ(entero.copy(0, 0, hasta, 15), vista.viewport()->grab().toImage().copy(0, 0, hasta, 15));
 }
 
 TEST(ListaVista, RowsOverflowJustWhenTheScrollBarTakesRoom) {
@@ -368,6 +416,7 @@ TEST(ListaVista, RowsOverflowJustWhenTheScrollBarTakesRoom) {
         v.vista.resize(500, 300 + pixeles);
         EXPECT_LE(desbordan(), antes + 1);
     }
+    EXPECT_EQ(desbordan(), antes + 1) << "a row higher, a row more";
 }
 
 TEST(ListaVista, AnyTextIsShownOnOneLine) {
@@ -382,6 +431,37 @@ TEST(ListaVista, AnyTextIsShownOnOneLine) {
     }
     EXPECT_EQ(qobject_cast<QStyledItemDelegate *>(v.vista.itemDelegate())->displayText(u"a\nb\tc"_qs, {}),
               u"a b c");
+}
+
+TEST(EtiquetaElidida, LabelAndComboShowInTheTipWhatTheyCut) {
+    QWidget fondo;
+    fondo.resize(600, 200);
+    EtiquetaElidida etiqueta;
+    auto &combo = *new ComboElidido(&fondo);
+    combo.resize(120, 26);
+    etiqueta.resize(120, 26);
+    for (const QString &texto :
+         {u"Ana & Cía"_qs, QString(40, u'W') + u" & <b>x</b>"_qs, u"Línea\ndos <b"_qs}) {
+        etiqueta.setText(texto);
+        combo.clear();
+        combo.addItem(texto);
+        etiqueta.grab();
+        combo.grab();
+        const bool cortado = texto.size() > 20;
+        EXPECT_EQ(etiqueta.toolTip(), cortado ? texto.toHtmlEscaped() : QString());
+        EXPECT_EQ(combo.toolTip(), etiqueta.toolTip());
+        EXPECT_EQ(combo.currentText(), texto);
+    }
+    etiqueta.setText(QString(40, u'W') + u" & 1"_qs); // no markup: nothing to escape
+    etiqueta.grab();
+    EXPECT_EQ(etiqueta.toolTip(), etiqueta.text());
+    EXPECT_EQ(etiqueta.minimumSizeHint().width(), 0);
+    combo.setItemText(0, QString(30, u'W'));
+    MostrarVentana(fondo);
+    combo.showPopup();
+    EXPECT_GE(combo.view()->viewport()->width(), combo.fontMetrics().horizontalAdvance(QString(30, u'W')));
+    EXPECT_LE(combo.view()->width(), 600);
+    combo.hidePopup();
 }
 
 // Answers the next message box by a key and tells what it was.
@@ -471,35 +551,3 @@ TEST(Iconos, EveryPictureIsDrawn) {
 
 } // namespace
 } // namespace tarvo
-TEST(EtiquetaElidida, LabelAndComboShowInTheTipWhatTheyCut) {
-    EXPECT_EQ(desbordan(), antes + 1) << "a row higher, a row more";
-    QWidget fondo;
-    fondo.resize(600, 200);
-    EtiquetaElidida etiqueta;
-    auto &combo = *new ComboElidido(&fondo);
-    combo.resize(120, 26);
-    etiqueta.resize(120, 26);
-    for (const QString &texto :
-         {u"Ana & Cía"_qs, QString(40, u'W') + u" & <b>x</b>"_qs, u"Línea\ndos <b"_qs}) {
-        etiqueta.setText(texto);
-        combo.clear();
-        combo.addItem(texto);
-        etiqueta.grab();
-        combo.grab();
-        const bool cortado = texto.size() > 20;
-        EXPECT_EQ(etiqueta.toolTip(), cortado ? texto.toHtmlEscaped() : QString());
-        EXPECT_EQ(combo.toolTip(), etiqueta.toolTip());
-        EXPECT_EQ(combo.currentText(), texto);
-    }
-    etiqueta.setText(QString(40, u'W') + u" & 1"_qs); // no markup: nothing to escape
-    etiqueta.grab();
-    EXPECT_EQ(etiqueta.toolTip(), etiqueta.text());
-    EXPECT_EQ(etiqueta.minimumSizeHint().width(), 0);
-    combo.setItemText(0, QString(30, u'W'));
-    MostrarVentana(fondo);
-    combo.showPopup();
-    EXPECT_GE(combo.view()->viewport()->width(), combo.fontMetrics().horizontalAdvance(QString(30, u'W')));
-    EXPECT_LE(combo.view()->width(), 600);
-    combo.hidePopup();
-}
-

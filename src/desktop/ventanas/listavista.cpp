@@ -2,6 +2,7 @@
 
 #include "desktop/anchos.h"
 #include "desktop/ventanas/delegadolista.h"
+#include "desktop/ventanas/encabezadolista.h"
 
 #include <QHeaderView>
 #include <QMouseEvent>
@@ -52,11 +53,8 @@ ListaVista::ListaVista(QWidget *padre) : QTreeView(padre) {
 }
 
 void ListaVista::Encabezar() {
-    header()->setSectionsMovable(false);
-    header()->setSectionsClickable(true);
-    header()->setHighlightSections(false);
-    header()->setStretchLastSection(false);
-    header()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    setHeader(new EncabezadoLista(this));
+    header()->setSectionsClickable(true); // a new header of a tree isn't
     connect(header(), &QHeaderView::sectionClicked, this, [this](int columna) {
         lista_->ClicEncabezado(columna);
         scrollTo(currentIndex());
@@ -75,7 +73,7 @@ void ListaVista::Mostrar(ListaTexto *lista) {
         setColumnHidden(static_cast<int>(anchos_.size()), columna.oculta);
         anchos_.push_back(columna.ancho);
     }
-    // A caption changes, or the sort icon needs room in another header.
+    // A caption changes.
     seguimiento_ = connect(lista, &QAbstractItemModel::headerDataChanged, this, &ListaVista::RepartirAnchos);
     RepartirAnchos();
 }
@@ -164,6 +162,15 @@ QItemSelectionModel::SelectionFlags ListaVista::selectionCommand(const QModelInd
                             : QItemSelectionModel::SelectionFlags(QItemSelectionModel::NoUpdate);
 }
 
+// The caption with its sort icon, and the characters that the column promises.
+int ListaVista::AnchoMinimo(int columna) const {
+    const int rotulo = header()->sectionSizeHint(columna);
+    const int legibles = lista_->Columnas()[static_cast<std::size_t>(columna)].legibles;
+    if (legibles == 0)
+        return rotulo;
+    return qMax(rotulo, fontMetrics().horizontalAdvance(QString(legibles, u'0')) + kBordesCelda);
+}
+
 void ListaVista::RepartirAnchos() {
     if (lista_.isNull())
         return;
@@ -175,7 +182,7 @@ void ListaVista::RepartirAnchos() {
             continue;
         columnas.push_back(i);
         pesos.push_back(anchos_[static_cast<std::size_t>(i)]);
-        minimos.push_back(header()->sectionSizeHint(i));
+        minimos.push_back(AnchoMinimo(i));
     }
     const std::vector<int> anchos = RepartirAncho(viewport()->width(), pesos, minimos);
     const QScopedValueRollback repartiendo(repartiendo_, true);

@@ -47,6 +47,7 @@ class ListaVista : public QTreeView {
   private:
     void Encabezar();
     void RepartirAnchos();
+    int AnchoMinimo(int columna) const;
     void Arrastrado();
     QPointer<ListaTexto> lista_;
     std::vector<int> anchos_; // twips, by column
