@@ -123,8 +123,9 @@ void Conexion::ComprobarTabla(const char *esquema, const char *tabla,
         throw ErrorDatos(errores::kBaseIlegible, QStringLiteral("Falta la tabla %1.").arg(nombre));
     for (const char *columna : columnas)
         if (!hay(columna))
-            throw ErrorDatos(errores::kBaseIlegible, QStringLiteral("Falta la columna %1 de la tabla %2.")
-                                                         .arg(QString::fromUtf8(columna), nombre));
+            throw ErrorDatos(
+                errores::kBaseIlegible,
+                QStringLiteral("Falta la columna %1 de %2.").arg(QString::fromUtf8(columna), nombre));
     if (!hay("id") || clave == 0 || sqlite3_stricmp(tipo, "INTEGER") != 0)
         throw ErrorDatos(errores::kBaseIlegible,
                          QStringLiteral("La tabla %1 no tiene el contador id.").arg(nombre));
