@@ -106,7 +106,11 @@ void Girador::mouseReleaseEvent(QMouseEvent *) {
     update();
 }
 
+// Only the number that is being edited is wheeled.
 void Girador::wheelEvent(QWheelEvent *evento) {
+    evento->ignore();
+    if (!campo_->hasFocus())
+        return;
     if (evento->angleDelta().y() != 0)
         triggerAction(evento->angleDelta().y() > 0 ? SliderSingleStepSub : SliderSingleStepAdd);
     evento->accept();

@@ -1,0 +1,228 @@
+#include "desktop/ventanas/filtrocampos.h"
+#include "desktop/ventanas/girador.h"
+#include "testkit/manos.h"
+
+#include <QClipboard>
+#include <QComboBox>
+#include <QDateEdit>
+#include <QDialog>
+#include <QHBoxLayout>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QSpinBox>
+#include <QWheelEvent>
+
+#include <gtest/gtest.h>
+
+namespace tarvo {
+namespace {
+
+// A window with one field of each kind, in this tab order.
+struct VentanaDeCampos : QWidget {
+    QLineEdit *txtUno = Poner<QLineEdit>("txtUno");
+    QComboBox *cboxDos = Poner<QComboBox>("cboxDos");
+    QDateEdit *DTPTres = Poner<QDateEdit>("DTPTres");
+    QLineEdit *txtApagado = Poner<QLineEdit>("txtApagado");
+    QPushButton *cmdCuatro = Poner<QPushButton>("cmdCuatro");
+    QLineEdit *txtCinco = Poner<QLineEdit>("txtCinco");
+    FiltroCampos filtro{this};
+
+    VentanaDeCampos() {
+        cboxDos->addItems({u"a"_qs, u"b"_qs});
+        txtUno->setText(u"uno"_qs);
+        txtCinco->setText(u"cinco"_qs);
+        txtApagado->setEnabled(false);
+        MostrarVentana(*this);
+        txtUno->setFocus();
+    }
+
+    template <typename T> T *Poner(const char *nombre) {
+        if (layout() == nullptr)
+            new QHBoxLayout(this);
+        auto *control = new T(this);
+        control->setObjectName(QString::fromUtf8(nombre));
+        layout()->addWidget(control);
+        return control;
+    }
+};
+
+TEST(FiltroCampos, EnterWalksTheFieldsAndPressesButtons) {
+    VentanaDeCampos ventana;
+    QSignalSpy pulsado(ventana.cmdCuatro, &QPushButton::clicked);
+    QStringList camino{ConFoco()};
+    for (int i = 0; i < 4; ++i) {
+        Tecla(QApplication::focusWidget(), i % 2 == 0 ? Qt::Key_Return : Qt::Key_Enter);
+        camino.append(ConFoco());
+    }
+    EXPECT_EQ(camino.join(u' '), u"txtUno cboxDos DTPTres cmdCuatro cmdCuatro")
+        << "disabled ones are left out";
+    EXPECT_EQ(pulsado.size(), 1);
+    EXPECT_EQ(ventana.txtUno->text(), u"uno");
+}
+
+TEST(FiltroCampos, AWindowNamesItsExceptions) {
+    VentanaDeCampos ventana;
+    QStringList hechos;
+    ventana.filtro.AlEntrar(ventana.txtUno, [&] { hechos.append(u"entrar"_qs); });
+    ventana.filtro.AlSuprimir(ventana.txtUno, [&] { hechos.append(u"suprimir"_qs); });
+    ventana.filtro.AlFlecha(ventana.txtUno, [&](int paso) { hechos.append(QString::number(paso)); });
+    for (const Qt::Key tecla : {Qt::Key_Return, Qt::Key_Delete, Qt::Key_Up, Qt::Key_Down})
+        Tecla(ventana.txtUno, tecla);
+    EXPECT_EQ(hechos.join(u' '), u"entrar suprimir 1 -1");
+    EXPECT_EQ(ConFoco(), u"txtUno");
+    EXPECT_EQ(ventana.txtUno->text(), u"uno");
+    delete ventana.txtUno; // its entries go with it
+    Tecla(ventana.txtCinco, Qt::Key_Return);
+}
+
+TEST(FiltroCampos, AFieldThatGetsTheFocusHasItsTextSelected) {
+    VentanaDeCampos ventana;
+    EXPECT_EQ(ventana.txtUno->selectedText(), u"uno");
+    Pulsar(ventana.txtCinco);
+    EXPECT_EQ(ventana.txtCinco->selectedText(), u"cinco") << "a click doesn't unselect";
+    Pulsar(ventana.txtCinco);
+    EXPECT_FALSE(ventana.txtCinco->hasSelectedText()) << "the second click places the cursor";
+    ventana.filtro.AlFoco(ventana.txtUno, [&](bool entra) {
+        if (entra)
+            ventana.txtUno->setText(u"12"_qs);
+    });
+    ventana.txtUno->setFocus();
+    EXPECT_EQ(ventana.txtUno->selectedText(), u"12") << "what the window put there is selected";
+}
+
+TEST(FiltroCampos, TheFocusIsToldOnceAndNotWhileAnotherWindowAsks) {
+    VentanaDeCampos ventana;
+    QStringList hechos;
+    for (QWidget *campo : std::initializer_list<QWidget *>{ventana.cboxDos, ventana.DTPTres})
+        ventana.filtro.AlFoco(
+            campo, [&, campo](bool entra) { hechos.append((entra ? u'+' : u'-') + campo->objectName()); });
+    ventana.cboxDos->setFocus();
+    {
+        QDialog otra(&ventana);
+        MostrarVentana(otra);
+    }
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&ventana));
+    EXPECT_EQ(hechos.join(u' '), u"+cboxDos");
+    ventana.DTPTres->setFocus();
+    EXPECT_EQ(hechos.join(u' '), u"+cboxDos -cboxDos +DTPTres");
+}
+
+// Ctrl+A stands for any letter that is an editing key of a field and a shortcut of the window.
+TEST(FiltroCampos, AShortcutOfTheWindowIsNotTakenByAField) {
+    VentanaDeCampos ventana;
+    auto *entrada = new QAction(&ventana);
+    ventana.addAction(entrada);
+    entrada->setShortcut(Qt::CTRL | Qt::Key_A);
+    QSignalSpy elegida(entrada, &QAction::triggered);
+    ventana.txtUno->deselect();
+    Tecla(ventana.txtUno, Qt::Key_A, Qt::ControlModifier);
+    EXPECT_EQ(elegida.size(), 1);
+    EXPECT_FALSE(ventana.txtUno->hasSelectedText());
+    entrada->setEnabled(false);
+    Tecla(ventana.txtUno, Qt::Key_A, Qt::ControlModifier);
+    EXPECT_EQ(elegida.size(), 1);
+    EXPECT_EQ(ventana.txtUno->selectedText(), u"uno") << "a key without an entry edits";
+}
+
+// Turns the wheel over a control, as the window system does.
+void Rueda(QWidget *control) {
+    const QPointF centro = QRectF(control->rect()).center();
+    QWheelEvent rueda(centro, control->mapToGlobal(centro), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
+                      Qt::NoScrollPhase, false);
+    QSpontaneKeyEvent::setSpontaneous(&rueda);
+    qApp->notify(control, &rueda);
+}
+
+TEST(FiltroCampos, TheWheelChangesNoFieldOnItsWay) {
+    VentanaDeCampos ventana;
+    auto *tardio = ventana.Poner<QSpinBox>("tardio");
+    tardio->setValue(5);
+    tardio->show();
+    QApplication::processEvents();
+    const QDate fecha = ventana.DTPTres->date();
+    for (QWidget *control : std::initializer_list<QWidget *>{ventana.cboxDos, ventana.DTPTres, tardio})
+        Rueda(control);
+    EXPECT_EQ(ConFoco(), u"txtUno") << "nor does it take the focus along";
+    ventana.cboxDos->setFocus();
+    Rueda(ventana.cboxDos);
+    EXPECT_EQ(ventana.cboxDos->currentIndex(), 0);
+    EXPECT_EQ(ventana.DTPTres->date(), fecha);
+    EXPECT_EQ(tardio->value(), 5);
+    tardio->setFocus();
+    Rueda(tardio);
+    EXPECT_EQ(tardio->value(), 4) << "being edited";
+}
+
+TEST(Girador, OnlyTheNumberBeingEditedIsWheeled) {
+    QWidget ventana;
+    QLineEdit campo(u"7"_qs, &ventana);
+    QLineEdit otro(&ventana);
+    Girador girador(&ventana);
+    girador.Acompanar(&campo, 0, 99);
+    MostrarVentana(ventana);
+    otro.setFocus();
+    Rueda(&girador);
+    EXPECT_EQ(campo.text(), u"7");
+    campo.setFocus();
+    Rueda(&girador);
+    EXPECT_EQ(campo.text(), u"6");
+}
+
+TEST(FiltroCampos, TheWheelScrollsWhatLiesBehindAField) {
+    struct Fondo : QWidget {
+        int veces = 0;
+        void wheelEvent(QWheelEvent *evento) override {
+            ++veces;
+            evento->accept();
+        }
+    } fondo;
+    fondo.resize(300, 200);
+    auto *combo = new QComboBox(&fondo);
+    combo->addItems({u"a"_qs, u"b"_qs});
+    const FiltroCampos filtro(&fondo);
+    MostrarVentana(fondo);
+    Rueda(combo);
+    EXPECT_EQ(fondo.veces, 1);
+}
+
+TEST(FiltroCampos, EscapeIsOfferedOncePerStrokeFromAnyControl) {
+    VentanaDeCampos ventana;
+    int veces = 0;
+    bool hecho = false;
+    ventana.filtro.AlEscapar([&] {
+        ++veces;
+        return hecho;
+    });
+    auto *marco = ventana.Poner<QFrame>("frNuevo");
+    auto *tardio = new QLineEdit(marco); // added behind the filter's back, two levels deep
+    tardio->show();
+    for (QWidget *control :
+         std::initializer_list<QWidget *>{tardio, ventana.cboxDos, ventana.cmdCuatro, &ventana}) {
+        Tecla(control, Qt::Key_Escape);
+        Tecla(control, Qt::Key_Escape);
+    }
+    EXPECT_EQ(veces, 8);
+    hecho = true;
+    Tecla(tardio, Qt::Key_Escape);
+    EXPECT_EQ(veces, 9);
+}
+
+TEST(SoloCaracteres, DropsWhatIsNotAllowedTypedOrPasted) {
+    QLineEdit campo;
+    SoloCaracteres(&campo, u"0123456789"_qs);
+    MostrarVentana(campo);
+    Teclear(&campo, u"a1b2,3"_qs);
+    EXPECT_EQ(campo.text(), u"123");
+    Tecla(&campo, Qt::Key_Backspace);
+    Tecla(&campo, Qt::Key_Home);
+    QApplication::clipboard()->setText(u"x9-8 7"_qs);
+    campo.paste();
+    EXPECT_EQ(campo.text(), u"98712");
+    EXPECT_EQ(campo.cursorPosition(), 3);
+    campo.setText(u"$ 12,50"_qs);
+    EXPECT_EQ(campo.text(), u"$ 12,50") << "the program's own text stays";
+}
+
+} // namespace
+} // namespace tarvo

@@ -1,0 +1,226 @@
+#include "desktop/ventanas/listavista.h"
+#include "testkit/manos.h"
+
+#include <QHeaderView>
+#include <QScrollBar>
+#include <QSignalSpy>
+#include <QStyledItemDelegate>
+
+#include <gtest/gtest.h>
+
+namespace tarvo {
+namespace {
+
+struct VistaDePrueba {
+    ListaTexto lista{{{u"Texto"_qs, 3000}, {u"Cantidad"_qs, 1000, true}, {u"id"_qs, 0, false, true}}};
+    ListaVista vista;
+
+    explicit VistaDePrueba(int filas) {
+        for (int i = 0; i < filas; ++i)
+            lista.AgregarFila({QStringLiteral("fila %1").arg((i * 7) % filas, 5, 10, QLatin1Char('0')),
+                               QString::number(i), QString::number(i)});
+        vista.resize(500, 300);
+        vista.Mostrar(&lista);
+        MostrarVentana(vista);
+    }
+    QString IdActual() const { return lista.Celda(vista.FilaActual(), 2); }
+    void ClicEncabezado(int columna) {
+        QTest::mouseClick(vista.header()->viewport(), Qt::LeftButton, {},
+                          {vista.header()->sectionViewportPosition(columna) + 20, 5});
+    }
+    void ClicFila(int fila) {
+        QTest::mouseClick(vista.viewport(), Qt::LeftButton, {},
+                          vista.visualRect(lista.index(fila, 0)).center());
+    }
+};
+
+TEST(ListaVista, TheSelectedRowStaysSelectedThroughASortAndGoesWithAFill) {
+    VistaDePrueba v(101);
+    v.vista.SeleccionarFila(60);
+    v.ClicEncabezado(0);
+    EXPECT_EQ(v.lista.ColumnaOrden(), 0);
+    EXPECT_EQ(v.IdActual(), u"60");
+    EXPECT_NE(v.vista.FilaActual(), 60);
+    v.ClicEncabezado(0);
+    EXPECT_EQ(v.lista.Orden(), Qt::DescendingOrder);
+    EXPECT_EQ(v.IdActual(), u"60");
+    v.lista.Limpiar();
+    EXPECT_EQ(v.vista.FilaActual(), -1);
+}
+
+// Places are told from the row number; they must be those where the row is painted and clicked.
+TEST(ListaVista, PlacesAgreeWithWhatIsHit) {
+    VistaDePrueba v(400);
+    for (const int fila : {0, 399, 200, 201, 180}) {
+        v.vista.SeleccionarFila(fila);
+        const QRect lugar = v.vista.visualRect(v.lista.index(fila, 1));
+        EXPECT_TRUE(v.vista.viewport()->rect().contains(lugar)) << fila << " is not wholly in view";
+        EXPECT_EQ(v.vista.indexAt(lugar.center()), v.lista.index(fila, 1));
+        EXPECT_EQ(v.vista.indexAt(lugar.topLeft()), v.lista.index(fila, 1));
+        EXPECT_EQ(v.vista.indexAt(lugar.bottomLeft()), v.lista.index(fila, 1));
+    }
+    v.vista.SeleccionarFila(-1);
+    EXPECT_EQ(v.vista.FilaActual(), -1);
+}
+
+TEST(ListaVista, TellsWhatTheOperatorChoseButNotWhatTheProgramSelects) {
+    VistaDePrueba v(20);
+    QList<int> filas;
+    QObject::connect(&v.vista, &ListaVista::FilaPulsada, &v.vista, [&](int fila) { filas.append(fila); });
+    v.vista.SeleccionarFila(2);
+    v.ClicFila(2);
+    v.ClicFila(4);
+    Tecla(&v.vista, Qt::Key_Down);
+    Tecla(&v.vista, Qt::Key_Up);
+    Tecla(&v.vista, Qt::Key_Shift);
+    EXPECT_EQ(filas, (QList<int>{2, 4, 5, 4}));
+    QSignalSpy doble(&v.vista, &ListaVista::FilaDobleClic);
+    v.ClicFila(3);
+    QTest::mouseDClick(v.vista.viewport(), Qt::LeftButton, {},
+                       v.vista.visualRect(v.lista.index(3, 0)).center());
+    ASSERT_EQ(doble.size(), 1);
+    EXPECT_EQ(doble.first().first().toInt(), 3);
+}
+
+TEST(ListaVista, TheRowChosenByAKeyIsWhollyInView) {
+    VistaDePrueba v(300);
+    v.lista.Ordenar(0, Qt::AscendingOrder);
+    v.vista.SeleccionarFila(0);
+    const auto visible = [&] {
+        return v.vista.viewport()->rect().contains(v.vista.visualRect(v.vista.currentIndex()));
+    };
+    for (int i = 0; i < 30; ++i) {
+        Tecla(&v.vista, Qt::Key_Down);
+        EXPECT_TRUE(visible()) << i;
+    }
+    for (const Qt::Key tecla : {Qt::Key_PageDown, Qt::Key_PageDown, Qt::Key_PageUp, Qt::Key_End, Qt::Key_Home,
+                                Qt::Key_PageDown, Qt::Key_Up}) {
+        Tecla(&v.vista, tecla);
+        EXPECT_TRUE(visible()) << tecla;
+    }
+    Tecla(&v.vista, Qt::Key_End);
+    v.vista.verticalScrollBar()->setValue(0); // the wheel
+    Tecla(&v.vista, Qt::Key_End);
+    EXPECT_TRUE(visible()) << "chosen already";
+    QTest::keyClicks(&v.vista, u"fila 00150"_qs);
+    EXPECT_EQ(v.vista.FilaActual(), 150);
+    EXPECT_TRUE(visible()) << "found by its text";
+}
+
+TEST(ListaVista, AChosenRowStaysChosen) {
+    VistaDePrueba v(4);
+    const auto centro = [&](int fila) { return v.vista.visualRect(v.lista.index(fila, 0)).center(); };
+    QWidget *papel = v.vista.viewport();
+    v.ClicFila(2);
+    QTest::mouseClick(papel, Qt::LeftButton, Qt::ControlModifier, centro(2));
+    EXPECT_EQ(v.vista.FilaActual(), 2);
+    QTest::mouseClick(papel, Qt::LeftButton, {}, {20, papel->height() - 5});
+    EXPECT_EQ(v.vista.FilaActual(), 2) << "a click below the rows";
+    QTest::mousePress(papel, Qt::LeftButton, {}, centro(1));
+    QTest::mouseMove(papel, centro(3));
+    QTest::mouseRelease(papel, Qt::LeftButton, {}, centro(3));
+    EXPECT_EQ(v.vista.FilaActual(), 1) << "dragging over other rows";
+    Tecla(&v.vista, Qt::Key_Down, Qt::ControlModifier);
+    EXPECT_EQ(v.vista.FilaActual(), 2);
+}
+
+// The part of `zona` that differs between the two pictures.
+QRect Cambiado(const QImage &antes, const QImage &despues, const QRect &zona) {
+    QRect cambio;
+    for (int y = zona.top(); y <= zona.bottom(); ++y)
+        for (int x = zona.left(); x <= zona.right(); ++x)
+            if (antes.pixel(x, y) != despues.pixel(x, y))
+                cambio |= QRect(x, y, 1, 1);
+    return cambio;
+}
+
+TEST(ListaVista, TheSortIconStandsBesideItsCaptionAndMovesNoBorder) {
+    VistaDePrueba v(3);
+    v.vista.resize(150, 300); // so narrow that the captions alone set the widths
+    const auto ancho = [&](int columna) { return v.vista.columnWidth(columna); };
+    const QImage antes = v.vista.header()->grab().toImage();
+    const std::pair<int, int> anchos{ancho(0), ancho(1)};
+    for (const int columna : {0, 1}) {
+        SCOPED_TRACE(columna);
+        v.lista.Ordenar(columna, Qt::AscendingOrder);
+        EXPECT_EQ(std::pair(ancho(0), ancho(1)), anchos);
+        const QImage despues = v.vista.header()->grab().toImage();
+        const int x = v.vista.header()->sectionViewportPosition(columna);
+        const QRect icono = Cambiado(antes, despues, {x, 0, ancho(columna), antes.height()});
+        const int texto = v.vista.header()->fontMetrics().horizontalAdvance(
+            v.lista.headerData(columna, Qt::Horizontal).toString());
+        ASSERT_FALSE(icono.isNull());
+        EXPECT_LT(icono.width(), 12) << "the caption is painted where it was";
+        const int hueco = columna == 0 ? icono.left() - (x + texto) : x + ancho(1) - texto - icono.right();
+        EXPECT_GT(hueco, 0);
+        EXPECT_LT(hueco, 20);
+    }
+}
+
+TEST(ListaVista, ColumnsShareTheWidthAndHiddenOnesTakeNone) {
+    VistaDePrueba v(3);
+    const auto ancho = [&](int columna) { return v.vista.columnWidth(columna); };
+    EXPECT_TRUE(v.vista.isColumnHidden(2));
+    EXPECT_EQ(ancho(0) + ancho(1), v.vista.viewport()->width());
+    EXPECT_NEAR(ancho(0), 3 * ancho(1), 3);
+    v.vista.resize(900, 300);
+    EXPECT_EQ(ancho(0) + ancho(1), v.vista.viewport()->width());
+    v.vista.PonerAncho(1, 3000);
+    EXPECT_NEAR(ancho(0), ancho(1), 1);
+    EXPECT_EQ(v.vista.horizontalScrollBar()->maximum(), 0);
+}
+
+TEST(ListaVista, ACodeCanBeReadHoweverNarrowTheList) {
+    ListaTexto lista{
+        {{.titulo = u"C"_qs, .ancho = 100, .legibles = 13}, {.titulo = u"Otra"_qs, .ancho = 9000}}};
+    ListaVista vista;
+    vista.resize(200, 100);
+    vista.Mostrar(&lista);
+    lista.AgregarFila({u"7790001234567"_qs, {}});
+    MostrarVentana(vista);
+    const QImage entero = vista.viewport()->grab().toImage();
+    vista.resize(1000, 100);
+    vista.PonerAncho(0, 9000);
+    const int hasta = vista.fontMetrics().horizontalAdvance(lista.Celda(0, 0)) + 10;
+    EXPECT_EQ(entero.copy(0, 0, hasta, 15), vista.viewport()->grab().toImage().copy(0, 0, hasta, 15));
+}
+
+TEST(ListaVista, RowsOverflowJustWhenTheScrollBarTakesRoom) {
+    VistaDePrueba v(0);
+    // How many rows are one too many for the height.
+    const auto desbordan = [&] {
+        v.lista.Limpiar();
+        do {
+            v.lista.AgregarFila({});
+            v.vista.doItemsLayout();
+            QApplication::processEvents();
+            EXPECT_EQ(v.vista.DesbordaFilas(), v.vista.verticalScrollBar()->maximum() > 0) << v.lista.Filas();
+        } while (!v.vista.DesbordaFilas() && v.lista.Filas() < 50);
+        return v.lista.Filas();
+    };
+    const int antes = desbordan();
+    const int fila = v.vista.visualRect(v.lista.index(0, 0)).height();
+    for (int pixeles = 1; pixeles <= fila; ++pixeles) {
+        SCOPED_TRACE(pixeles);
+        v.vista.resize(500, 300 + pixeles);
+        EXPECT_LE(desbordan(), antes + 1);
+    }
+    EXPECT_EQ(desbordan(), antes + 1) << "a row higher, a row more";
+}
+
+TEST(ListaVista, AnyTextIsShownOnOneLine) {
+    VistaDePrueba v(1);
+    const int alto = v.vista.visualRect(v.lista.index(0, 0)).height();
+    for (const QString &texto : {u"a\nb\r\nc\td"_qs, QString(10000, u'W'), u"\0\x1b\x7f"_qs,
+                                 u"😀👩‍👩‍👧 \u202eabc"_qs}) {
+        v.lista.PonerCelda(0, 0, texto);
+        v.vista.grab();
+        EXPECT_EQ(v.vista.visualRect(v.lista.index(0, 0)).height(), alto);
+        EXPECT_EQ(v.lista.Celda(0, 0), texto) << "the cell itself keeps its text";
+    }
+    EXPECT_EQ(qobject_cast<QStyledItemDelegate *>(v.vista.itemDelegate())->displayText(u"a\nb\tc"_qs, {}),
+              u"a b c");
+}
+
+} // namespace
+} // namespace tarvo
