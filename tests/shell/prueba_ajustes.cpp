@@ -27,16 +27,6 @@ TEST(Medidas, WindowSizeFollowsTheScreenWidth) {
         EXPECT_EQ(TamanoPorPantalla(ATwips(caso.pixeles)), caso.esperado) << caso.pixeles;
 }
 
-TEST(Medidas, NarrowWindowGivesUpItsLastButtons) {
-    EXPECT_TRUE(CabeSalir(11951));
-    EXPECT_FALSE(CabeSalir(11950));
-    EXPECT_TRUE(CabeAyuda(11001));
-    EXPECT_FALSE(CabeAyuda(11000));
-    EXPECT_EQ(AnchoSeparador(12000, true), 7660);
-    EXPECT_EQ(AnchoSeparador(12000, false), 7440);
-    EXPECT_EQ(AnchoSeparador(3000, false), 0);
-}
-
 class AjustesTest : public ::testing::Test {
   protected:
     QTemporaryDir carpeta;
