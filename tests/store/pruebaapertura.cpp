@@ -171,14 +171,6 @@ TEST(Apertura, WhatDidOpenWorksAndTheRestIsClosed) {
     EXPECT_THROW(b.datVentas.AddNew(), ErrorDatos);
 }
 
-TEST(Apertura, OpeningAndClosingWritesNothing) {
-    DatosPrueba datos;
-    const auto antes = Contenido(datos.Carpeta());
-    datos.Abrir().datClientes.RecordCount();
-    datos.Cerrar();
-    EXPECT_EQ(Contenido(datos.Carpeta()), antes);
-}
-
 TEST(Apertura, AFolderWithOddLettersInItsNameWorks) {
     QTemporaryDir base;
     const QString carpeta = base.filePath(QStringLiteral("Año 100% ?x=1#&;ñ"));
