@@ -3,14 +3,13 @@
 //
 // Needs a display without a window manager: xvfb-run -a build/release/bench/banco_arranque [articles
 // documents]
-#include "tienda/tienda.h"
+#include "comparacion.h"
+#include "muestra.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QProcess>
-#include <QTemporaryDir>
-#include <QTextStream>
 #include <QThread>
 
 #include <xcb/xcb.h>
@@ -22,6 +21,7 @@
 #include <vector>
 
 using namespace tarvo;
+using namespace comparacion;
 
 namespace {
 
@@ -65,18 +65,9 @@ class Vigia {
 };
 
 struct Medida {
-    qint64 ms = 0;
-    int megas = 0;
+    double ms = 0;
+    double megas = 0;
 };
-
-int Memoria(qint64 proceso) {
-    QFile estado(QStringLiteral("/proc/%1/status").arg(proceso));
-    if (!estado.open(QIODevice::ReadOnly))
-        return 0;
-    const QByteArray texto = estado.readAll();
-    const qsizetype lugar = texto.indexOf("VmRSS:") + 6;
-    return texto.mid(lugar, texto.indexOf("kB", lugar) - lugar).trimmed().toInt() / 1024;
-}
 
 Medida Arrancar(const QString &carpeta) {
     Vigia vigia;
@@ -90,29 +81,28 @@ Medida Arrancar(const QString &carpeta) {
     QElapsedTimer reloj;
     reloj.start();
     vigia.Esperar(kAltoPrincipal);
-    Medida medida{reloj.elapsed() - kSplash, 0};
+    Medida medida{static_cast<double>(reloj.elapsed() - kSplash), 0};
     QThread::msleep(500); // until it is painted
-    medida.megas = Memoria(programa.processId());
+    medida.megas = MemoriaDe(std::to_string(programa.processId()));
     programa.kill();
     programa.waitForFinished();
     return medida;
 }
 
 // The middle one of several starts.
-Medida Medir(const char *nombre, const MedidaTienda &tamano) {
-    const QTemporaryDir carpeta;
-    HacerTienda(carpeta.path(), tamano, QDate(2026, 11, 22));
+Medida Medir(const MedidaTienda &tamano) {
+    const Tienda tienda(tamano);
     if (!QFile::copy(QCoreApplication::applicationDirPath() + QStringLiteral("/../tarvo"),
-                     carpeta.filePath(QStringLiteral("tarvo"))))
+                     tienda.base.filePath(QStringLiteral("tarvo"))))
         throw std::runtime_error("build the program first");
-    std::vector<Medida> medidas;
-    for (int i = 0; i < kVeces; ++i)
-        medidas.push_back(Arrancar(carpeta.path()));
-    std::sort(medidas.begin(), medidas.end(), [](const Medida &a, const Medida &b) { return a.ms < b.ms; });
-    const Medida mediana = medidas[kVeces / 2];
-    QTextStream(stdout) << nombre << ": " << mediana.ms << " ms behind the splash, " << mediana.megas
-                        << " MB\n";
-    return mediana;
+    std::vector<double> tiempos;
+    std::vector<double> memorias;
+    for (int i = 0; i < kVeces; ++i) {
+        const Medida medida = Arrancar(tienda.base.path());
+        tiempos.push_back(medida.ms);
+        memorias.push_back(medida.megas);
+    }
+    return {Percentil(tiempos, 50), Percentil(memorias, 50)};
 }
 
 } // namespace
@@ -125,16 +115,15 @@ int main(int argc, char **argv) {
         grande.ventas = std::atoi(argv[2]);
     }
     try {
+        Tabla tabla;
         const Vigia siempre; // a display without any client resets itself
-        const Medida limite = Medir("empty shop", {0, 0, 0});
-        const Medida medida = Medir("large shop", grande);
-        QTextStream(stdout) << "large / empty: "
-                            << static_cast<double>(medida.ms) /
-                                   static_cast<double>(std::max<qint64>(limite.ms, 1))
-                            << "\n";
+        const Medida vacia = Medir({0, 0, 0});
+        const Medida medida = Medir(grande);
+        tabla.Linea("start behind the splash, large shop / empty", medida.ms, vacia.ms, "ms", 1.5);
+        tabla.Linea("memory of the started program, large / empty", medida.megas, vacia.megas, "MB", 1.5);
+        return tabla.Resultado();
     } catch (const std::exception &error) {
-        QTextStream(stderr) << error.what() << "\n";
+        std::fprintf(stderr, "%s\n", error.what());
         return 1;
     }
-    return 0;
 }

@@ -2,29 +2,17 @@
 // columns, its filter against the unfiltered fill, a million customers against an empty tree of as many rows,
 // and the save of one article in a shop of 100,000 against one of 1,000. The program fails when a ratio is
 // over its limit.
+#include "aplicacion.h"
+#include "arbolvacio.h"
 #include "comparacion.h"
+#include "servicios.h"
 
-#include "desktop/anfitrion.h"
-#include "desktop/escritorio.h"
-#include "desktop/preguntas.h"
-#include "desktop/reloj.h"
-#include "desktop/ventanas/estilo.h"
 #include "desktop/ventanas/listavista.h"
-#include "documents/impresoras.h"
 #include "masterdata/ventanas/frmarticulos.h"
 #include "masterdata/ventanas/frmclientes.h"
-#include "store/errordatos.h"
-#include "store/store.h"
-#include "tienda/tienda.h"
 
-#include <QApplication>
-#include <QComboBox>
-#include <QFile>
-#include <QFileInfo>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QSettings>
-#include <QTemporaryDir>
 
 #include <memory>
 
@@ -37,20 +25,6 @@ constexpr int kMuchos = 100'000;
 constexpr int kPocos = 1'000;
 constexpr int kClientes = 1'000'000;
 
-// In memory where the system has a place for it: the disk's mood would be most of a save.
-QString Plantilla() {
-    const QString memoria = QStringLiteral("/dev/shm");
-    const bool vale = QFileInfo(memoria).isWritable();
-    return (vale ? memoria : QDir::tempPath()) + QStringLiteral("/tarvo-XXXXXX");
-}
-
-struct Tienda {
-    QTemporaryDir base{Plantilla()};
-    QString carpeta;
-    Tienda(int articulos, int clientes)
-        : carpeta(HacerTienda(base.path(), {articulos, clientes, 0}, QDate(2026, 11, 22))) {}
-};
-
 // 20 IVA types and 200 categories; every other article belongs to none of them.
 void Repartir(const QString &carpeta) {
     Cruda cruda(carpeta);
@@ -61,60 +35,6 @@ void Repartir(const QString &carpeta) {
               " INSERT INTO main.Categorias(id, codigo, categoria) SELECT i, i, 'Categoria '||i FROM n;"
               "UPDATE articulos.Articulos SET idtipoiva=1+id%20, idcategoria1=1+id%400");
 }
-
-// --- what the windows are given
-
-class PreguntasSi final : public Preguntas {
-  public:
-    Respuesta Preguntar(const QString &, Respuesta) override { return Respuesta::Si; }
-    void Mostrar(const QString &texto, Icono) override {
-        std::fprintf(stderr, "%s\n", qPrintable(texto));
-        std::exit(2);
-    }
-};
-
-class SinImpresoras final : public Impresoras {
-  public:
-    QStringList Nombres() const override { return {}; }
-    QString Actual() const override { return {}; }
-    void HacerActual(const QString &) override {}
-    std::unique_ptr<Superficie> NuevoDocumento(Proposito, const QString &) override {
-        throw ErrorDatos(errores::kImpresora, {});
-    }
-};
-
-class SinEscritorio final : public Escritorio {
-  public:
-    bool AbrirArchivo(const QString &) override { return false; }
-    bool AbrirDireccion(const QUrl &) override { return false; }
-    bool AbrirAjustesImpresoras() override { return false; }
-};
-
-class SinAnfitrion final : public Anfitrion {
-  public:
-    void ActDesMenu(int, const QString &, bool) override {}
-    void Sugerencia(const QString &) override {}
-};
-
-// The data of one shop, opened, and what a window needs beside them.
-struct Puesto {
-    explicit Puesto(const QString &carpeta) : bases(carpeta, Moneda()) {
-        if (bases.Abrir().estado != EstadoApertura::Completa) {
-            std::fprintf(stderr, "the sample shop does not open\n");
-            std::exit(2);
-        }
-    }
-    Servicios servicios() { return {bases, preguntas, reloj, impresoras, ajustes, escritorio}; }
-
-    FrmBases bases;
-    PreguntasSi preguntas;
-    RelojSistema reloj;
-    SinImpresoras impresoras;
-    QTemporaryDir carpetaAjustes;
-    QSettings ajustes{carpetaAjustes.filePath(QStringLiteral("ajustes.ini")), QSettings::IniFormat};
-    SinEscritorio escritorio;
-    SinAnfitrion anfitrion;
-};
 
 // A window that shows nothing: the list alone is measured.
 class VistaMuda final : public VistaDetalle, public VistaFiltro {
@@ -136,11 +56,6 @@ class VistaMuda final : public VistaDetalle, public VistaFiltro {
     void EnfocarCatCodigo() override {}
     void EnfocarCatCategoria() override {}
 };
-
-// The best of several runs: what other programs of the machine take away is no part of the comparison.
-double Mejor(const std::vector<double> &valores) {
-    return *std::min_element(valores.begin(), valores.end());
-}
 
 // --- articles
 
@@ -164,12 +79,13 @@ void BancoLista(Tabla &tabla, const QString &carpeta) {
         Cruda cruda(carpeta);
         crudos.push_back(Milisegundos([&] {
             cruda.Recorrer("SELECT codigo, nombre, stock, pcompra, subtotal, idtipoiva, id, idcategoria1"
-                           " FROM articulos.Articulos ORDER BY id");
+                           " FROM articulos.Articulos ORDER BY id",
+                           Lectura::TextosYLongitudes);
         }));
     }
     tabla.Linea("first fill, 100,000 articles / raw reading", Mejor(primeros), Mejor(crudos), "ms", 2);
     tabla.Linea("fill again / raw reading", Mejor(repetidos), Mejor(crudos), "ms", 2);
-    tabla.Linea("fill of 'Sin categoría' / fill of all", Mejor(filtrados), Mejor(repetidos), "ms", 1.5);
+    tabla.Linea("fill of one category / fill of all", Mejor(filtrados), Mejor(repetidos), "ms", 1.5);
 }
 
 // An open window in which the name of the selected article is changed by the window's own button.
@@ -177,9 +93,7 @@ class Cambiador {
   public:
     explicit Cambiador(const QString &carpeta)
         : puesto_(carpeta), ventana_(puesto_.servicios(), puesto_.anfitrion) {
-        ventana_.resize(1000, 700);
-        ventana_.show();
-        ventana_.grab();
+        Exponer(ventana_);
     }
     double Cambiar(int vez) {
         auto *nombre = ventana_.findChild<QLineEdit *>(QStringLiteral("txtNombre"));
@@ -208,57 +122,28 @@ void BancoGuardar(Tabla &tabla, const QString &grande, const QString &chica) {
 
 // --- customers
 
-class ModeloVacio final : public QAbstractTableModel {
-  public:
-    int rowCount(const QModelIndex &padre) const override { return padre.isValid() ? 0 : kClientes; }
-    int columnCount(const QModelIndex &padre) const override { return padre.isValid() ? 0 : 6; }
-    QVariant data(const QModelIndex &, int) const override { return {}; }
-};
-
-double Memoria() {
-    QFile archivo(QStringLiteral("/proc/self/statm"));
-    if (!archivo.open(QIODevice::ReadOnly))
-        return 0;
-    return archivo.readAll().split(' ').value(1).toDouble() * 4096 / 1e6;
-}
-
-template <typename Vista, typename Modelo>
-double MedirVista(Modelo &modelo, void (*poner)(Vista &, Modelo &)) {
-    std::vector<double> tiempos;
-    for (int vuelta = 0; vuelta < 5; ++vuelta) {
-        Vista vista;
-        vista.setUniformRowHeights(true);
-        vista.setRootIsDecorated(false);
-        vista.resize(1000, 400);
-        tiempos.push_back(Milisegundos([&] {
-            poner(vista, modelo);
-            vista.show();
-            vista.grab();
-        }));
-    }
-    return Mejor(tiempos);
-}
-
 void BancoClientes(Tabla &tabla, const QString &carpeta) {
-    ModeloVacio vacio;
-    const double arbol = MedirVista<QTreeView, ModeloVacio>(
-        vacio, [](QTreeView &vista, ModeloVacio &modelo) { vista.setModel(&modelo); });
+    const double arbol = MostrarArbolVacio(kClientes, 6);
     Puesto puesto(carpeta);
     const double antes = Memoria();
     std::unique_ptr<FrmClientes> ventana;
     const double abrir = Milisegundos([&] {
         ventana = std::make_unique<FrmClientes>(puesto.servicios(), puesto.anfitrion);
-        ventana->resize(1000, 700);
-        ventana->show();
-        ventana->grab();
+        Exponer(*ventana);
     });
     const double memoria = Memoria() - antes;
     auto &lista = const_cast<ListaTexto &>(ventana->Lista());
-    const double propia = MedirVista<ListaVista, ListaTexto>(
-        lista, [](ListaVista &vista, ListaTexto &modelo) { vista.Mostrar(&modelo); });
+    const double propia = Mejor(5, [&] {
+        ListaVista vista;
+        return Milisegundos([&] {
+            vista.Mostrar(&lista);
+            Exponer(vista);
+        });
+    });
     tabla.Linea("show 1,000,000 customers / empty tree", propia, arbol, "ms", 2);
     auto *vista = ventana->findChild<ListaVista *>(QStringLiteral("LVClientes"));
     std::vector<double> filas;
+    filas.reserve(200);
     for (int i = 0; i < 200; ++i)
         filas.push_back(Milisegundos([&] {
             vista->SeleccionarFila(static_cast<int>(i * 7919LL * 131 % kClientes));
@@ -266,25 +151,21 @@ void BancoClientes(Tabla &tabla, const QString &carpeta) {
             vista->grab();
         }));
     tabla.Linea("show one of them in the fields / one frame", Percentil(filas, 50), 16, "ms", 1);
-    std::printf("opening the window, reading and sorting: %.0f ms; memory of rows, list and view: %.0f MB\n",
-                abrir, memoria);
+    tabla.Dato("open their window: read, sort, paint", abrir, "ms");
+    tabla.Dato("memory of the rows, the list and the view", memoria, "MB");
 }
 
 } // namespace
 
 int main(int argc, char **argv) {
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication aplicacion(argc, argv);
-    AplicarEstilo(aplicacion);
-    Tabla tabla;
-    const Tienda grande(kMuchos, 60);
-    const Tienda chica(kPocos, 60);
-    Repartir(grande.carpeta);
-    Repartir(chica.carpeta);
-    BancoLista(tabla, grande.carpeta);
-    BancoGuardar(tabla, grande.carpeta, chica.carpeta);
-    const Tienda gente(kPocos, kClientes);
-    BancoClientes(tabla, gente.carpeta);
-    return tabla.Resultado();
+    return MedirVentanas(argc, argv, [](Tabla &tabla) {
+        const Tienda grande({kMuchos, 60, 0}, CarpetaEnMemoria());
+        const Tienda chica({kPocos, 60, 0}, CarpetaEnMemoria());
+        Repartir(grande.carpeta);
+        Repartir(chica.carpeta);
+        BancoLista(tabla, grande.carpeta);
+        BancoGuardar(tabla, grande.carpeta, chica.carpeta);
+        const Tienda gente({kPocos, kClientes, 0}, CarpetaEnMemoria());
+        BancoClientes(tabla, gente.carpeta);
+    });
 }

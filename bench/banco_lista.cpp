@@ -1,27 +1,27 @@
-// The list against its limits: a sort of the same texts by the collator alone, and a bare tree view on a
-// model without texts.
-#include "desktop/ventanas/estilo.h"
+// The list against its limits: a sort of the same texts by the collator alone, a bare tree view on a model
+// without texts, and one pass over the bytes of a search. The program fails when a ratio is over its limit.
+#include "aplicacion.h"
+#include "arbolvacio.h"
+#include "comparacion.h"
+
 #include "desktop/ventanas/listavista.h"
 
-#include <QApplication>
 #include <QCollator>
-#include <QFile>
 #include <QRandomGenerator>
 
 #include <benchmark/benchmark.h>
 
-#include <algorithm>
-#include <chrono>
-#include <functional>
 #include <numeric>
 
-namespace {
-
 using namespace tarvo;
+using namespace comparacion;
+
+namespace {
 
 constexpr int kFilasOrden = 100'000;
 constexpr int kFilasVista = 1'000'000;
 constexpr int kColumnas = 8;
+constexpr int kSelecciones = 100;
 
 // Names as a shop has them; every fifth has letters beyond ASCII.
 QString Nombre(QRandomGenerator &azar) {
@@ -48,21 +48,8 @@ std::vector<ColumnaTexto> Columnas(const QStringList &nombres, int columnas) {
     return std::vector<ColumnaTexto>(static_cast<std::size_t>(columnas), columna);
 }
 
-double Milisegundos(const std::function<void()> &trabajo) {
-    const auto inicio = std::chrono::steady_clock::now();
-    trabajo();
-    return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - inicio).count();
-}
-
-double Mejor(int veces, const std::function<double()> &medida) {
-    double mejor = medida();
-    for (int i = 1; i < veces; ++i)
-        mejor = std::min(mejor, medida());
-    return mejor;
-}
-
 QCollator Comparador() {
-    QCollator comparador(QLocale(QLocale::Spanish));
+    QCollator comparador{QLocale(QLocale::Spanish)};
     comparador.setCaseSensitivity(Qt::CaseInsensitive);
     return comparador;
 }
@@ -94,130 +81,78 @@ std::vector<ColumnaLista> Especificacion(int columnas) {
                                      ColumnaLista{QStringLiteral("Columna"), 1000});
 }
 
-void BM_Ordenar(benchmark::State &estado) {
+void BancoOrdenar(Tabla &tabla) {
     const QStringList nombres = Nombres(kFilasOrden);
-    const double limite = std::min(Mejor(3, [&] { return Milisegundos([&] { PorComparacion(nombres); }); }),
-                                   Mejor(3, [&] { return Milisegundos([&] { PorClaves(nombres); }); }));
+    const double limite = std::min(MejorTiempo(5, [&] { PorComparacion(nombres); }),
+                                   MejorTiempo(5, [&] { PorClaves(nombres); }));
     const std::vector<ColumnaTexto> columnas = Columnas(nombres, 1);
-    double primera = 0;
-    double repetida = 0;
-    double rellenada = 0;
-    for (auto _ : estado) {
-        primera = Mejor(3, [&] {
-            ListaTexto nueva(Especificacion(1)); // a list remembers the order of its texts
-            nueva.Asignar(columnas);
-            return Milisegundos([&] { nueva.ClicEncabezado(0); });
-        });
-        ListaTexto lista(Especificacion(1));
-        lista.Asignar(columnas);
-        lista.ClicEncabezado(0);
-        repetida = Mejor(5, [&] { return Milisegundos([&] { lista.ClicEncabezado(0); }); });
-        rellenada = Mejor(5, [&] { return Milisegundos([&] { lista.Asignar(columnas); }); });
-    }
-    estado.counters["collator_ms"] = limite;
-    estado.counters["first_ms"] = primera;
-    estado.counters["again_ms"] = repetida;
-    estado.counters["refill_ms"] = rellenada;
-    estado.counters["first_ratio"] = primera / limite;
-    estado.counters["again_ratio"] = repetida / limite;
-}
-BENCHMARK(BM_Ordenar)->Iterations(1)->Unit(benchmark::kMillisecond);
-
-class ModeloVacio final : public QAbstractTableModel {
-  public:
-    int rowCount(const QModelIndex &padre) const override { return padre.isValid() ? 0 : kFilasVista; }
-    int columnCount(const QModelIndex &padre) const override { return padre.isValid() ? 0 : kColumnas; }
-    QVariant data(const QModelIndex &, int) const override { return {}; }
-};
-
-// Resident memory of this process, in MB.
-double Memoria() {
-    QFile archivo(QStringLiteral("/proc/self/statm"));
-    if (!archivo.open(QIODevice::ReadOnly))
-        return 0;
-    return archivo.readAll().split(' ').value(1).toDouble() * 4096 / 1e6;
-}
-
-void Exponer(QWidget &vista) {
-    vista.resize(1000, 700);
-    vista.show();
-    vista.grab();
-}
-
-void BM_Mostrar(benchmark::State &estado) {
-    const double limite = Mejor(3, [] {
-        ModeloVacio modelo;
-        QTreeView vista;
-        vista.setUniformRowHeights(true);
-        vista.setRootIsDecorated(false);
-        return Milisegundos([&] {
-            vista.setModel(&modelo);
-            Exponer(vista);
-        });
+    const double primera = Mejor(5, [&] {
+        ListaTexto nueva(Especificacion(1)); // a list remembers the order of its texts
+        nueva.Asignar(columnas);
+        return Milisegundos([&] { nueva.ClicEncabezado(0); });
     });
+    ListaTexto lista(Especificacion(1));
+    lista.Asignar(columnas);
+    lista.ClicEncabezado(0);
+    const double repetida = MejorTiempo(5, [&] { lista.ClicEncabezado(0); });
+    const double rellenada = MejorTiempo(5, [&] { lista.Asignar(columnas); });
+    tabla.Linea("first sort, 100,000 names / collator alone", primera, limite, "ms", 1.5);
+    tabla.Linea("sort again / collator alone", repetida, limite, "ms", 0.1);
+    tabla.Linea("fill the sorted list again / collator alone", rellenada, limite, "ms", 0.1);
+}
+
+void BancoMostrar(Tabla &tabla) {
+    const double limite = MostrarArbolVacio(kFilasVista, kColumnas);
     const std::vector<ColumnaTexto> columnas = Columnas(Nombres(kFilasVista), kColumnas);
-    double propia = 0;
     double memoria = 0;
     double seleccion = 0;
-    for (auto _ : estado)
-        propia = Mejor(3, [&] {
-            const double antes = Memoria();
-            ListaTexto lista(Especificacion(kColumnas));
-            ListaVista vista;
-            const double tiempo = Milisegundos([&] {
-                lista.Asignar(columnas);
-                vista.Mostrar(&lista);
-                Exponer(vista);
-            });
-            memoria = Memoria() - antes;
-            seleccion = Milisegundos([&] {
-                for (int i = 0; i < 100; ++i)
-                    vista.SeleccionarFila(static_cast<int>(i * 7919LL * 131 % kFilasVista));
-            });
-            return tiempo;
+    const double propia = Mejor(5, [&] {
+        const double antes = Memoria();
+        ListaTexto lista(Especificacion(kColumnas));
+        ListaVista vista;
+        const double tiempo = Milisegundos([&] {
+            lista.Asignar(columnas);
+            vista.Mostrar(&lista);
+            Exponer(vista);
         });
-    estado.counters["empty_tree_ms"] = limite;
-    estado.counters["list_ms"] = propia;
-    estado.counters["ratio"] = propia / limite;
-    estado.counters["list_and_view_MB"] = memoria;
-    estado.counters["texts_MB"] = static_cast<double>(columnas.front().Bytes()) / 1e6;
-    estado.counters["select_us"] = seleccion * 10;
+        memoria = Memoria() - antes;
+        seleccion = Milisegundos([&] {
+            for (int i = 0; i < kSelecciones; ++i)
+                vista.SeleccionarFila(static_cast<int>(i * 7919LL * 131 % kFilasVista));
+        });
+        return tiempo;
+    });
+    tabla.Linea("fill and show 1,000,000 rows / empty tree", propia, limite, "ms", 2);
+    tabla.Linea("select one of them / one frame", seleccion / kSelecciones, 16, "ms", 1);
+    tabla.Dato("memory of the list and the view", memoria, "MB");
+    tabla.Dato("the texts of a column that they share", static_cast<double>(columnas.front().Bytes()) / 1e6,
+               "MB");
 }
-BENCHMARK(BM_Mostrar)->Iterations(1)->Unit(benchmark::kMillisecond);
 
 // A search that hits nothing, in two columns, against one pass over the same bytes.
-void BM_BuscarParte(benchmark::State &estado) {
+void BancoBuscar(Tabla &tabla, const char *nombre, const QString &texto) {
     ListaTexto lista(Especificacion(2));
     lista.Asignar(Columnas(Nombres(kFilasOrden), 2));
-    const QString texto = estado.range(0) == 0 ? u"manzana"_qs : u"ñandú"_qs;
-    const double pasada = Mejor(5, [&] {
-        return Milisegundos([&] {
-            for (int columna = 0; columna < 2; ++columna)
-                for (int fila = 0; fila < lista.Filas(); ++fila) {
-                    const std::string_view celda = lista.CeldaUtf8(fila, columna);
-                    benchmark::DoNotOptimize(std::accumulate(celda.begin(), celda.end(), 0));
-                }
-        });
+    const double pasada = MejorTiempo(5, [&] {
+        for (int columna = 0; columna < 2; ++columna)
+            for (int fila = 0; fila < lista.Filas(); ++fila) {
+                const std::string_view celda = lista.CeldaUtf8(fila, columna);
+                benchmark::DoNotOptimize(std::accumulate(celda.begin(), celda.end(), 0));
+            }
     });
-    double busqueda = 0;
-    for (auto _ : estado)
-        busqueda = Mejor(5, [&] {
-            return Milisegundos([&] { benchmark::DoNotOptimize(lista.BuscarParte({0, 1}, texto)); });
-        });
-    estado.counters["search_ms"] = busqueda;
-    estado.counters["bare_pass_ms"] = pasada;
-    estado.counters["ratio"] = busqueda / pasada;
+    const double busqueda = MejorTiempo(5, [&] {
+        benchmark::DoNotOptimize(lista.BuscarParte({0, 1}, texto));
+    });
+    tabla.Linea(nombre, busqueda, pasada, "ms", 1.5);
 }
-BENCHMARK(BM_BuscarParte)->Arg(0)->Arg(1)->Iterations(1)->Unit(benchmark::kMillisecond);
 
 } // namespace
 
 int main(int argc, char **argv) {
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication aplicacion(argc, argv);
-    AplicarEstilo(aplicacion);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    return MedirVentanas(argc, argv, [](Tabla &tabla) {
+        BancoOrdenar(tabla);
+        BancoMostrar(tabla);
+        BancoBuscar(tabla, "search 200,000 texts in vain, ASCII / one pass", u"manzana"_qs);
+        BancoBuscar(tabla, "search 200,000 texts in vain, accents / one pass", u"ñandú"_qs);
+    });
 }

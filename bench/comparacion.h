@@ -1,5 +1,5 @@
-// What a bench that prints its own table needs: a line with the figure, its peer or limit and their ratio,
-// and the engine's own C interface as the peer, on the same files with the same settings.
+// What every bench needs: the table of figures, each with its peer or limit and their ratio; times and
+// memory; and the engine's own C interface as the peer, on the same files with the same settings.
 #pragma once
 
 #include <QDir>
@@ -9,9 +9,12 @@
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
+#include <fstream>
 #include <functional>
+#include <malloc.h>
 #include <sqlite3.h>
 #include <string>
+#include <unistd.h>
 #include <vector>
 
 namespace comparacion {
@@ -19,12 +22,19 @@ namespace comparacion {
 // A table of comparisons; the program's result is Resultado().
 class Tabla {
   public:
+    Tabla() { std::printf("%-52s %10s %10s\n", "", "ours", "peer"); }
+
     void Linea(const char *nombre, double medida, double par, const char *unidad, double limite) {
         const double razon = medida / par;
         const bool bien = razon <= limite;
         excesos_ += bien ? 0 : 1;
         std::printf("%-52s %10.3f %10.3f %-3s  ratio %6.3f  limit %5.2f  %s\n", nombre, medida, par, unidad,
                     razon, limite, bien ? "ok" : "OVER");
+        std::fflush(stdout);
+    }
+    // A figure without a peer.
+    void Dato(const char *nombre, double medida, const char *unidad) {
+        std::printf("%-52s %10.3f %10s %s\n", nombre, medida, "", unidad);
         std::fflush(stdout);
     }
     int Resultado() const { return excesos_ == 0 ? 0 : 1; }
@@ -44,6 +54,38 @@ inline double Percentil(std::vector<double> valores, int porCiento) {
     const std::size_t lugar = valores.size() * static_cast<std::size_t>(porCiento) / 100;
     return valores[std::min(lugar, valores.size() - 1)];
 }
+
+// The best of several runs: what other programs of the machine take away is no part of the comparison.
+inline double Mejor(const std::vector<double> &valores) {
+    return *std::min_element(valores.begin(), valores.end());
+}
+
+inline double Mejor(int veces, const std::function<double()> &medida) {
+    std::vector<double> valores(static_cast<std::size_t>(veces));
+    std::generate(valores.begin(), valores.end(), medida);
+    return Mejor(valores);
+}
+
+inline double MejorTiempo(int veces, const std::function<void()> &accion) {
+    return Mejor(veces, [&] { return Milisegundos(accion); });
+}
+
+// Resident memory of a process in MB.
+inline double MemoriaDe(const std::string &proceso) {
+    std::ifstream estado("/proc/" + proceso + "/statm");
+    double total = 0;
+    double residente = 0;
+    estado >> total >> residente;
+    return residente * static_cast<double>(sysconf(_SC_PAGESIZE)) / 1e6;
+}
+
+// The same of this one, without what has been freed.
+inline double Memoria() {
+    malloc_trim(0);
+    return MemoriaDe("self");
+}
+
+enum class Lectura { Textos, TextosYLongitudes };
 
 class Cruda {
   public:
@@ -77,18 +119,22 @@ class Cruda {
         Exigir(sqlite3_step(sentencia));
         sqlite3_reset(sentencia);
     }
-    // Steps over all rows, asking for the text of each column; returns how many bytes they have.
-    std::size_t Recorrer(const char *sql) {
+    // Steps over all rows, asking for the text of each column, and for its length where the comparison says
+    // so: that costs the peer a good third more. Returns how many texts are not empty.
+    std::size_t Recorrer(const char *sql, Lectura lectura) {
         sqlite3_stmt *sentencia = Preparar(sql);
         const int columnas = sqlite3_column_count(sentencia);
-        std::size_t bytes = 0;
+        std::size_t llenas = 0;
         while (sqlite3_step(sentencia) == SQLITE_ROW)
-            for (int i = 0; i < columnas; ++i)
-                bytes += sqlite3_column_text(sentencia, i) == nullptr
-                             ? 0U
-                             : static_cast<std::size_t>(sqlite3_column_bytes(sentencia, i));
+            for (int i = 0; i < columnas; ++i) {
+                const unsigned char *texto = sqlite3_column_text(sentencia, i);
+                const bool llena = lectura == Lectura::TextosYLongitudes
+                                       ? sqlite3_column_bytes(sentencia, i) > 0
+                                       : texto != nullptr && *texto != 0;
+                llenas += llena ? 1U : 0U;
+            }
         sqlite3_reset(sentencia);
-        return bytes;
+        return llenas;
     }
     static void Exigir(int codigo) {
         if (codigo == SQLITE_OK || codigo == SQLITE_DONE)
@@ -103,6 +149,33 @@ class Cruda {
     }
     sqlite3 *base_ = nullptr;
     std::vector<sqlite3_stmt *> sentencias_;
+};
+
+// Counts what the connections commit that are opened while it lives.
+class CuentaCommits {
+  public:
+    CuentaCommits() { sqlite3_auto_extension(reinterpret_cast<void (*)()>(Enganchar)); }
+    ~CuentaCommits() { sqlite3_cancel_auto_extension(reinterpret_cast<void (*)()>(Enganchar)); }
+    CuentaCommits(const CuentaCommits &) = delete;
+    CuentaCommits &operator=(const CuentaCommits &) = delete;
+
+    // The number of commits that `accion` makes.
+    static int De(const std::function<void()> &accion) {
+        const int antes = commits_;
+        accion();
+        return commits_ - antes;
+    }
+
+  private:
+    static int Enganchar(sqlite3 *base, char **, const void *) {
+        sqlite3_commit_hook(base, Contar, nullptr);
+        return SQLITE_OK;
+    }
+    static int Contar(void *) {
+        ++commits_;
+        return 0;
+    }
+    static inline int commits_ = 0;
 };
 
 } // namespace comparacion

@@ -9,7 +9,7 @@ PAQUETES_COMPILAR=(
     fonts-liberation fonts-noto-core fonts-dejavu-core
 )
 # What drives the program on a screen of its own and looks at what it printed.
-PAQUETES_PANTALLA=(xvfb openbox xdotool x11-utils imagemagick poppler-utils sqlite3)
+PAQUETES_PANTALLA=(xvfb xauth openbox xdotool x11-utils imagemagick poppler-utils sqlite3)
 PAQUETES_REVISION=(clang-format clang-tidy)
 
 # Installs those of the packages that are missing. With all of them there it asks neither apt nor the network.
