@@ -5,11 +5,11 @@
 set(TARVO_USA_store "")
 set(TARVO_USA_desktop store)
 set(TARVO_USA_documents store desktop)
-foreach(sala masterdata sales accounts interchange)
+foreach(sala masterdata sales)
     set(TARVO_USA_${sala} store desktop documents)
 endforeach()
 set(TARVO_USA_config store desktop documents masterdata)
-set(TARVO_USA_shell store desktop documents masterdata sales accounts config interchange)
+set(TARVO_USA_shell store desktop documents masterdata sales config)
 
 function(_tarvo_revisar destino sala ventanas)
     foreach(biblioteca ${ARGN})

@@ -284,9 +284,11 @@ bool Conmutador::DespejarModulo(Modulo modulo, const Dialogo &dialogo) {
         return true;
     }
     puedeCerrar_ = true;
-    llamador_ = dialogo.llamador;
-    Ejecutar(modulo);
-    llamador_.clear();
+    {
+        const auto fin = qScopeGuard([this] { llamador_.clear(); });
+        llamador_ = dialogo.llamador;
+        Ejecutar(modulo);
+    }
     if (!puedeCerrar_)
         return false;
     puedeCerrar_ = false;

@@ -47,6 +47,8 @@ SQLite::Database AbrirBase(const QString &archivo) {
 
 Conexion::Conexion(const QString &archivo) : base_(AbrirBase(archivo)) {
     sqlite3_extended_result_codes(base_.getHandle(), 1);
+    // A quoted name that is no column must fail; the engine would read it as a text else.
+    sqlite3_db_config(base_.getHandle(), SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
     Asegurar(archivo, "main");
 }
 

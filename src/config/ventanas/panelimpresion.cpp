@@ -18,7 +18,7 @@ PanelImpresion::PanelImpresion(const Servicios &servicios, QWidget *padre)
       ticket_(servicios.ajustes, QStringLiteral("ImpTick"), QStringLiteral("Impresora para facturas")),
       listado_(servicios.ajustes, QStringLiteral("ImpList"), QStringLiteral("Impresora para listados")) {
     ui_->setupUi(this);
-    ui_->cmdTicket->setEnabled(false); // there is no designer to open yet
+    ui_->cmdTicket->setEnabled(false); // this version has no designer
     SoloCaracteres(ui_->txtLinDetalle, QStringLiteral("0123456789"));
     ui_->FSBLinDetalle->Acompanar(ui_->txtLinDetalle, LineasDetalle::kMinimo, LineasDetalle::kMaximo);
     connect(ui_->txtLinDetalle, &QLineEdit::textChanged, this, [this](const QString &texto) {
