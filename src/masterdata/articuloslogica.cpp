@@ -306,7 +306,7 @@ QString ArticulosLogica::AMostrar(int campo, const QString &guardado) const {
 }
 
 QString ArticulosLogica::AGuardar(int campo) const {
-    const QString texto = ListaDetalle::AGuardar(campo);
+    QString texto = ListaDetalle::AGuardar(campo);
     if (campo == kIdProveedor) // a supplier that is gone shows as none and is saved as none
         return vista().Texto(kProveedor).isEmpty() ? QString() : texto;
     if (campo != kPCompra && campo != kSubtotal)
@@ -319,7 +319,7 @@ QString ArticulosLogica::AGuardar(int campo) const {
 
 QString ArticulosLogica::CeldaGuardada(int columna) const {
     using namespace columnasArticulos;
-    const QString pventa = vista().Texto(ArticulosLogica::kPVenta);
+    QString pventa = vista().Texto(ArticulosLogica::kPVenta);
     if (columna == columnasArticulos::kPVenta)
         return pventa;
     if (columna == kIva)
