@@ -272,6 +272,9 @@ TEST_F(PrincipalTest, FullScreenGivesTheWindowBackAsItWas) {
     EXPECT_FALSE(frm->isFullScreen() || DeMenu("pantcomp")->isChecked());
     EXPECT_EQ(frm->pos(), QPoint(40, 50));
     EXPECT_EQ(frm->size(), QSize(810, 610));
+    for (int vez = 0; vez < 4; ++vez)
+        Tecla(frm.get(), Qt::Key_F11);
+    EXPECT_EQ(frm->pos(), QPoint(40, 50));
 
     frm->showMaximized();
     Tecla(frm.get(), Qt::Key_F11);
@@ -291,9 +294,6 @@ TEST_F(PrincipalTest, ClosingAsksTheModuleAndThenClosesTheData) {
     EXPECT_EQ(mundo.datos.Bases().datClientes.RecordCount(), 1);
     mundo.preguntas.Espera(QStringLiteral("Cerrar?"), Respuesta::No, Respuesta::Si);
     Pulsar(Boton("salir"));
-    for (int vez = 0; vez < 4; ++vez)
-        Tecla(frm.get(), Qt::Key_F11);
-    EXPECT_EQ(frm->pos(), QPoint(40, 50));
     EXPECT_FALSE(frm->isVisible());
     EXPECT_EQ(Abierta(), QString());
     EXPECT_EQ(mundo.datos.Bases().datClientes.RecordCount(), 0);
