@@ -20,22 +20,27 @@ void Llenar(ProgramaEnPantalla &programa, const std::vector<const char *> &valor
     }
 }
 
-// From the list of the panel that is shown: past `campos` fields to the button that starts a new row.
+// In a panel of the options: from the code past `campos` fields to the button that starts a new row.
 void NuevaFila(ProgramaEnPantalla &programa, int campos) {
-    programa.Teclas(QStringList(campos + 1, k("Tab")));
+    programa.Teclas({k("alt+c")});
+    programa.Teclas(QStringList(campos, k("Tab")));
     programa.Teclas({k("space")});
+}
+
+// In an empty window the fields are off: the button that starts a new row comes right behind the list.
+void AbrirYEmpezar(ProgramaEnPantalla &programa, const char *tecla) {
+    programa.Teclas({k(tecla), k("Tab"), k("space")});
 }
 
 void Configurar(ProgramaEnPantalla &programa) {
     programa.Teclas({k("F9")});
     programa.EsperarCuadro();
-    programa.Teclas({k("Tab")}); // from the tree to the list
     NuevaFila(programa, 3);
     Llenar(programa, {"7", "Especial", "12"});
-    programa.Teclas({k("space"), k("shift+Tab"), k("Down"), k("Tab")});
+    programa.Teclas({k("space"), k("shift+Tab"), k("Down")}); // from the list to the next node of the tree
     NuevaFila(programa, 2);
     Llenar(programa, {"5", "Bebidas"});
-    programa.Teclas({k("shift+Tab"), k("Down"), k("Tab")});
+    programa.Teclas({k("shift+Tab"), k("Down")});
     NuevaFila(programa, 7);
     Llenar(programa, {"9", "Eva Gil", "", "", "", "", ""});
     programa.Teclas({k("space"), k("Escape")});
@@ -45,19 +50,17 @@ void Configurar(ProgramaEnPantalla &programa) {
 // In an empty window the fields are off: the button comes right behind the list. Enter in the last field
 // leads to the button that saves.
 void CargarProveedorYCliente(ProgramaEnPantalla &programa) {
-    programa.Teclas({k("F3")});
-    NuevaFila(programa, 0);
+    AbrirYEmpezar(programa, "F3");
     Llenar(programa, {"P1", "Campo S.A.", "", "", "", "", "", ""});
-    programa.Teclas({k("space"), k("F4")});
-    NuevaFila(programa, 0);
+    programa.Teclas({k("space")});
+    AbrirYEmpezar(programa, "F4");
     Llenar(programa, {"C1", "Sur S.L.", "Sur S.L.", "30-71234567-1", "", "", "", "", "", "", "", "", "", ""});
     programa.Teclas({k("space")});
 }
 
 // A saved article is followed by the next new one, until Escape.
 void CargarArticulos(ProgramaEnPantalla &programa) {
-    programa.Teclas({k("F2")});
-    NuevaFila(programa, 0);
+    AbrirYEmpezar(programa, "F2");
     Llenar(programa,
            {"A1", "7790001000011", "Agua 1 l", "", "botella", "^End", "4,5", "10", "^End", "^Down", "8", ""});
     programa.Teclas({k("space")});
