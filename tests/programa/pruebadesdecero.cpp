@@ -47,8 +47,7 @@ void Configurar(ProgramaEnPantalla &programa) {
     programa.EsperarVuelta();
 }
 
-// In an empty window the fields are off: the button comes right behind the list. Enter in the last field
-// leads to the button that saves.
+// Enter in the last field leads to the button that saves.
 void CargarProveedorYCliente(ProgramaEnPantalla &programa) {
     AbrirYEmpezar(programa, "F3");
     Llenar(programa, {"P1", "Campo S.A.", "", "", "", "", "", ""});
