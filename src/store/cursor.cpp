@@ -137,6 +137,7 @@ bool Cursor::IrAId(const QString &texto) {
 
 void Cursor::Cargar(const std::vector<const Campo *> &campos) {
     std::vector<int> posiciones;
+    posiciones.reserve(campos.size());
     for (const Campo *campo : campos)
         posiciones.push_back(campo->posicion_);
     CargarPosiciones(posiciones);
