@@ -50,6 +50,14 @@ void Soltar(std::unique_ptr<Conexion> &conexion, const char *esquema) {
         conexion->Separar(esquema);
 }
 
+// The super-journals of transactions that a failure cut short: with all files open, recovered and locked,
+// nothing refers to them any more. (A file's own journal must stay: the engine may hold it open.)
+void QuitarRestos(const QString &carpeta) {
+    const QDir datos(carpeta);
+    for (const QString &resto : datos.entryList({QStringLiteral("config.mdb-mj*")}, QDir::Files))
+        QFile::remove(datos.filePath(resto));
+}
+
 } // namespace
 
 FrmBases::FrmBases(QString carpetaDatos, Moneda moneda)
@@ -70,6 +78,8 @@ ResultadoApertura FrmBases::Abrir() {
         AbrirTablas(resultado);
         if (conexion_)
             conexion_->Bloquear();
+        if (resultado.estado == EstadoApertura::Completa)
+            QuitarRestos(carpeta_);
     } catch (const ErrorDatos &error) {
         Cerrar();
         const bool bloqueada = error.Numero() == errores::kBaseBloqueada;
