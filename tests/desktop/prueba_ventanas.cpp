@@ -19,6 +19,15 @@
 namespace tarvo {
 namespace {
 
+TEST(EtiquetaElidida, StaysOneLineHighWhateverItShows) {
+    EtiquetaElidida etiqueta;
+    etiqueta.setText(QStringLiteral("Ana"));
+    const int alto = etiqueta.sizeHint().height();
+    etiqueta.setText(QStringLiteral("Ana\r\ny\thermanos\u2028S.L."));
+    EXPECT_EQ(etiqueta.sizeHint().height(), alto);
+    EXPECT_EQ(etiqueta.minimumSizeHint().height(), alto);
+}
+
 TEST(EtiquetaElidida, LabelAndComboShowInTheTipWhatTheyCut) {
     QWidget fondo;
     fondo.resize(600, 200);

@@ -1,6 +1,6 @@
 #include "desktop/ventanas/delegadolista.h"
 
-#include <algorithm>
+#include "desktop/unalinea.h"
 
 namespace tarvo {
 
@@ -10,13 +10,7 @@ constexpr int kAireVertical = 5;           // pixels, above and below the text t
 } // namespace
 
 QString DelegadoLista::displayText(const QVariant &valor, const QLocale &) const {
-    QString texto = valor.toString().left(kLetrasALaVista);
-    const auto cortaLinea = [](QChar c) {
-        return c.category() == QChar::Other_Control || c == QChar::LineSeparator ||
-               c == QChar::ParagraphSeparator;
-    };
-    std::replace_if(texto.begin(), texto.end(), cortaLinea, QLatin1Char(' '));
-    return texto;
+    return EnUnaLinea(valor.toString().left(kLetrasALaVista));
 }
 
 QSize DelegadoLista::sizeHint(const QStyleOptionViewItem &opcion, const QModelIndex &) const {

@@ -1,5 +1,7 @@
 #include "desktop/ventanas/etiquetaelidida.h"
 
+#include "desktop/unalinea.h"
+
 #include <QPainter>
 #include <QStyle>
 #include <QTextDocument>
@@ -20,14 +22,20 @@ void EtiquetaElidida::PonerAncho(int pixeles) {
 QSize EtiquetaElidida::sizeHint() const {
     constexpr int kSuficiente = 160;
     const QSize medida = QLabel::sizeHint();
-    return {ancho_ >= 0 ? ancho_ : std::min(medida.width(), kSuficiente), medida.height()};
+    return {ancho_ >= 0 ? ancho_ : std::min(medida.width(), kSuficiente), AltoDeUnaLinea()};
+}
+
+// Whatever the text holds, it is one line: the label never grows with it.
+int EtiquetaElidida::AltoDeUnaLinea() const {
+    const QMargins bordes = contentsMargins();
+    return fontMetrics().height() + bordes.top() + bordes.bottom();
 }
 
 void EtiquetaElidida::paintEvent(QPaintEvent *) {
     const QRect sitio = contentsRect();
     // Only the beginning can be seen, so no more of it is measured.
     constexpr int kMasQueLaVentana = 1000;
-    const QString texto = text().left(kMasQueLaVentana).replace(QLatin1Char('\n'), QLatin1Char(' '));
+    const QString texto = EnUnaLinea(text().left(kMasQueLaVentana));
     const QString cabe = fontMetrics().elidedText(texto, Qt::ElideRight, sitio.width());
     setToolTip(cabe == texto ? QString() : AyudaLlana(texto));
     QPainter pintor(this);

@@ -14,12 +14,13 @@ class EtiquetaElidida : public QLabel {
     // The width to ask for, in pixels, instead of what the text needs.
     void PonerAncho(int pixeles);
     QSize sizeHint() const override;
-    QSize minimumSizeHint() const override { return {0, QLabel::minimumSizeHint().height()}; }
+    QSize minimumSizeHint() const override { return {0, AltoDeUnaLinea()}; }
 
   protected:
     void paintEvent(QPaintEvent *evento) override;
 
   private:
+    int AltoDeUnaLinea() const;
     QString sugerencia_;
     int ancho_ = -1;
 };
