@@ -88,14 +88,14 @@ void BancoOrdenar(Tabla &tabla) {
     const std::vector<ColumnaTexto> columnas = Columnas(nombres, 1);
     const double primera = Mejor(5, [&] {
         ListaTexto nueva(Especificacion(1)); // a list remembers the order of its texts
-        nueva.Asignar(columnas);
+        nueva.Asignar({columnas});
         return Milisegundos([&] { nueva.ClicEncabezado(0); });
     });
     ListaTexto lista(Especificacion(1));
-    lista.Asignar(columnas);
+    lista.Asignar({columnas});
     lista.ClicEncabezado(0);
     const double repetida = MejorTiempo(5, [&] { lista.ClicEncabezado(0); });
-    const double rellenada = MejorTiempo(5, [&] { lista.Asignar(columnas); });
+    const double rellenada = MejorTiempo(5, [&] { lista.Asignar({columnas}); });
     tabla.Linea("first sort, 100,000 names / collator alone", primera, limite, "ms", 1.2);
     tabla.Linea("sort again / collator alone", repetida, limite, "ms", 0.5);
     tabla.Linea("fill the sorted list again / collator alone", rellenada, limite, "ms", 0.1);
@@ -111,7 +111,7 @@ void BancoMostrar(Tabla &tabla) {
         ListaTexto lista(Especificacion(kColumnas));
         ListaVista vista;
         const double tiempo = Milisegundos([&] {
-            lista.Asignar(columnas);
+            lista.Asignar({columnas});
             vista.Mostrar(&lista);
             Exponer(vista);
         });
@@ -132,7 +132,7 @@ void BancoMostrar(Tabla &tabla) {
 // A search that hits nothing, in two columns, against one pass over the same bytes.
 void BancoBuscar(Tabla &tabla, const char *nombre, const QString &texto) {
     ListaTexto lista(Especificacion(2));
-    lista.Asignar(Columnas(Nombres(kFilasOrden), 2));
+    lista.Asignar({Columnas(Nombres(kFilasOrden), 2)});
     const double pasada = MejorTiempo(5, [&] {
         for (int columna = 0; columna < 2; ++columna)
             for (int fila = 0; fila < lista.Filas(); ++fila) {

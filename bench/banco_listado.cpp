@@ -33,7 +33,7 @@ ListaTexto *Articulos(QObject &padre) {
         celdas[5].Agregar(n);
     }
     auto *lista = new ListaTexto(std::vector<ColumnaLista>(6), &padre);
-    lista->Asignar(std::move(celdas));
+    lista->Asignar({std::move(celdas)});
     return lista;
 }
 

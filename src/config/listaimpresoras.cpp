@@ -1,6 +1,5 @@
 #include "config/listaimpresoras.h"
 
-#include <QScopedValueRollback>
 #include <QSettings>
 
 namespace tarvo {
@@ -10,15 +9,11 @@ ListaImpresoras::ListaImpresoras(QSettings &ajustes, QString clave, const QStrin
       ajustes_(ajustes),
       clave_(std::move(clave)),
       lista_({{.titulo = titulo, .ancho = 7100}}) {
-    lista_.HacerMarcable();
-    connect(&lista_, &QAbstractItemModel::dataChanged, this,
-            [this](const QModelIndex &celda, const QModelIndex &, const QList<int> &roles) {
-                AlCambiarMarca(celda, roles);
-            });
+    lista_.PonerMarcable(true);
+    connect(&lista_, &ListaTexto::MarcaPulsada, this, &ListaImpresoras::Elegir);
 }
 
 void ListaImpresoras::Llenar(const QStringList &nombres) {
-    const QScopedValueRollback marcando(marcando_, true);
     lista_.Limpiar();
     for (const QString &nombre : nombres)
         lista_.AgregarFila({nombre});
@@ -42,13 +37,7 @@ QString ListaImpresoras::Elegida() const {
     return {};
 }
 
-void ListaImpresoras::AlCambiarMarca(const QModelIndex &celda, const QList<int> &roles) {
-    if (!marcando_ && (roles.isEmpty() || roles.contains(int(Qt::CheckStateRole))))
-        Elegir(celda.row());
-}
-
 void ListaImpresoras::MarcarSolo(int fila) {
-    const QScopedValueRollback marcando(marcando_, true);
     for (int otra = 0; otra < lista_.Filas(); ++otra)
         lista_.Marcar(otra, otra == fila);
 }

@@ -32,13 +32,11 @@ class ListaImpresoras : public QObject {
     void FilaElegida(int fila);
 
   private:
-    void AlCambiarMarca(const QModelIndex &celda, const QList<int> &roles);
     void MarcarSolo(int fila);
 
     QSettings &ajustes_;
     QString clave_;
     ListaTexto lista_;
-    bool marcando_ = false;
 };
 
 } // namespace tarvo

@@ -6,7 +6,7 @@
 #include <QIcon>
 
 #include <algorithm>
-#include <numeric>
+#include <limits>
 
 namespace tarvo {
 
@@ -19,6 +19,25 @@ bool MismosTextos(const ColumnaTexto &una, const ColumnaTexto &otra) {
         if (una.Celda(fila) != otra.Celda(fila))
             return false;
     return true;
+}
+
+constexpr std::uint32_t kSobra = std::numeric_limits<std::uint32_t>::max();
+
+ColumnaTexto Elegidas(const ColumnaTexto &columna, const std::vector<std::uint32_t> &filas) {
+    ColumnaTexto elegidas;
+    elegidas.Reservar(static_cast<std::int64_t>(filas.size()));
+    for (const std::uint32_t fila : filas)
+        elegidas.Agregar(columna.Celda(fila));
+    return elegidas;
+}
+
+template <typename Valor>
+std::vector<Valor> Elegidas(const std::vector<Valor> &valores, const std::vector<std::uint32_t> &filas) {
+    std::vector<Valor> elegidos;
+    elegidos.reserve(filas.size());
+    for (const std::uint32_t fila : filas)
+        elegidos.push_back(valores[fila]);
+    return elegidos;
 }
 
 } // namespace
@@ -62,6 +81,23 @@ struct ListaTexto::Privado {
         orden = columna < 0 ? Filas{} : Permutacion(RangosDe(columna), sentido);
     }
 
+    // Only these stored rows, rising, stay; they keep their order on screen.
+    void Conservar(const Filas &filas) {
+        Filas nuevas(static_cast<std::size_t>(celdas.front().Filas()), kSobra);
+        for (std::size_t i = 0; i < filas.size(); ++i)
+            nuevas[filas[i]] = static_cast<std::uint32_t>(i);
+        for (ColumnaTexto &columna : celdas)
+            columna = Elegidas(columna, filas);
+        for (std::vector<Tono> &tono : tonos)
+            if (!tono.empty())
+                tono = Elegidas(tono, filas);
+        marcas = Elegidas(marcas, filas);
+        for (std::uint32_t &fila : orden)
+            fila = nuevas[fila];
+        std::erase(orden, kSobra);
+        OlvidarRangos();
+    }
+
     // Place on screen of a new row with `texto` in the sort column: behind its equals.
     int Lugar(const QString &texto, int columna, Qt::SortOrder sentido) const {
         const int signo = sentido == Qt::AscendingOrder ? 1 : -1;
@@ -93,20 +129,24 @@ std::string_view ListaTexto::CeldaUtf8(int fila, int columna) const {
     return d_->Celda(fila, columna);
 }
 
-void ListaTexto::Asignar(std::vector<ColumnaTexto> celdas, int columnaTono, std::vector<Tono> tonos) {
-    Q_ASSERT(celdas.size() == especificacion_.size());
+void ListaTexto::Asignar(ContenidoLista contenido) {
+    Q_ASSERT(contenido.celdas.size() == especificacion_.size());
     beginResetModel();
-    d_->Reemplazar(std::move(celdas));
+    d_->Reemplazar(std::move(contenido.celdas));
     d_->tonos.assign(especificacion_.size(), {});
-    if (columnaTono >= 0)
-        d_->tonos[static_cast<std::size_t>(columnaTono)] = std::move(tonos);
+    for (TonosColumna &columna : contenido.tonos)
+        d_->tonos[static_cast<std::size_t>(columna.columna)] = std::move(columna.tonos);
     d_->marcas.assign(static_cast<std::size_t>(Filas()), false);
     d_->Reordenar(columnaOrden_, orden_);
+    columnaFlecha_ = FlechaDe(columnaOrden_);
     endResetModel();
 }
 
 void ListaTexto::Limpiar() {
-    Asignar(std::vector<ColumnaTexto>(especificacion_.size()));
+    const int flecha = columnaFlecha_;
+    Asignar({std::vector<ColumnaTexto>(especificacion_.size())});
+    columnaFlecha_ = flecha;
+    emit headerDataChanged(Qt::Horizontal, 0, columnCount() - 1);
 }
 
 int ListaTexto::AgregarFila(const QStringList &celdas) {
@@ -145,6 +185,17 @@ void ListaTexto::QuitarFila(int fila) {
     endRemoveRows();
 }
 
+void ListaTexto::QuitarFilas(const std::function<bool(int fila)> &sobra) {
+    Privado::Filas quedan;
+    for (int fila = Filas() - 1; fila >= 0; --fila)
+        if (!sobra(fila))
+            quedan.push_back(d_->Guardada(fila));
+    std::sort(quedan.begin(), quedan.end());
+    beginResetModel();
+    d_->Conservar(quedan);
+    endResetModel();
+}
+
 void ListaTexto::PonerCelda(int fila, int columna, const QString &texto) {
     d_->celdas[static_cast<std::size_t>(columna)].Poner(d_->Guardada(fila), texto.toStdString());
     d_->rangos[static_cast<std::size_t>(columna)].clear();
@@ -164,8 +215,9 @@ void ListaTexto::PonerTono(int fila, int columna, Tono tono) {
     emit dataChanged(index(fila, columna), index(fila, columna), {Qt::ForegroundRole});
 }
 
-void ListaTexto::HacerMarcable() {
-    d_->marcable = true;
+void ListaTexto::PonerMarcable(bool marcable) {
+    d_->marcable = marcable;
+    d_->marcas.assign(d_->marcas.size(), false);
     if (Filas() > 0)
         emit dataChanged(index(0, 0), index(Filas() - 1, 0), {Qt::CheckStateRole});
 }
@@ -198,12 +250,17 @@ int ListaTexto::BuscarParte(const std::vector<int> &columnas, const QString &tex
 }
 
 void ListaTexto::Ordenar(int columna, Qt::SortOrder orden) {
+    Ordenar(columna, orden, FlechaDe(columna));
+}
+
+void ListaTexto::Ordenar(int columna, Qt::SortOrder orden, int flecha) {
     emit layoutAboutToBeChanged({}, VerticalSortHint);
     const QModelIndexList antes = persistentIndexList();
     std::vector<std::uint32_t> guardadas;
     for (const QModelIndex &indice : antes)
         guardadas.push_back(d_->Guardada(indice.row()));
     columnaOrden_ = columna;
+    columnaFlecha_ = flecha;
     orden_ = orden;
     d_->Reordenar(columna, orden);
     SeguirIndices(antes, guardadas);
@@ -225,10 +282,19 @@ void ListaTexto::SeguirIndices(const QModelIndexList &antes, const std::vector<s
 }
 
 void ListaTexto::ClicEncabezado(int columna) {
+    if (Filas() == 0 && !ordenaVacia_)
+        return;
     const int clave = especificacion_[static_cast<std::size_t>(columna)].claveOrden;
     const int orden = clave < 0 ? columna : clave;
     const bool misma = columnaOrden_ == orden && orden_ == Qt::AscendingOrder;
-    Ordenar(orden, misma ? Qt::DescendingOrder : Qt::AscendingOrder);
+    Ordenar(orden, misma ? Qt::DescendingOrder : Qt::AscendingOrder, columna);
+}
+
+int ListaTexto::FlechaDe(int columnaOrden) const {
+    if (columnaOrden < 0)
+        return -1;
+    const int flecha = especificacion_[static_cast<std::size_t>(columnaOrden)].flecha;
+    return flecha < 0 ? columnaOrden : flecha;
 }
 
 void ListaTexto::PonerTitulo(int columna, const QString &titulo) {
@@ -269,6 +335,7 @@ bool ListaTexto::setData(const QModelIndex &indice, const QVariant &valor, int r
     if (rol != Qt::CheckStateRole || !(flags(indice) & Qt::ItemIsUserCheckable))
         return false;
     Marcar(indice.row(), valor.toInt() == Qt::Checked);
+    emit MarcaPulsada(indice.row());
     return true;
 }
 
@@ -283,19 +350,13 @@ QVariant ListaTexto::headerData(int seccion, Qt::Orientation orientacion, int ro
         return QVariant::fromValue(Qt::Alignment(columna.derecha ? Qt::AlignRight : Qt::AlignLeft) |
                                    Qt::AlignVCenter);
     case Qt::DecorationRole:
-        if (!LlevaIcono(seccion))
+        if (seccion != columnaFlecha_)
             return {};
         return QIcon(orden_ == Qt::AscendingOrder ? QStringLiteral(":/iconos/arriba.svg")
                                                   : QStringLiteral(":/iconos/abajo.svg"));
     default:
         return {};
     }
-}
-
-// The header that was clicked: the one whose key is sorted by, else the sort column itself.
-bool ListaTexto::LlevaIcono(int columna) const {
-    const int clave = especificacion_[static_cast<std::size_t>(columna)].claveOrden;
-    return columnaOrden_ >= 0 && (clave < 0 ? columna : clave) == columnaOrden_;
 }
 
 Qt::ItemFlags ListaTexto::flags(const QModelIndex &indice) const {

@@ -6,13 +6,15 @@
 //
 // Sorting is stable and by text, with Spanish collation and case ignored: rows with equal texts keep the
 // order in which they came, in both directions. No column sorts by number: "$ 9,00" stands behind "$ 10,00".
+// The column that is sorted by and the header that shows the arrow are two things: dates are compared by a
+// hidden column, and their header shows it.
 #pragma once
 
-#include "desktop/tono.h"
-#include "store/columna.h"
+#include "desktop/contenidolista.h"
 
 #include <QAbstractTableModel>
 
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -25,6 +27,7 @@ struct ColumnaLista {
     bool oculta = false;
     int claveOrden = -1; // column by whose text a click on this header sorts; -1: its own
     int legibles = 0;    // so many characters can be read, however narrow the list
+    int flecha = -1;     // header with the arrow while a fill or Ordenar sorts by this column; -1: its own
 };
 
 class ListaTexto : public QAbstractTableModel {
@@ -38,21 +41,24 @@ class ListaTexto : public QAbstractTableModel {
     QString Celda(int fila, int columna) const;
     std::string_view CeldaUtf8(int fila, int columna) const; // valid until the list is next changed
 
-    // Replaces all rows by these columns (one per column of the list, all of one length), in one reset; they
-    // come sorted when the list has a sort column. `tonos` gives each row's tone in column `columnaTono`.
-    void Asignar(std::vector<ColumnaTexto> celdas, int columnaTono = -1, std::vector<Tono> tonos = {});
+    // Replaces all rows, in one reset; they come sorted when the list has a sort column, and the arrow goes
+    // where that column says. All check marks are off.
+    void Asignar(ContenidoLista contenido);
     void Limpiar();
     // Adds a row, at its sorted place when the list has a sort column, else at the end; returns its number.
     int AgregarFila(const QStringList &celdas);
     void QuitarFila(int fila);
+    // Removes the rows of which `sobra` is true, in one reset: none is selected then. It is asked once for
+    // each row, from the last to the first, while all of them still stand.
+    void QuitarFilas(const std::function<bool(int fila)> &sobra);
     // Changes a cell; the row keeps its place and its tones.
     void PonerCelda(int fila, int columna, const QString &texto);
 
     Tono TonoDe(int fila, int columna) const;
     void PonerTono(int fila, int columna, Tono tono);
 
-    // Check marks, for lists made checkable: shown in the first column.
-    void HacerMarcable();
+    // Check marks, shown in the first column while they are switched on; switching on or off unchecks all.
+    void PonerMarcable(bool marcable);
     bool Marcada(int fila) const;
     void Marcar(int fila, bool marcada);
 
@@ -64,11 +70,14 @@ class ListaTexto : public QAbstractTableModel {
     // Direction, and the column whose texts are compared; -1: the rows stand in the order in which they came.
     int ColumnaOrden() const { return columnaOrden_; }
     Qt::SortOrder Orden() const { return orden_; }
+    // The header that shows the icon "arriba" (ascending) or "abajo" (Qt::DecorationRole); -1: none.
+    int ColumnaFlecha() const { return columnaFlecha_; }
     void Ordenar(int columna, Qt::SortOrder orden);
     // A click on a header: another column sorts ascending (by its key column, when it has one), the same one
-    // turns round. The header that leads to the sort column shows the icon "arriba" (ascending) or "abajo"
-    // (Qt::DecorationRole).
+    // turns round. The header that was clicked shows the arrow.
     void ClicEncabezado(int columna);
+    // From now on a click on a header does nothing while the list has no row.
+    void DejarVaciaSinOrdenar() { ordenaVacia_ = false; }
 
     // Caption of a column, when a window's resize rule changes it.
     void PonerTitulo(int columna, const QString &titulo);
@@ -80,13 +89,19 @@ class ListaTexto : public QAbstractTableModel {
     QVariant headerData(int seccion, Qt::Orientation orientacion, int rol = Qt::DisplayRole) const override;
     Qt::ItemFlags flags(const QModelIndex &indice) const override;
 
+  signals:
+    void MarcaPulsada(int fila); // the operator has switched the check mark of a row
+
   private:
+    void Ordenar(int columna, Qt::SortOrder orden, int flecha);
     void SeguirIndices(const QModelIndexList &antes, const std::vector<std::uint32_t> &guardadas);
-    bool LlevaIcono(int columna) const;
+    int FlechaDe(int columnaOrden) const;
 
     struct Privado;
     std::vector<ColumnaLista> especificacion_;
     int columnaOrden_ = -1;
+    int columnaFlecha_ = -1;
+    bool ordenaVacia_ = true;
     Qt::SortOrder orden_ = Qt::AscendingOrder;
     std::unique_ptr<Privado> d_;
 };

@@ -117,8 +117,7 @@ ContenidoLista LeerArticulos(FrmBases &bases, int filtro) {
     return {{Extraer(bases.camArtCodigo, eleccion), Extraer(bases.camArtNombre, eleccion), stock,
              tarifador.Monto(0), tarifador.Monto(1), tarifador.Monto(2), tarifador.Monto(3),
              Extraer(bases.camArtId, eleccion), Extraer(bases.camArtIdCategoria1, eleccion)},
-            columnasArticulos::kStock,
-            std::move(tonos)};
+            {{columnasArticulos::kStock, std::move(tonos)}}};
 }
 
 QString IvaDe(const Moneda &moneda, const QString &pventa, const QString &subtotal) {

@@ -71,8 +71,7 @@ void ListaDetalle::Llenar() {
         PasarAVacia();
         return;
     }
-    ContenidoLista contenido = LeerFilas();
-    lista_.Asignar(std::move(contenido.celdas), contenido.columnaTono, std::move(contenido.tonos));
+    lista_.Asignar(LeerFilas());
     Exportar(true);
     if (lista_.Filas() == 0) {
         PasarAVacia();

@@ -67,13 +67,6 @@ struct ReglasDetalle {
     bool callarErrores = true;          // a fill that fails says nothing
 };
 
-// All rows of a list, as ListaTexto::Asignar takes them.
-struct ContenidoLista {
-    std::vector<ColumnaTexto> celdas;
-    int columnaTono = -1;
-    std::vector<Tono> tonos;
-};
-
 enum class EstadoDetalle { Vacia, Viendo, Nueva };
 
 class ListaDetalle {

@@ -74,14 +74,14 @@ void LlenarArticulos(FrmBases &bases, ListaTexto &articulos) {
                                      ColumnaIva(tipos, LeerTextosIva(bases)),
                                      bases.camArtId.Columna(),
                                      tipos};
-    articulos.Asignar(std::move(celdas), articulo::Stock, TonosStock(stock, bases.moneda()));
+    articulos.Asignar({std::move(celdas), {{articulo::Stock, TonosStock(stock, bases.moneda())}}});
 }
 
 void LlenarClientes(FrmBases &bases, ListaTexto &clientes) {
     bases.datClientes.Cargar(
         {&bases.camCliId, &bases.camCliCodigo, &bases.camCliNombre, &bases.camCliTel1, &bases.camCliIFiscal});
-    clientes.Asignar({bases.camCliCodigo.Columna(), bases.camCliNombre.Columna(), bases.camCliTel1.Columna(),
-                      bases.camCliIFiscal.Columna(), bases.camCliId.Columna()});
+    clientes.Asignar({{bases.camCliCodigo.Columna(), bases.camCliNombre.Columna(), bases.camCliTel1.Columna(),
+                       bases.camCliIFiscal.Columna(), bases.camCliId.Columna()}});
 }
 
 template <typename Relleno>

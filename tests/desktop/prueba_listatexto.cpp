@@ -20,12 +20,12 @@ QStringList Columna(const ListaTexto &lista, int columna) {
     return textos;
 }
 
-std::vector<ColumnaTexto> Celdas(const QList<QStringList> &columnas) {
+ContenidoLista Celdas(const QList<QStringList> &columnas) {
     std::vector<ColumnaTexto> celdas(static_cast<std::size_t>(columnas.size()));
     for (qsizetype i = 0; i < columnas.size(); ++i)
         for (const QString &texto : columnas[i])
             celdas[static_cast<std::size_t>(i)].Agregar(texto.toStdString());
-    return celdas;
+    return {std::move(celdas)};
 }
 
 // A list of texts and the number of each row as it came.
@@ -80,19 +80,69 @@ INSTANTIATE_TEST_SUITE_P(
         CasoOrden{"empty_first", {u"a"_qs, u""_qs, u" "_qs, u""_qs}, u"1 3 2 0"_qs, u"0 2 1 3"_qs}),
     [](const auto &caso) { return std::string(caso.param.nombre); });
 
-TEST(ListaTexto, HeaderClicksTurnRoundAndFollowTheKeyColumn) {
-    ListaTexto lista(
-        {{QStringLiteral("Fecha"), 1000, false, false, 1}, {QStringLiteral("clave"), 0, false, true}});
-    lista.Asignar(Celdas({{u"02/01/2026"_qs, u"01/02/2026"_qs}, {u"2026/01/02"_qs, u"2026/02/01"_qs}}));
-    const auto icono = [&] { return lista.headerData(0, Qt::Horizontal, Qt::DecorationRole).isValid(); };
-    EXPECT_FALSE(icono());
+// As the accounts have it: the first header sorts by a hidden column, the list begins sorted by another one.
+TEST(ListaTexto, TheArrowStandsApartFromTheSortColumn) {
+    ListaTexto lista({{.titulo = u"Fecha"_qs, .claveOrden = 2},
+                      {.titulo = u"Detalle"_qs},
+                      {.titulo = u"id"_qs, .oculta = true},
+                      {.titulo = u"ordFecha"_qs, .oculta = true, .flecha = 0}});
+    const auto estado = [&] {
+        QString flechas;
+        for (int i = 0; i < lista.columnCount(); ++i)
+            if (lista.headerData(i, Qt::Horizontal, Qt::DecorationRole).isValid())
+                flechas += QString::number(i);
+        const QChar sentido(lista.Orden() == Qt::AscendingOrder ? u'+' : u'-');
+        return QStringLiteral("%1%2 at %3").arg(lista.ColumnaOrden()).arg(sentido).arg(flechas);
+    };
+    const auto llenar = [&] {
+        lista.Asignar(
+            Celdas({{u"02/01"_qs, u"01/02"_qs}, {u"b"_qs, u"a"_qs}, {u"7"_qs, u"8"_qs}, {u"y"_qs, u"x"_qs}}));
+    };
+    EXPECT_EQ(estado(), u"-1+ at ");
+    lista.Ordenar(3, Qt::AscendingOrder);
+    EXPECT_EQ(estado(), u"3+ at 0");
+    llenar();
+    EXPECT_EQ(lista.Celda(0, 0), u"01/02");
     lista.ClicEncabezado(0);
-    EXPECT_EQ(lista.Celda(0, 0), u"02/01/2026");
-    EXPECT_TRUE(icono());
+    EXPECT_EQ(estado(), u"2+ at 0");
+    EXPECT_EQ(lista.Celda(0, 0), u"02/01");
     lista.ClicEncabezado(0);
-    EXPECT_EQ(lista.Celda(0, 0), u"01/02/2026");
-    EXPECT_EQ(lista.Orden(), Qt::DescendingOrder);
-    EXPECT_EQ(lista.ColumnaOrden(), 1);
+    EXPECT_EQ(estado(), u"2- at 0");
+    lista.Limpiar();
+    lista.DejarVaciaSinOrdenar();
+    lista.ClicEncabezado(1);
+    EXPECT_EQ(estado(), u"2- at 0");
+    llenar();
+    EXPECT_EQ(estado(), u"2- at 2") << "a hidden header";
+    EXPECT_EQ(lista.Celda(0, 0), u"01/02");
+    lista.ClicEncabezado(1);
+    EXPECT_EQ(estado(), u"1+ at 1");
+}
+
+TEST(ListaTexto, RowsGoByAPredicateAndTheRestStaysAsItWas) {
+    ListaDePrueba lista({u"d"_qs, u"a"_qs, u"c"_qs, u"b"_qs, u"e"_qs});
+    lista.PonerMarcable(true);
+    lista.PonerTono(2, 0, Tono::Azul);
+    lista.Marcar(2, true);
+    lista.Ordenar(0, Qt::DescendingOrder);
+    QString pedidas;
+    lista.QuitarFilas([&](int fila) {
+        pedidas += lista.Celda(fila, 0);
+        return lista.Celda(fila, 0) == u"a" || lista.Celda(fila, 0) == u"d";
+    });
+    EXPECT_EQ(pedidas, u"abcde") << "from the last row to the first, all of them still there";
+    EXPECT_EQ(lista.Numeros(), u"4 2 3");
+    EXPECT_EQ(lista.TonoDe(1, 0), Tono::Azul);
+    EXPECT_TRUE(lista.Marcada(1) && !lista.Marcada(0) && !lista.Marcada(2));
+    lista.AgregarFila({u"c"_qs, u"5"_qs});
+    EXPECT_EQ(lista.Numeros(), u"4 2 5 3");
+
+    lista.PonerMarcable(false);
+    EXPECT_FALSE(lista.flags(lista.index(0, 0)).testFlag(Qt::ItemIsUserCheckable));
+    lista.PonerMarcable(true);
+    EXPECT_FALSE(lista.Marcada(1)) << "all unchecked when switched on again";
+    lista.QuitarFilas([](int) { return true; });
+    EXPECT_EQ(lista.Filas(), 0);
 }
 
 TEST(ListaTexto, NewRowsGoBehindTheirEquals) {
@@ -109,7 +159,7 @@ TEST(ListaTexto, NewRowsGoBehindTheirEquals) {
 
 TEST(ListaTexto, RowsKeepTonesMarksAndPlaceThroughChanges) {
     ListaDePrueba lista({u"c"_qs, u"a"_qs, u"b"_qs, u"d"_qs});
-    lista.HacerMarcable();
+    lista.PonerMarcable(true);
     lista.PonerTono(0, 0, Tono::Rojo);
     lista.Marcar(3, true);
     lista.Ordenar(0, Qt::AscendingOrder);
@@ -121,7 +171,9 @@ TEST(ListaTexto, RowsKeepTonesMarksAndPlaceThroughChanges) {
     EXPECT_FALSE(lista.index(0, 0).data(Qt::ForegroundRole).isValid());
     EXPECT_TRUE(lista.Marcada(2));
 
+    QSignalSpy pulsada(&lista, &ListaTexto::MarcaPulsada);
     EXPECT_TRUE(lista.setData(lista.index(0, 0), Qt::Checked, Qt::CheckStateRole));
+    EXPECT_EQ(pulsada.size(), 1);
     EXPECT_FALSE(lista.setData(lista.index(0, 1), Qt::Checked, Qt::CheckStateRole))
         << "marks lie in the first column";
     lista.Ordenar(0, Qt::AscendingOrder);
@@ -129,10 +181,13 @@ TEST(ListaTexto, RowsKeepTonesMarksAndPlaceThroughChanges) {
     EXPECT_EQ(lista.TonoDe(2, 0), Tono::Rojo);
     EXPECT_TRUE(lista.Marcada(0) && lista.Marcada(1) && !lista.Marcada(2));
 
-    lista.Asignar(Celdas({{u"y"_qs, u"x"_qs}, {u"0"_qs, u"1"_qs}}), 1, {Tono::Azul, Tono::Verde});
+    ContenidoLista contenido = Celdas({{u"y"_qs, u"x"_qs}, {u"0"_qs, u"1"_qs}});
+    contenido.tonos = {{1, {Tono::Azul, Tono::Verde}}, {0, {Tono::Normal, Tono::Marron}}};
+    lista.Asignar(contenido);
     EXPECT_EQ(lista.Numeros(), u"1 0") << "the sort stays for new rows";
     EXPECT_EQ(lista.TonoDe(0, 1), Tono::Verde);
     EXPECT_EQ(lista.TonoDe(1, 0), Tono::Normal);
+    EXPECT_EQ(lista.TonoDe(0, 0), Tono::Marron);
     EXPECT_FALSE(lista.Marcada(0));
 }
 
