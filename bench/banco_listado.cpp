@@ -4,7 +4,7 @@
 
 #include "documents/impresorapdf.h"
 #include "documents/listado.h"
-#include "documents/superficiegrabada.h"
+#include "testkit/papelprueba.h"
 
 #include <QBuffer>
 #include <QFile>
@@ -47,7 +47,7 @@ QFont Fuente(const Letra &letra) {
 // The texts with their places, worked out beforehand.
 class Pintor {
   public:
-    explicit Pintor(const SuperficieGrabada &papel) {
+    explicit Pintor(const PapelPrueba &papel) {
         QBuffer descarte;
         QPdfWriter hoja(&descarte);
         for (const auto &trozo : papel.Trozos()) {
@@ -81,21 +81,21 @@ class Pintor {
     }
 
   private:
-    std::vector<std::pair<SuperficieGrabada::Trozo, QPointF>> textos_;
+    std::vector<std::pair<PapelPrueba::Trozo, QPointF>> textos_;
 };
 
 void BancoListado(Tabla &tabla) {
     QObject padre;
     QTemporaryDir carpeta;
     const Listado listado = ReporteArticulos(*Articulos(padre)).listado;
-    SuperficieGrabada grabada;
+    PapelPrueba grabada;
     ImprimirListado(grabada, listado, kFilas);
     const Pintor pintor(grabada);
     std::vector<double> listados;
     std::vector<double> pintados;
     for (int vuelta = 0; vuelta < 9; ++vuelta) {
         listados.push_back(Milisegundos([&] {
-            ImprimirListado(*NuevoDocumentoPdf(carpeta.path(), Proposito::Listado, listado.titulo,
+            ImprimirListado(*NuevoDocumentoPdf(carpeta.path(), ClasePapel::Hoja, listado.titulo,
                                                QDateTime::currentDateTime()),
                             listado, kFilas);
         }));

@@ -23,6 +23,7 @@ class PreguntasSi final : public tarvo::Preguntas {
         std::fprintf(stderr, "%s\n", qPrintable(texto));
         std::exit(2);
     }
+    QString ElegirRuta(const tarvo::PedidoRuta &) override { return {}; }
 };
 
 class SinImpresoras final : public tarvo::Impresoras {
@@ -30,7 +31,7 @@ class SinImpresoras final : public tarvo::Impresoras {
     QStringList Nombres() const override { return {}; }
     QString Actual() const override { return {}; }
     void HacerActual(const QString &) override {}
-    std::unique_ptr<tarvo::Superficie> NuevoDocumento(tarvo::Proposito, const QString &) override {
+    std::unique_ptr<tarvo::Superficie> NuevoDocumento(tarvo::ClasePapel, const QString &) override {
         throw tarvo::ErrorDatos(tarvo::errores::kImpresora, {});
     }
 };

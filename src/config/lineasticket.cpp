@@ -34,7 +34,7 @@ void LineasTicket::ImprimirPrueba(const Cabecera &lineas, const QString &impreso
         if (!impresora.isEmpty())
             servicios_.impresoras.HacerActual(impresora);
         const auto papel =
-            servicios_.impresoras.NuevoDocumento(Proposito::Ticket, QStringLiteral("Ticket de prueba"));
+            servicios_.impresoras.NuevoDocumento(ClasePapel::Rollo, QStringLiteral("Ticket de prueba"));
         ImprimirTicketPrueba(*papel, lineas);
     } catch (const ErrorDatos &error) {
         servicios_.preguntas.Mostrar(

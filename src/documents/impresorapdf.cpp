@@ -72,15 +72,14 @@ QPageLayout HojaRollo(double largo) {
         QPageSize(QSizeF(kAnchoRollo, largo), QPageSize::Millimeter, QString(), QPageSize::ExactMatch));
 }
 
-std::unique_ptr<SuperficiePintada> Pintada(QBuffer &salida, const QPageLayout &hoja, Proposito proposito,
+std::unique_ptr<SuperficiePintada> Pintada(QBuffer &salida, const QPageLayout &hoja, ClasePapel clase,
                                            const QString &titulo, std::function<void()> alTerminar = {}) {
     salida.open(QIODevice::WriteOnly);
     auto escritor = std::make_unique<QPdfWriter>(&salida);
     escritor->setTitle(titulo);
     escritor->setCreator(QStringLiteral("Tarvo"));
     escritor->setPageLayout(hoja);
-    return std::make_unique<SuperficiePintada>(std::move(escritor), RejillaDe(proposito),
-                                               std::move(alTerminar));
+    return std::make_unique<SuperficiePintada>(std::move(escritor), RejillaDe(clase), std::move(alTerminar));
 }
 
 // Waits for the end of the slip, measures it, and cuts the paper there.
@@ -90,43 +89,42 @@ class RolloPdf final : public SuperficieGrabada {
 
     void Terminar() override {
         QBuffer salida;
-        const auto papel = Pintada(salida, HojaRollo(Largo()), Proposito::Ticket, destino_.titulo);
+        const auto papel = Pintada(salida, HojaRollo(Largo()), ClasePapel::Rollo, destino_.titulo);
         Repetir(*papel);
         papel->Terminar();
         destino_.Guardar(salida.data());
-        SuperficieGrabada::Terminar();
     }
 
   private:
     double Largo() const {
         QBuffer borrador;
-        const auto papel = Pintada(borrador, HojaRollo(kLargoMaximo), Proposito::Ticket, destino_.titulo);
+        const auto papel = Pintada(borrador, HojaRollo(kLargoMaximo), ClasePapel::Rollo, destino_.titulo);
         Repetir(*papel);
         return papel->Paginas() > 1 ? kLargoMaximo : papel->AltoUsado() + 2 * kMargen;
     }
     Destino destino_;
 };
 
-std::unique_ptr<Superficie> NuevoListado(const Destino &destino) {
+std::unique_ptr<Superficie> HojasPdf(const Destino &destino) {
     const auto salida = std::make_shared<QBuffer>();
-    return Pintada(*salida, Hoja(QPageSize(QPageSize::A4)), Proposito::Listado, destino.titulo,
+    return Pintada(*salida, Hoja(QPageSize(QPageSize::A4)), ClasePapel::Hoja, destino.titulo,
                    [salida, destino] { destino.Guardar(salida->data()); });
 }
 
 } // namespace
 
-Rejilla RejillaDe(Proposito proposito) {
-    return proposito == Proposito::Ticket ? Rejilla{kColumnasTicket, 8} : Rejilla{kColumnasListado, 10};
+Rejilla RejillaDe(ClasePapel clase) {
+    return clase == ClasePapel::Rollo ? Rejilla{kColumnasTicket, 8} : Rejilla{kColumnasListado, 10};
 }
 
-std::unique_ptr<Superficie> NuevoDocumentoPdf(const QString &carpeta, Proposito proposito,
-                                              const QString &titulo, const QDateTime &momento) {
+std::unique_ptr<Superficie> NuevoDocumentoPdf(const QString &carpeta, ClasePapel clase, const QString &titulo,
+                                              const QDateTime &momento) {
     if (!QDir().mkpath(carpeta))
         FallarEscritura(carpeta);
     const Destino destino{carpeta, titulo, momento};
-    if (proposito == Proposito::Ticket)
+    if (clase == ClasePapel::Rollo)
         return std::make_unique<RolloPdf>(destino);
-    return NuevoListado(destino);
+    return HojasPdf(destino);
 }
 
 } // namespace tarvo

@@ -1,6 +1,6 @@
 // The built-in printer "PDF": each document becomes a file of its own in a folder.
 //
-// A listing is a file of A4 sheets. A slip is one page of a roll, 80 mm wide and as long as what is on it.
+// Sheets are A4. A roll is one page, 80 mm wide and as long as what is on it.
 // The file is written when the document ends, whole or not at all; a document that is given up leaves none.
 #pragma once
 
@@ -13,11 +13,11 @@ namespace tarvo {
 // `titulo` and `momento` give the name of the file, ticket-20261122-104233-001.pdf; a file that exists is
 // left alone and the last number grows. Throws ErrorDatos(kEscritura) when the folder can't be made; the end
 // of the document throws the same when the file can't be written.
-std::unique_ptr<Superficie> NuevoDocumentoPdf(const QString &carpeta, Proposito proposito,
-                                              const QString &titulo, const QDateTime &momento);
+std::unique_ptr<Superficie> NuevoDocumentoPdf(const QString &carpeta, ClasePapel clase, const QString &titulo,
+                                              const QDateTime &momento);
 
-// What must fit across the paper of a slip or of a listing.
+// What must fit across a kind of paper.
 struct Rejilla;
-Rejilla RejillaDe(Proposito proposito);
+Rejilla RejillaDe(ClasePapel clase);
 
 } // namespace tarvo

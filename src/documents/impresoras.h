@@ -14,7 +14,10 @@ class QSettings;
 
 namespace tarvo {
 
+// What a printer is chosen for.
 enum class Proposito { Ticket, Listado };
+// What a document is printed on: paper of a roll, or sheets.
+enum class ClasePapel { Rollo, Hoja };
 
 inline constexpr const char *kImpresoraPdf = "PDF";
 
@@ -26,10 +29,10 @@ class Impresoras {
     virtual QString Actual() const = 0;
     // The current printer becomes the one of that name; another name changes nothing.
     virtual void HacerActual(const QString &nombre) = 0;
-    // A new document on the current printer. A ticket is paper of a roll, a listing a sheet; `titulo` names
-    // the document in the printer's queue and, for the PDF printer, its file. Throws ErrorDatos: kImpresora
-    // when the printer is gone or refuses, kEscritura when the folder of the PDF printer can't be written.
-    virtual std::unique_ptr<Superficie> NuevoDocumento(Proposito proposito, const QString &titulo) = 0;
+    // A new document on the current printer; `titulo` names it in the printer's queue and, for the PDF
+    // printer, its file. Throws ErrorDatos: kImpresora when the printer is gone or refuses, kEscritura when
+    // the folder of the PDF printer can't be written.
+    virtual std::unique_ptr<Superficie> NuevoDocumento(ClasePapel clase, const QString &titulo) = 0;
 };
 
 // Makes the printer whose name is stored under "ImpTick" or "ImpList" the current one. Without a stored name,

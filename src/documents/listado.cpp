@@ -100,7 +100,7 @@ bool ImprimirReporte(Impresoras &impresoras, Preguntas &preguntas, const Reporte
     if (!preguntas.Confirma(reporte.pregunta, Respuesta::Si))
         return false;
     try {
-        const auto papel = impresoras.NuevoDocumento(Proposito::Listado, reporte.listado.titulo);
+        const auto papel = impresoras.NuevoDocumento(ClasePapel::Hoja, reporte.listado.titulo);
         ImprimirListado(*papel, reporte.listado, filas);
         return true;
     } catch (const ErrorDatos &error) {

@@ -56,8 +56,8 @@ void Renglon(Superficie &papel, const QString &rotulo, const QString &importe) {
     AlFinal(papel, importe);
 }
 
-void Encabezado(Superficie &papel, const SolicitudTicket &venta) {
-    ImprimirCabecera(papel, venta.cabecera, venta.fecha, venta.hora);
+void Encabezado(Superficie &papel, const Cabecera &cabecera, const Comprobante &venta) {
+    ImprimirCabecera(papel, cabecera, venta.fecha, venta.hora);
     if (!venta.cliente.isEmpty()) {
         LineaCuerpo(papel, QStringLiteral("Cliente    ") + venta.cliente);
         papel.Negrita(false);
@@ -65,17 +65,17 @@ void Encabezado(Superficie &papel, const SolicitudTicket &venta) {
             LineaCuerpo(papel, QStringLiteral("Id. Fiscal ") + venta.idFiscal);
     }
     papel.Negrita(false);
-    LineaCuerpo(papel, venta.titulo);
+    LineaCuerpo(papel, venta.tipo);
     if (!venta.numero.isEmpty())
         LineaCuerpo(papel, QStringLiteral("Nº Comprobante ") + venta.numero);
     Raya(papel);
 }
 
-void Detalle(Superficie &papel, const std::vector<LineaTicket> &lineas) {
+void Detalle(Superficie &papel, const std::vector<LineaComprobante> &lineas) {
     papel.Negrita(true);
     Renglon(papel, QStringLiteral("Detalle"), QStringLiteral("Total"));
     papel.Negrita(false);
-    for (const LineaTicket &linea : lineas) {
+    for (const LineaComprobante &linea : lineas) {
         papel.Texto(Cortar(linea.nombre, kLargoDetalle));
         AlFinal(papel, linea.subtotal);
         LineaCuerpo(papel, QStringLiteral("  %1 x %2").arg(linea.cantidad, linea.precioUnitario));
@@ -83,7 +83,7 @@ void Detalle(Superficie &papel, const std::vector<LineaTicket> &lineas) {
     Raya(papel);
 }
 
-void Totales(Superficie &papel, const SolicitudTicket &venta) {
+void Totales(Superficie &papel, const Comprobante &venta) {
     Renglon(papel, QStringLiteral("Subtotal"), venta.subtotal);
     Renglon(papel, QStringLiteral("IVA"), venta.iva);
     if (!venta.nombreImpuesto.isEmpty())
@@ -123,8 +123,8 @@ void ImprimirCabecera(Superficie &papel, const Cabecera &cabecera, const QDateTi
     ImprimirCabecera(papel, cabecera, TextoFecha(momento), TextoHora(momento));
 }
 
-void ImprimirTicket(Superficie &papel, const SolicitudTicket &venta) {
-    Encabezado(papel, venta);
+void ImprimirTicket(Superficie &papel, const Cabecera &cabecera, const Comprobante &venta) {
+    Encabezado(papel, cabecera, venta);
     Detalle(papel, venta.lineas);
     Totales(papel, venta);
     LineaCuerpo(papel, QStringLiteral("Vendedor ") + venta.vendedor);

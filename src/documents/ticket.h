@@ -2,12 +2,12 @@
 // 8 and 39 columns wide. Columns count the characters to their left. docs/papel.md shows each slip.
 #pragma once
 
+#include "documents/comprobante.h"
 #include "documents/superficie.h"
 
 #include <QDateTime>
 
 #include <array>
-#include <vector>
 
 namespace tarvo {
 
@@ -29,36 +29,8 @@ inline constexpr int kColumnasTicket = 39;
 void ImprimirCabecera(Superficie &papel, const Cabecera &cabecera, const QString &fecha, const QString &hora);
 void ImprimirCabecera(Superficie &papel, const Cabecera &cabecera, const QDateTime &momento);
 
-// One line of a sale; amounts as they stand on screen.
-struct LineaTicket {
-    QString nombre;
-    QString cantidad;
-    QString precioUnitario;
-    QString subtotal;
-};
-
-// Everything that the ticket of a sale shows, read while the sale is still on screen.
-struct SolicitudTicket {
-    Cabecera cabecera;
-    QString fecha;    // dd/mm/yyyy, of the sale; the header block shows it
-    QString hora;     // HH:nn
-    QString titulo;   // "Factura contado", "Factura crédito"
-    QString numero;   // may be empty
-    QString cliente;  // empty: no customer lines
-    QString idFiscal; // may be empty
-    std::vector<LineaTicket> lineas;
-    QString subtotal;
-    QString iva;
-    QString nombreImpuesto; // empty: the custom tax is not in use
-    QString impuesto;
-    QString total;
-    QString descuento; // "10 %"
-    QString totalConDescuento;
-    QString vendedor; // text of the combo
-};
-
 // The ticket of a sale, to the end of the document.
-void ImprimirTicket(Superficie &papel, const SolicitudTicket &venta);
+void ImprimirTicket(Superficie &papel, const Cabecera &cabecera, const Comprobante &venta);
 
 // The test ticket of the options window: one empty line and the five lines, nothing else.
 void ImprimirTicketPrueba(Superficie &papel, const Cabecera &lineas);

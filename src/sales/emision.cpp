@@ -61,10 +61,10 @@ void OfrecerTicket(const Servicios &servicios, const Venta &venta, const DatosCo
     if (!servicios.preguntas.Confirma(QStringLiteral("Desea imprimir el ticket?"), Respuesta::Si))
         return;
     try {
-        const SolicitudTicket solicitud = PedirTicket(servicios.frmBases, venta, comprobante);
         servicios.impresoras.HacerActual(comprobante.impresora);
-        const auto papel = servicios.impresoras.NuevoDocumento(Proposito::Ticket, solicitud.titulo);
-        ImprimirTicket(*papel, solicitud);
+        const auto papel =
+            servicios.impresoras.NuevoDocumento(ClasePapel::Rollo, DescripcionFactura(venta.pago()));
+        ImprimirTicket(*papel, LeerCabecera(servicios.frmBases), HacerComprobante(venta, comprobante));
     } catch (const std::exception &error) { // whatever it is, a sale that is stored must not stay on screen
         servicios.preguntas.Mostrar(
             QStringLiteral("No se pudo imprimir el ticket. %1\n\nLa venta quedó guardada.")
@@ -86,30 +86,34 @@ void GuardarVenta(FrmBases &frmBases, const Venta &venta, const DatosComprobante
     transaccion.Confirmar();
 }
 
-SolicitudTicket PedirTicket(FrmBases &frmBases, const Venta &venta, const DatosComprobante &comprobante) {
-    SolicitudTicket ticket;
-    ticket.cabecera = LeerCabecera(frmBases);
-    ticket.fecha = comprobante.fecha;
-    ticket.hora = comprobante.hora;
-    ticket.titulo = DescripcionFactura(venta.pago());
-    ticket.numero = comprobante.numComp;
-    ticket.cliente = venta.Cliente().nombre;
-    ticket.idFiscal = venta.Cliente().ruc;
+Comprobante HacerComprobante(const Venta &venta, const DatosComprobante &datos) {
+    Comprobante comprobante;
+    comprobante.tipo = DescripcionFactura(venta.pago());
+    comprobante.numero = datos.numComp;
+    comprobante.fecha = datos.fecha;
+    comprobante.hora = datos.hora;
+    comprobante.codigoCliente = venta.Cliente().codigo;
+    comprobante.cliente = venta.Cliente().nombre;
+    comprobante.idFiscal = venta.Cliente().ruc;
+    comprobante.consumidorFinal = venta.ConsumidorFinal();
+    comprobante.vendedor = datos.vendedor;
     const ListaTexto &detalle = venta.Detalle();
     for (int fila = 0; fila < detalle.Filas(); ++fila)
-        ticket.lineas.push_back({detalle.Celda(fila, linea::Nombre), detalle.Celda(fila, linea::Cantidad),
-                                 detalle.Celda(fila, linea::Precio), detalle.Celda(fila, linea::Subtotal)});
-    ticket.subtotal = comprobante.totales.subtotal;
-    ticket.iva = comprobante.totales.iva;
+        comprobante.lineas.push_back({detalle.Celda(fila, linea::Codigo), detalle.Celda(fila, linea::Nombre),
+                                      detalle.Celda(fila, linea::Cantidad),
+                                      detalle.Celda(fila, linea::Precio),
+                                      detalle.Celda(fila, linea::Subtotal)});
+    comprobante.subtotal = datos.totales.subtotal;
+    comprobante.iva = datos.totales.iva;
     if (const ImpuestoPersonalizado impuesto = venta.Impuesto(); impuesto.utilizar) {
-        ticket.nombreImpuesto = impuesto.nombre;
-        ticket.impuesto = comprobante.totales.impuesto;
+        comprobante.nombreImpuesto =
+            impuesto.nombre.trimmed().isEmpty() ? QStringLiteral("Impuesto") : impuesto.nombre;
+        comprobante.impuesto = datos.totales.impuesto;
     }
-    ticket.total = comprobante.totales.total;
-    ticket.descuento = venta.TextoDescuento();
-    ticket.totalConDescuento = comprobante.totales.conDescuento;
-    ticket.vendedor = comprobante.vendedor;
-    return ticket;
+    comprobante.total = datos.totales.total;
+    comprobante.descuento = venta.TextoDescuento();
+    comprobante.totalConDescuento = datos.totales.conDescuento;
+    return comprobante;
 }
 
 ResultadoEmision Emitir(const Servicios &servicios, const Venta &venta,

@@ -40,7 +40,8 @@ ResultadoEmision Emitir(const Servicios &servicios, const Venta &venta,
 // The writing alone. Throws ErrorDatos; then nothing of it is in the files.
 void GuardarVenta(FrmBases &frmBases, const Venta &venta, const DatosComprobante &comprobante);
 
-SolicitudTicket PedirTicket(FrmBases &frmBases, const Venta &venta, const DatosComprobante &comprobante);
+// What paper shows of the sale. A custom tax in use that has no name is called "Impuesto".
+Comprobante HacerComprobante(const Venta &venta, const DatosComprobante &datos);
 
 // "Factura contado" or "Factura crédito".
 QString DescripcionFactura(Pago pago);

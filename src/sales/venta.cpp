@@ -94,7 +94,7 @@ void Venta::QuitarCliente() {
 
 void Venta::ElegirCliente(const ListaTexto &clientes, int fila) {
     cliente_ = {clientes.Celda(fila, cliente::Nombre), clientes.Celda(fila, cliente::IFiscal),
-                clientes.Celda(fila, cliente::Id)};
+                clientes.Celda(fila, cliente::Id), clientes.Celda(fila, cliente::Codigo)};
     consumidorFinal_ = cliente_.ruc.isEmpty();
 }
 

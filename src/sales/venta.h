@@ -20,6 +20,7 @@ struct ClienteVenta {
     QString nombre;
     QString ruc; // fiscal id
     QString id;
+    QString codigo;
 };
 
 class Venta {

@@ -7,11 +7,14 @@
 
 #include <QAbstractItemView>
 #include <QDir>
+#include <QFileDialog>
+#include <QLineEdit>
 #include <QMainWindow>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSignalSpy>
+#include <QTemporaryDir>
 #include <QTimer>
 
 #include <gtest/gtest.h>
@@ -95,6 +98,31 @@ TEST(PreguntasQt, AsksInSpanishWithTheGivenButtonReady) {
     preguntas.Mostrar(u"No se pudo."_qs, Icono::Critico);
     EXPECT_EQ(mensaje.botones, u"Aceptar ");
     EXPECT_EQ(mensaje.icono, QMessageBox::Critical);
+}
+
+TEST(PreguntasQt, PicksFilesInQtsOwnDialog) {
+    QTemporaryDir carpeta;
+    PreguntasQt preguntas;
+    PedidoRuta pedido{PedidoRuta::Para::Guardar, u"Guardar factura..."_qs,
+                      u"Facturas Velbrina|*.kzd|Imágenes|*.jpg;*.bmp"_qs, carpeta.path()};
+    const auto conTecla = [&](Qt::Key tecla) {
+        QTimer::singleShot(0, qApp, [&pedido, tecla] {
+            auto *dialogo = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
+            ASSERT_NE(dialogo, nullptr);
+            EXPECT_EQ(dialogo->windowTitle(), pedido.titulo);
+            EXPECT_EQ(dialogo->nameFilters(),
+                      QStringList({u"Facturas Velbrina (*.kzd)"_qs, u"Imágenes (*.jpg *.bmp)"_qs}));
+            EXPECT_EQ(dialogo->directory().path(), pedido.carpeta);
+            auto *nombre = dialogo->findChild<QLineEdit *>();
+            nombre->setText(u"mía"_qs);
+            QTest::keyClick(nombre, tecla);
+        });
+        return preguntas.ElegirRuta(pedido);
+    };
+    EXPECT_EQ(conTecla(Qt::Key_Return), carpeta.filePath(u"mía.kzd"_qs));
+    pedido.para = PedidoRuta::Para::Abrir; // a file that isn't there is for the caller to tell
+    EXPECT_EQ(conTecla(Qt::Key_Return), carpeta.filePath(u"mía"_qs));
+    EXPECT_EQ(conTecla(Qt::Key_Escape), QString());
 }
 
 TEST(KitMenu, BuildsTheTreeAndItsShortcutsWork) {

@@ -1,6 +1,5 @@
 // The page machine and the listings of the master data.
 #include "documents/listado.h"
-#include "documents/superficiegrabada.h"
 
 #include "testkit/impresorasprueba.h"
 #include "testkit/preguntasguion.h"
@@ -27,7 +26,7 @@ Listado ListadoNumerado(int &contadas) {
 }
 
 // The numbers of the rows on each page.
-std::vector<QStringList> FilasPorPagina(const SuperficieGrabada &papel) {
+std::vector<QStringList> FilasPorPagina(const PapelPrueba &papel) {
     std::vector<QStringList> paginas(static_cast<std::size_t>(papel.Paginas()));
     for (const auto &trozo : papel.Trozos())
         if (trozo.texto.startsWith(QStringLiteral("fila ")))
@@ -42,7 +41,7 @@ ListaTexto *Lista(QObject &padre, const std::vector<QStringList> &filas) {
     return lista;
 }
 
-SuperficieGrabada *Imprimir(ImpresorasPrueba &impresoras, const ReporteCatalogo &reporte, int filas) {
+PapelPrueba *Imprimir(ImpresorasPrueba &impresoras, const ReporteCatalogo &reporte, int filas) {
     PreguntasGuion preguntas;
     preguntas.Espera(reporte.pregunta, Respuesta::Si, Respuesta::Si);
     EXPECT_TRUE(ImprimirReporte(impresoras, preguntas, reporte, filas));
@@ -70,7 +69,7 @@ TEST(Listado, PagesHoldFiftyOneCountedRows) {
     };
     for (const auto &caso : casos) {
         SCOPED_TRACE(caso.filas);
-        SuperficieGrabada papel;
+        PapelPrueba papel;
         int contadas = -1;
         ImprimirListado(papel, ListadoNumerado(contadas), caso.filas);
         EXPECT_TRUE(papel.Terminado());
@@ -88,7 +87,7 @@ TEST(Listado, PagesHoldFiftyOneCountedRows) {
 }
 
 TEST(Listado, EachPageHasItsHeadAndOnlyTheLastItsFoot) {
-    SuperficieGrabada papel;
+    PapelPrueba papel;
     int contadas = 0;
     Listado listado = ListadoNumerado(contadas);
     listado.columnaTitulo = 30;
@@ -115,7 +114,7 @@ TEST(Listado, Customers) {
                 {QStringLiteral("00000002"), QString(30, u'n'), QString(30, u'f'), QString(20, u'i'),
                  QStringLiteral("12345678901234567890"), QStringLiteral("8")}});
     ImpresorasPrueba impresoras;
-    const SuperficieGrabada *papel = Imprimir(impresoras, ReporteClientes(*lista), lista->Filas());
+    const PapelPrueba *papel = Imprimir(impresoras, ReporteClientes(*lista), lista->Filas());
     EXPECT_EQ(papel->Volcado().toStdString(), R"(
                            [13][n]LISTADO DE CLIENTES
                            -------------------
@@ -143,7 +142,7 @@ TEST(Listado, Articles) {
                       {QStringLiteral("A2"), QString(53, u'n'), QStringLiteral("1"), QStringLiteral("$ 1,00"),
                        QStringLiteral("$ 2,00"), QStringLiteral("8")}});
     ImpresorasPrueba impresoras;
-    const SuperficieGrabada *papel = Imprimir(impresoras, ReporteArticulos(*lista), lista->Filas());
+    const PapelPrueba *papel = Imprimir(impresoras, ReporteArticulos(*lista), lista->Filas());
     EXPECT_EQ(papel->Volcado().toStdString(), R"(
                            [13][n]LISTADO DE ARTICULOS
                            --------------------

@@ -1,8 +1,8 @@
 // What slips carry, line by line.
-#include "documents/superficiegrabada.h"
 #include "documents/ticket.h"
 
 #include "testkit/datosprueba.h"
+#include "testkit/papelprueba.h"
 
 #include <gtest/gtest.h>
 
@@ -18,14 +18,13 @@ Cabecera CabeceraTienda() {
              {QStringLiteral("Gracias"), true}}};
 }
 
-SolicitudTicket VentaContado() {
-    SolicitudTicket venta;
-    venta.cabecera = CabeceraTienda();
+Comprobante VentaContado() {
+    Comprobante venta;
     venta.fecha = QStringLiteral("22/11/2026");
     venta.hora = QStringLiteral("10:42");
-    venta.titulo = QStringLiteral("Factura contado");
-    venta.lineas = {{QStringLiteral("Yerba 1 kg"), QStringLiteral("3"), QStringLiteral("$ 12,50"),
-                     QStringLiteral("$ 37,50")}};
+    venta.tipo = QStringLiteral("Factura contado");
+    venta.lineas = {{QStringLiteral("Y1"), QStringLiteral("Yerba 1 kg"), QStringLiteral("3"),
+                     QStringLiteral("$ 12,50"), QStringLiteral("$ 37,50")}};
     venta.subtotal = QStringLiteral("$ 37,50");
     venta.iva = QStringLiteral("$ 8,25");
     venta.total = QStringLiteral("$ 45,75");
@@ -35,17 +34,17 @@ SolicitudTicket VentaContado() {
     return venta;
 }
 
-QString VolcadoDe(const SolicitudTicket &venta) {
-    SuperficieGrabada papel;
-    ImprimirTicket(papel, venta);
+QString VolcadoDe(const Comprobante &venta) {
+    PapelPrueba papel;
+    ImprimirTicket(papel, CabeceraTienda(), venta);
     EXPECT_TRUE(papel.Terminado());
     return papel.Volcado();
 }
 
 // The lines from the title on.
-QStringList CuerpoDe(const SolicitudTicket &venta) {
-    SuperficieGrabada papel;
-    ImprimirTicket(papel, venta);
+QStringList CuerpoDe(const Comprobante &venta) {
+    PapelPrueba papel;
+    ImprimirTicket(papel, CabeceraTienda(), venta);
     return papel.Lineas().mid(10);
 }
 
@@ -80,8 +79,8 @@ Descuento                           0 %
 }
 
 TEST(Ticket, CreditSaleWithCustomerNumberAndCustomTax) {
-    SolicitudTicket venta = VentaContado();
-    venta.titulo = QStringLiteral("Factura crédito");
+    Comprobante venta = VentaContado();
+    venta.tipo = QStringLiteral("Factura crédito");
     venta.numero = QStringLiteral("A-0001");
     venta.cliente = QStringLiteral("Panadería La Espiga");
     venta.idFiscal = QStringLiteral("211234560018");
@@ -104,12 +103,12 @@ TEST(Ticket, CreditSaleWithCustomerNumberAndCustomTax) {
 }
 
 TEST(Ticket, NothingLeavesTheThirtyNineColumns) {
-    SolicitudTicket venta = VentaContado();
+    Comprobante venta = VentaContado();
     const QString largo(60, QLatin1Char('x'));
-    venta.titulo = venta.numero = venta.cliente = venta.idFiscal = venta.vendedor = largo;
+    venta.tipo = venta.numero = venta.cliente = venta.idFiscal = venta.vendedor = largo;
     venta.nombreImpuesto = largo;
     venta.impuesto = QStringLiteral("$ 1234567,00");
-    venta.lineas = {{largo, largo, largo, QStringLiteral("$ 37,50")}};
+    venta.lineas = {{largo, largo, largo, largo, QStringLiteral("$ 37,50")}};
     const QStringList cuerpo = CuerpoDe(venta);
     for (const QString &linea : cuerpo)
         EXPECT_LE(linea.size(), 39) << linea.toStdString();
@@ -129,8 +128,8 @@ TEST(Ticket, LongNameIsCutAndItsAmountGoesToTheNextLine) {
         {60, QStringLiteral("12,50"), {QString(35, u'x'), QString(34, u' ') + QStringLiteral("12,50")}},
     };
     for (const auto &caso : casos) {
-        SolicitudTicket venta = VentaContado();
-        venta.lineas = {{QString(caso.largo, u'x'), QStringLiteral("1"), caso.importe, caso.importe}};
+        Comprobante venta = VentaContado();
+        venta.lineas = {{{}, QString(caso.largo, u'x'), QStringLiteral("1"), caso.importe, caso.importe}};
         EXPECT_EQ(CuerpoDe(venta).mid(3, caso.lineas.size()), caso.lineas) << caso.largo;
     }
 }
@@ -146,9 +145,9 @@ TEST(Ticket, HeaderLinesAreCentredByTwoRules) {
     for (const auto &caso : casos) {
         Cabecera cabecera;
         cabecera[0].texto = QString(caso.largo, u'x');
-        SuperficieGrabada ticket;
+        PapelPrueba ticket;
         ImprimirCabecera(ticket, cabecera, QDateTime({2026, 11, 22}, {10, 42}));
-        SuperficieGrabada prueba;
+        PapelPrueba prueba;
         ImprimirTicketPrueba(prueba, cabecera);
         EXPECT_EQ(ticket.Trozos().front().columna, caso.enTicket) << caso.largo;
         EXPECT_EQ(prueba.Trozos().front().columna, caso.enPrueba) << caso.largo;
@@ -156,7 +155,7 @@ TEST(Ticket, HeaderLinesAreCentredByTwoRules) {
 }
 
 TEST(Ticket, TestTicketHasOneEmptyLineAndTheFiveLines) {
-    SuperficieGrabada papel;
+    PapelPrueba papel;
     ImprimirTicketPrueba(papel, CabeceraTienda());
     EXPECT_TRUE(papel.Terminado());
     EXPECT_EQ(papel.Volcado().toStdString(), R"(

@@ -182,25 +182,21 @@ TEST_F(Emision, ClosedTablesAreToldAndNothingIsWritten) {
 // --- the ticket
 
 TEST_F(Emision, TheTicketIsAskedWithEverythingOnScreen) {
-    mundo.datos.Ejecutar("UPDATE main.Ticket SET linea1='Almacén', negrita1='S'");
     CobrarImpuesto(mundo.datos, "Si", "No");
     Abrir();
     venta->ElegirCliente(clientes, 0);
     venta->PonerPago(Pago::Credito);
     venta->PonerDescuento(QStringLiteral("10"));
-    const SolicitudTicket ticket = PedirTicket(mundo.frmBases(), *venta,
-                                               {QStringLiteral("22/11/2026"),
-                                                QStringLiteral("10:42"),
-                                                numComp,
-                                                vendedor,
-                                                venta->CalcularTotales(),
-                                                {}});
-    EXPECT_EQ(ticket.cabecera[0].texto, QStringLiteral("Almacén"));
-    EXPECT_TRUE(ticket.cabecera[0].negrita);
+    const Comprobante ticket = HacerComprobante(*venta, {QStringLiteral("22/11/2026"),
+                                                         QStringLiteral("10:42"),
+                                                         numComp,
+                                                         vendedor,
+                                                         venta->CalcularTotales(),
+                                                         {}});
     const std::pair<QString, const char *> textos[] = {
         {ticket.fecha, "22/11/2026"},
         {ticket.hora, "10:42"},
-        {ticket.titulo, "Factura crédito"},
+        {ticket.tipo, "Factura crédito"},
         {ticket.numero, "0001-00000077"},
         {ticket.cliente, "Ñandú S.A."},
         {ticket.idFiscal, "30-71234567-1"},
@@ -212,14 +208,26 @@ TEST_F(Emision, TheTicketIsAskedWithEverythingOnScreen) {
         {ticket.descuento, "10 %"},
         {ticket.totalConDescuento, "$ 486,91"},
         {ticket.vendedor, "V2 - Beto"},
+        {ticket.codigoCliente, "C1"},
+        {ticket.lineas.at(1).codigo, "A2"},
     };
     for (const auto &[texto, esperado] : textos)
         EXPECT_EQ(texto, QString::fromUtf8(esperado));
     ASSERT_EQ(ticket.lineas.size(), 2u);
+    EXPECT_FALSE(ticket.consumidorFinal);
     EXPECT_EQ(ticket.lineas[1].nombre, QStringLiteral("Azúcar"));
     EXPECT_EQ(ticket.lineas[1].cantidad, QStringLiteral("3"));
     EXPECT_EQ(ticket.lineas[1].precioUnitario, QStringLiteral("$ 12,50"));
     EXPECT_EQ(ticket.lineas[1].subtotal, QStringLiteral("$ 37,50"));
+}
+
+TEST_F(Emision, ACustomTaxWithoutANamePrintsAllTheSame) {
+    CobrarImpuesto(mundo.datos, "Si", "No");
+    mundo.datos.Ejecutar("UPDATE main.Impuesto SET nombre=' '");
+    Abrir();
+    const Comprobante ticket = HacerComprobante(*venta, {});
+    EXPECT_EQ(ticket.nombreImpuesto, QStringLiteral("Impuesto"));
+    EXPECT_TRUE(ticket.consumidorFinal);
 }
 
 TEST_F(Emision, TheTicketPrintsAfterTheRowIsSafe) {

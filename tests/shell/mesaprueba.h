@@ -114,6 +114,7 @@ class MesaPrueba : public TableroModulos, public VentanasModulos, public Pregunt
         return respuesta;
     }
     void Mostrar(const QString &, Icono) override { throw std::logic_error("the rule shows no messages"); }
+    QString ElegirRuta(const PedidoRuta &) override { throw std::logic_error("the rule picks no files"); }
 
     // Checks, windows and buttons all tell the same: this module and no other.
     bool SoloAbierta(Modulo modulo) const {

@@ -78,6 +78,7 @@ class PreguntasQueFallan final : public Preguntas {
         mostrados += texto;
         aviso.Proteger([]() -> bool { throw std::runtime_error("otra vez"); });
     }
+    QString ElegirRuta(const PedidoRuta &) override { return {}; }
 };
 
 TEST(AvisoFallas, TellsAnExceptionOnceAndGoesOn) {

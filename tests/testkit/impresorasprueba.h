@@ -2,8 +2,8 @@
 #pragma once
 
 #include "documents/impresoras.h"
-#include "documents/superficiegrabada.h"
 #include "store/errordatos.h"
+#include "testkit/papelprueba.h"
 
 #include <memory>
 #include <utility>
@@ -16,7 +16,7 @@ class ImpresorasPrueba final : public Impresoras {
     QStringList nombres{QStringLiteral("Tickets"), QStringLiteral("Láser"),
                         QString::fromLatin1(kImpresoraPdf)};
     QString actual = QStringLiteral("Láser");
-    std::vector<std::shared_ptr<SuperficieGrabada>> documentos;
+    std::vector<std::shared_ptr<PapelPrueba>> documentos;
     bool fallar = false; // the next documents fail as with a printer that is gone
 
     QStringList Nombres() const override { return nombres; }
@@ -25,10 +25,10 @@ class ImpresorasPrueba final : public Impresoras {
         if (nombres.contains(nombre))
             actual = nombre;
     }
-    std::unique_ptr<Superficie> NuevoDocumento(Proposito, const QString &) override {
+    std::unique_ptr<Superficie> NuevoDocumento(ClasePapel, const QString &) override {
         if (fallar)
             throw ErrorDatos(errores::kImpresora, QStringLiteral("No hay impresora."));
-        documentos.push_back(std::make_shared<SuperficieGrabada>());
+        documentos.push_back(std::make_shared<PapelPrueba>());
         return std::make_unique<Hoja>(documentos.back());
     }
 
@@ -36,7 +36,7 @@ class ImpresorasPrueba final : public Impresoras {
     // What the program writes on and throws away; the recording outlives it.
     class Hoja final : public Superficie {
       public:
-        explicit Hoja(std::shared_ptr<SuperficieGrabada> grabada) : grabada_(std::move(grabada)) {}
+        explicit Hoja(std::shared_ptr<PapelPrueba> grabada) : grabada_(std::move(grabada)) {}
         void Texto(const QString &texto) override { ConLetra().Texto(texto); }
         void Columna(int caracteres) override { ConLetra().Columna(caracteres); }
         void FinLinea() override { ConLetra().FinLinea(); }
@@ -52,7 +52,7 @@ class ImpresorasPrueba final : public Impresoras {
             grabada_->PonerLetra(letra_);
             return *grabada_;
         }
-        std::shared_ptr<SuperficieGrabada> grabada_;
+        std::shared_ptr<PapelPrueba> grabada_;
     };
 };
 

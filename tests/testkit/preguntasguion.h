@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <deque>
+#include <utility>
 
 namespace tarvo {
 
@@ -14,13 +15,18 @@ class PreguntasGuion final : public Preguntas {
     ~PreguntasGuion() override {
         for (const Paso &paso : guion_)
             ADD_FAILURE() << "not asked: " << paso.texto.toStdString();
+        for (const auto &[pedido, ruta] : rutas_)
+            ADD_FAILURE() << "not asked: " << pedido.titulo.toStdString();
     }
 
     void Espera(const QString &texto, Respuesta preseleccionada, Respuesta contestar) {
         guion_.push_back({texto, Icono::Pregunta, preseleccionada, contestar});
     }
+    void EsperaRuta(const PedidoRuta &pedido, const QString &contestar) {
+        rutas_.push_back({pedido, contestar});
+    }
     void EsperaMensaje(const QString &texto, Icono icono) { guion_.push_back({texto, icono, {}, {}}); }
-    bool Terminado() const { return guion_.empty(); }
+    bool Terminado() const { return guion_.empty() && rutas_.empty(); }
 
     Respuesta Preguntar(const QString &texto, Respuesta preseleccionada) override {
         const Paso paso = Tomar(texto);
@@ -37,6 +43,19 @@ class PreguntasGuion final : public Preguntas {
         if (paso.texto == texto) {
             EXPECT_EQ(paso.icono, icono) << "other icon: " << texto.toStdString();
         }
+    }
+    QString ElegirRuta(const PedidoRuta &pedido) override {
+        if (rutas_.empty()) {
+            ADD_FAILURE() << "unexpected: " << pedido.titulo.toStdString();
+            return {};
+        }
+        const auto [esperado, ruta] = rutas_.front();
+        rutas_.pop_front();
+        EXPECT_EQ(pedido.para, esperado.para);
+        EXPECT_EQ(pedido.titulo, esperado.titulo);
+        EXPECT_EQ(pedido.filtro, esperado.filtro);
+        EXPECT_EQ(pedido.carpeta, esperado.carpeta);
+        return ruta;
     }
 
   private:
@@ -58,6 +77,7 @@ class PreguntasGuion final : public Preguntas {
         return paso;
     }
     std::deque<Paso> guion_;
+    std::deque<std::pair<PedidoRuta, QString>> rutas_; // in their own order
 };
 
 } // namespace tarvo

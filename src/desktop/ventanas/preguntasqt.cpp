@@ -1,6 +1,7 @@
 #include "desktop/ventanas/preguntasqt.h"
 
 #include <QApplication>
+#include <QFileDialog>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -29,6 +30,34 @@ void Preparar(QMessageBox &caja, const QString &texto, Icono icono) {
     caja.setIcon(IconoDeCaja(icono));
 }
 
+// "Facturas|*.kzd" as the dialog wants it: "Facturas (*.kzd)".
+QStringList FiltrosDeDialogo(const QString &filtro) {
+    const QStringList partes = filtro.split(QLatin1Char('|'));
+    QStringList filtros;
+    for (qsizetype i = 0; i + 1 < partes.size(); i += 2) {
+        const QString patrones = QString(partes[i + 1]).replace(QLatin1Char(';'), QLatin1Char(' '));
+        filtros << QStringLiteral("%1 (%2)").arg(partes[i], patrones);
+    }
+    return filtros;
+}
+
+// "kzd" of "Facturas (*.kzd)".
+QString Terminacion(const QString &filtro) {
+    return filtro.section(QStringLiteral("(*."), 1).section(QLatin1Char(')'), 0, 0);
+}
+
+void PrepararArchivo(QFileDialog &dialogo, const PedidoRuta &pedido) {
+    const QStringList filtros = FiltrosDeDialogo(pedido.filtro);
+    dialogo.setFileMode(QFileDialog::AnyFile);
+    dialogo.setNameFilters(filtros);
+    if (pedido.para != PedidoRuta::Para::Guardar)
+        return;
+    dialogo.setAcceptMode(QFileDialog::AcceptSave);
+    dialogo.setDefaultSuffix(Terminacion(filtros.value(0)));
+    QObject::connect(&dialogo, &QFileDialog::filterSelected, &dialogo,
+                     [&dialogo](const QString &filtro) { dialogo.setDefaultSuffix(Terminacion(filtro)); });
+}
+
 } // namespace
 
 Respuesta PreguntasQt::Preguntar(const QString &texto, Respuesta preseleccionada) {
@@ -49,6 +78,19 @@ void PreguntasQt::Mostrar(const QString &texto, Icono icono) {
     caja.setDefaultButton(aceptar);
     caja.setEscapeButton(aceptar);
     caja.exec();
+}
+
+QString PreguntasQt::ElegirRuta(const PedidoRuta &pedido) {
+    QFileDialog dialogo(QApplication::activeWindow(), pedido.titulo, pedido.carpeta);
+    dialogo.setOptions(QFileDialog::DontUseNativeDialog | QFileDialog::HideNameFilterDetails |
+                       QFileDialog::DontConfirmOverwrite);
+    if (pedido.para == PedidoRuta::Para::Carpeta) {
+        dialogo.setFileMode(QFileDialog::Directory);
+        dialogo.setOption(QFileDialog::ShowDirsOnly);
+    } else {
+        PrepararArchivo(dialogo, pedido);
+    }
+    return dialogo.exec() == QDialog::Accepted ? dialogo.selectedFiles().value(0) : QString();
 }
 
 } // namespace tarvo

@@ -44,8 +44,7 @@ void Aprovechar(QPrinter &impresora) {
     impresora.setPageLayout(hoja);
 }
 
-std::unique_ptr<Superficie> EnSistema(const QString &dispositivo, Proposito proposito,
-                                      const QString &titulo) {
+std::unique_ptr<Superficie> EnSistema(const QString &dispositivo, ClasePapel clase, const QString &titulo) {
     auto impresora = std::make_unique<QPrinter>(QPrinter::HighResolution);
     impresora->setPrinterName(dispositivo);
     impresora->setDocName(titulo);
@@ -55,7 +54,7 @@ std::unique_ptr<Superficie> EnSistema(const QString &dispositivo, Proposito prop
         if (cola.printerState() == QPrinter::Error)
             throw ErrorDatos(errores::kImpresora, QStringLiteral("La impresora informa un error."));
     };
-    return std::make_unique<SuperficiePintada>(std::move(impresora), RejillaDe(proposito), alTerminar);
+    return std::make_unique<SuperficiePintada>(std::move(impresora), RejillaDe(clase), alTerminar);
 }
 
 } // namespace
@@ -80,10 +79,10 @@ void ImpresorasSistema::HacerActual(const QString &nombre) {
         actual_ = nombre;
 }
 
-std::unique_ptr<Superficie> ImpresorasSistema::NuevoDocumento(Proposito proposito, const QString &titulo) {
+std::unique_ptr<Superficie> ImpresorasSistema::NuevoDocumento(ClasePapel clase, const QString &titulo) {
     if (actual_ == NombrePdf())
-        return NuevoDocumentoPdf(carpetaImpresos_, proposito, titulo, reloj_.Ahora());
-    return EnSistema(Dispositivo(actual_), proposito, titulo);
+        return NuevoDocumentoPdf(carpetaImpresos_, clase, titulo, reloj_.Ahora());
+    return EnSistema(Dispositivo(actual_), clase, titulo);
 }
 
 } // namespace tarvo

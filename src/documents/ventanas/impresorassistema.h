@@ -18,7 +18,7 @@ class ImpresorasSistema final : public Impresoras {
     QStringList Nombres() const override;
     QString Actual() const override { return actual_; }
     void HacerActual(const QString &nombre) override;
-    std::unique_ptr<Superficie> NuevoDocumento(Proposito proposito, const QString &titulo) override;
+    std::unique_ptr<Superficie> NuevoDocumento(ClasePapel clase, const QString &titulo) override;
 
   private:
     const Reloj &reloj_;
