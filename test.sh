@@ -5,7 +5,7 @@ cd "$(dirname "${BASH_SOURCE[0]}")"
 echo "test.sh: instala lo que falta, compila Tarvo y ejecuta todas sus pruebas."
 source tools/paquetes.sh
 
-InstalarPaquetes "${PAQUETES_COMPILAR[@]}" "${PAQUETES_PANTALLA[@]}"
+InstalarPaquetes "${PAQUETES_COMPILAR[@]}" "${PAQUETES_PANTALLA[@]}" "${PAQUETES_LECTORES[@]}"
 cmake --preset release >/dev/null
 cmake --build --preset release
 ctest --preset release "$@"

@@ -10,6 +10,8 @@ PAQUETES_COMPILAR=(
 )
 # What drives the program on a screen of its own and looks at what it printed.
 PAQUETES_PANTALLA=(xvfb xauth openbox xdotool x11-utils imagemagick poppler-utils sqlite3)
+# Readers not written here, that tests open exported files with.
+PAQUETES_LECTORES=(python3 python3-xlrd)
 PAQUETES_REVISION=(clang-format clang-tidy)
 
 # Installs those of the packages that are missing. With all of them there it asks neither apt nor the network.
