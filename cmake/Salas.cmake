@@ -5,10 +5,10 @@
 set(TARVO_USA_store "")
 set(TARVO_USA_desktop store)
 set(TARVO_USA_documents store desktop)
-foreach(sala masterdata sales)
-    set(TARVO_USA_${sala} store desktop documents)
+set(TARVO_USA_masterdata store desktop documents)
+foreach(sala sales accounts config)
+    set(TARVO_USA_${sala} store desktop documents masterdata)
 endforeach()
-set(TARVO_USA_config store desktop documents masterdata)
 set(TARVO_USA_interchange store desktop)
 set(TARVO_USA_shell store desktop documents masterdata sales config interchange)
 

@@ -20,18 +20,28 @@ CampoDetalle Libre(const char *control, Campo &campo) {
 
 } // namespace
 
+std::vector<CampoDetalle> CamposClientes(FrmBases &bases) {
+    return {Requerido("txtCodigo", bases.camCliCodigo, "Código"),
+            Requerido("txtNombre", bases.camCliNombre, "Nombre"),
+            Libre("txtNFiscal", bases.camCliNFiscal),
+            Libre("txtIFiscal", bases.camCliIFiscal),
+            Libre("txtDocumento", bases.camCliDocumento),
+            Libre("txtDomicilio", bases.camCliDomicilio),
+            Libre("txtPoblacion", bases.camCliPoblacion),
+            Libre("txtCPostal", bases.camCliCPostal),
+            Libre("txtProvincia", bases.camCliProvincia),
+            Libre("txtTel1", bases.camCliTel1),
+            Libre("txtTel2", bases.camCliTel2),
+            Libre("txtFax", bases.camCliFax),
+            Libre("txtMail", bases.camCliMail),
+            Libre("txtWebPage", bases.camCliWebPage)};
+}
+
 ReglasDetalle ReglasClientes(FrmBases &bases) {
     return {
         .cursor = bases.datClientes,
         .id = bases.camCliId,
-        .campos = {Requerido("txtCodigo", bases.camCliCodigo, "Código"),
-                   Requerido("txtNombre", bases.camCliNombre, "Nombre"),
-                   Libre("txtNFiscal", bases.camCliNFiscal), Libre("txtIFiscal", bases.camCliIFiscal),
-                   Libre("txtDocumento", bases.camCliDocumento), Libre("txtDomicilio", bases.camCliDomicilio),
-                   Libre("txtPoblacion", bases.camCliPoblacion), Libre("txtCPostal", bases.camCliCPostal),
-                   Libre("txtProvincia", bases.camCliProvincia), Libre("txtTel1", bases.camCliTel1),
-                   Libre("txtTel2", bases.camCliTel2), Libre("txtFax", bases.camCliFax),
-                   Libre("txtMail", bases.camCliMail), Libre("txtWebPage", bases.camCliWebPage)},
+        .campos = CamposClientes(bases),
         .columnas = {Columna("Código", 1940, bases.camCliCodigo), Columna("Nombre", 4145, bases.camCliNombre),
                      Columna("Nombre Fiscal", 4145, bases.camCliNFiscal),
                      Columna("Id. Fiscal", 2646, bases.camCliIFiscal),

@@ -5,6 +5,9 @@
 
 namespace tarvo {
 
+// The fields of a customer, wherever one is entered.
+std::vector<CampoDetalle> CamposClientes(FrmBases &frmBases);
+
 ReglasDetalle ReglasClientes(FrmBases &frmBases);
 ReglasDetalle ReglasProveedores(FrmBases &frmBases);
 

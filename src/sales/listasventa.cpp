@@ -1,5 +1,6 @@
 #include "sales/listasventa.h"
 
+#include "desktop/rellenolista.h"
 #include "store/errordatos.h"
 #include "store/store.h"
 
@@ -77,26 +78,6 @@ void LlenarArticulos(FrmBases &bases, ListaTexto &articulos) {
     articulos.Asignar({std::move(celdas), {{articulo::Stock, TonosStock(stock, bases.moneda())}}});
 }
 
-void LlenarClientes(FrmBases &bases, ListaTexto &clientes) {
-    bases.datClientes.Cargar(
-        {&bases.camCliId, &bases.camCliCodigo, &bases.camCliNombre, &bases.camCliTel1, &bases.camCliIFiscal});
-    clientes.Asignar({{bases.camCliCodigo.Columna(), bases.camCliNombre.Columna(), bases.camCliTel1.Columna(),
-                       bases.camCliIFiscal.Columna(), bases.camCliId.Columna()}});
-}
-
-template <typename Relleno>
-void LlenarOVaciar(FrmBases &bases, Cursor &cursor, ListaTexto &lista, Relleno llenar) {
-    try {
-        if (cursor.RecordCount() > 0) {
-            llenar(bases, lista);
-            return;
-        }
-    } catch (const ErrorDatos &) {
-        // The operator sees an empty list, as with a table that is not there.
-    }
-    lista.Limpiar();
-}
-
 QString EntradaVendedor(const FrmBases &bases) {
     return bases.camVenCodigo.Texto() + QStringLiteral(" - ") + bases.camVenNombre.Texto();
 }
@@ -124,20 +105,8 @@ std::vector<ColumnaLista> ColumnasDetalle() {
             {QStringLiteral("IVA"), 0, true, true}};
 }
 
-std::vector<ColumnaLista> ColumnasClientes() {
-    return {{QStringLiteral("Código"), 600},
-            {QStringLiteral("Nombre"), 1100},
-            {QStringLiteral("Teléfono"), 700},
-            {QStringLiteral("I. Fiscal"), 700},
-            {QStringLiteral("id"), 0, false, true}};
-}
-
 void CargarArticulos(FrmBases &frmBases, ListaTexto &articulos) {
-    LlenarOVaciar(frmBases, frmBases.datArticulos, articulos, LlenarArticulos);
-}
-
-void CargarClientes(FrmBases &frmBases, ListaTexto &clientes) {
-    LlenarOVaciar(frmBases, frmBases.datClientes, clientes, LlenarClientes);
+    LlenarOVaciar(frmBases.datArticulos, articulos, [&] { LlenarArticulos(frmBases, articulos); });
 }
 
 QString SinVendedor() {

@@ -22,17 +22,11 @@ enum Columna { Codigo, CodBarras, Nombre, Stock, Precio, Iva, Id, TipoIva };
 namespace linea {
 enum Columna { Codigo, Nombre, Precio, Cantidad, Subtotal, IdArticulo, Iva };
 }
-// Columns of LVClientes.
-namespace cliente {
-enum Columna { Codigo, Nombre, Telefono, IFiscal, Id };
-}
 
 std::vector<ColumnaLista> ColumnasArticulos();
 std::vector<ColumnaLista> ColumnasDetalle();
-std::vector<ColumnaLista> ColumnasClientes();
 
 void CargarArticulos(FrmBases &frmBases, ListaTexto &articulos);
-void CargarClientes(FrmBases &frmBases, ListaTexto &clientes);
 
 // First entry of the seller combo: no seller chosen.
 QString SinVendedor();

@@ -1,5 +1,6 @@
 #include "sales/venta.h"
 
+#include "masterdata/selectorclientes.h"
 #include "store/store.h"
 
 #include <algorithm>

@@ -1,9 +1,8 @@
 // The issue: what reaches the store, what is refused, what a failing disk or printer leaves behind.
 #include "tiendaprueba.h"
 
-#include "sales/altacliente.h"
+#include "masterdata/selectorclientes.h"
 #include "sales/emision.h"
-#include "store/errordatos.h"
 
 namespace tarvo {
 namespace {
@@ -251,48 +250,6 @@ TEST_F(Emision, TheTicketPrintsAfterTheRowIsSafe) {
     mundo.preguntas.EsperaMensaje(kExito, Icono::Informacion);
     EXPECT_EQ(EmitirVenta(), ResultadoEmision::Emitida);
     EXPECT_EQ(Ventas().size(), 2u);
-}
-
-// --- the quick customer
-
-TEST_F(Emision, AQuickCustomerIsARowOnlyWhenSaved) {
-    FrmBases &bases = mundo.frmBases();
-    QStringList valores;
-    for (const AltaCliente::CampoAlta &campo : AltaCliente::Campos())
-        valores += QString::fromLatin1(campo.control).mid(3).toLower();
-    const char *const contar = "SELECT COUNT(*) FROM clientes.Clientes";
-    {
-        AltaCliente alta(bases);
-        alta.Comenzar();
-    } // an entry that its window leaves open is dropped
-    bases.datClientes.Refresh();
-    EXPECT_EQ(mundo.datos.Filas(contar), Columna({"2"}));
-
-    AltaCliente alta(bases);
-    alta.Comenzar();
-    alta.Guardar(valores);
-    EXPECT_FALSE(alta.Abierta());
-    const Filas filas = mundo.datos.Filas(
-        "SELECT "
-        "codigo,nombre,nfiscal,ifiscal,documento,domicilio,poblacion,cpostal,provincia,tel1,tel2,fax,mail,"
-        "webpage FROM clientes.Clientes WHERE id=3");
-    ASSERT_EQ(filas.size(), 1u);
-    EXPECT_EQ(QStringList(filas[0].begin(), filas[0].end()), valores);
-}
-
-TEST_F(Emision, ARefusedQuickCustomerCanBeSavedAgain) {
-    mundo.datos.Ejecutar("CREATE TRIGGER clientes.negar BEFORE INSERT ON Clientes WHEN NEW.codigo='malo' "
-                         "BEGIN SELECT RAISE(FAIL,'sin lugar'); END");
-    AltaCliente alta(mundo.frmBases());
-    alta.Comenzar();
-    QStringList valores(14);
-    valores[0] = QStringLiteral("malo");
-    EXPECT_THROW(alta.Guardar(valores), ErrorDatos);
-    EXPECT_TRUE(alta.Abierta());
-    valores[0] = QStringLiteral("bueno");
-    alta.Guardar(valores);
-    EXPECT_EQ(mundo.datos.Filas("SELECT codigo FROM clientes.Clientes ORDER BY id"),
-              Columna({"C1", "C2", "bueno"}));
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 // The sale in progress without a window: its lists, its lines, its amounts, its customer.
 #include "tiendaprueba.h"
 
+#include "masterdata/selectorclientes.h"
 #include "sales/venta.h"
 
 namespace tarvo {

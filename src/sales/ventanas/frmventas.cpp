@@ -2,11 +2,11 @@
 
 #include "desktop/preguntas.h"
 #include "desktop/reloj.h"
+#include "desktop/ventanas/barrabusqueda.h"
 #include "desktop/ventanas/filtrocampos.h"
 #include "desktop/ventanas/iconos.h"
 #include "documents/impresoras.h"
-#include "sales/ventanas/barrabusqueda.h"
-#include "sales/ventanas/picclientes.h"
+#include "masterdata/ventanas/picclientes.h"
 #include "store/store.h"
 #include "ui_frmventas.h"
 
@@ -129,11 +129,13 @@ void FrmVentas::ConectarDetalle() {
 }
 
 void FrmVentas::ConectarCliente() {
-    picClientes_ = new PicClientes(servicios_, buscador_, *filtro_, this);
+    picClientes_ = new PicClientes(servicios_, SelectorDeVentas(), buscador_, *filtro_, this);
     filtro_->AlEscapar([this] { return picClientes_->Escapar(); });
     connect(ui_->cmdCliente, &QPushButton::clicked, this, &FrmVentas::AbrirClientes);
     connect(picClientes_, &PicClientes::Cerrado, this, &FrmVentas::CerrarClientes);
     connect(picClientes_, &PicClientes::Elegido, this, [this](int fila) {
+        if (fila < 0)
+            return;
         venta_.ElegirCliente(picClientes_->Clientes(), fila);
         MostrarCliente();
     });

@@ -8,11 +8,11 @@
 
 #include <memory>
 
+namespace tarvo {
+
 namespace Ui {
 class FrmVentas;
 }
-
-namespace tarvo {
 
 class Anfitrion;
 class BarraBusqueda;
@@ -62,7 +62,7 @@ class FrmVentas : public VentanaModulo {
     void Emitir();
     DatosComprobante Comprobante() const;
 
-    std::unique_ptr<::Ui::FrmVentas> ui_;
+    std::unique_ptr<Ui::FrmVentas> ui_;
     Servicios servicios_;
     Venta venta_;
     Buscador buscador_;

@@ -1,9 +1,9 @@
-#include "sales/ventanas/picclientes.h"
+#include "masterdata/ventanas/picclientes.h"
 
+#include "desktop/ventanas/barrabusqueda.h"
+#include "desktop/ventanas/filtrocampos.h"
 #include "desktop/ventanas/iconos.h"
-#include "sales/listasventa.h"
-#include "sales/ventanas/barrabusqueda.h"
-#include "sales/ventanas/picnuevocliente.h"
+#include "masterdata/ventanas/picnuevocliente.h"
 #include "ui_picclientes.h"
 
 #include <QToolBar>
@@ -12,55 +12,54 @@
 
 namespace tarvo {
 
-namespace {
-
-std::vector<ModoBusqueda> ModosClientes() {
-    return {{QStringLiteral("codigo"), QStringLiteral("Buscar por Código"),
-             QStringLiteral("Buscar por código"), cliente::Codigo},
-            {QStringLiteral("nombre"), QStringLiteral("Buscar por Nombre"),
-             QStringLiteral("Buscar por nombre"), cliente::Nombre},
-            {QStringLiteral("telefono"), QStringLiteral("Buscar por Teléfono"),
-             QStringLiteral("Buscar por teléfono"), cliente::Telefono},
-            {QStringLiteral("ruc"), QStringLiteral("Buscar por I. Fiscal"),
-             QStringLiteral("Buscar por i.fiscal"), cliente::IFiscal}};
-}
-
-} // namespace
-
-PicClientes::PicClientes(const Servicios &servicios, Buscador &buscador, FiltroCampos &filtro, QWidget *padre)
+PicClientes::PicClientes(const Servicios &servicios, const ReglasSelector &reglas, Buscador &buscador,
+                         FiltroCampos &filtro, QWidget *padre)
     : QFrame(padre),
       ui_(std::make_unique<Ui::PicClientes>()),
-      frmBases_(servicios.frmBases),
+      servicios_(servicios),
+      reglas_(reglas),
       clientes_(ColumnasClientes()) {
     ui_->setupUi(this);
     hide();
     ui_->LVClientes->Mostrar(&clientes_);
-    QAction *actualizar = ui_->tbrClientes->addAction(IconoDe(QStringLiteral("actualizar")), QString());
-    actualizar->setObjectName(QStringLiteral("actualizar"));
-    actualizar->setToolTip(QStringLiteral("Acualizar"));
-    busqueda_ =
-        new BarraBusqueda({ui_->tbrClientes, ui_->txtBuscarClientes, ui_->cmdBuscarClientes, ui_->LVClientes},
-                          ModosClientes(), QStringLiteral("nombre"), buscador, servicios.preguntas, filtro);
-    picNuevoCliente_ = new PicNuevoCliente(servicios, this);
-    connect(actualizar, &QAction::triggered, this, &PicClientes::CargarClientes);
-    // A search that has reached the end starts at the top again.
-    connect(busqueda_, &BarraBusqueda::Terminado, this, [&buscador] { buscador.Reiniciar(); });
+    PrepararBarra(buscador, filtro);
+    if (reglas_.alta)
+        PrepararAlta();
+    ui_->cmdAgregarCliente->setVisible(reglas_.alta);
+    filtro.AlEntrar(ui_->LVClientes, [this] { Aceptar(); });
     connect(ui_->cmdAceptar, &QPushButton::clicked, this, &PicClientes::Aceptar);
     connect(ui_->LVClientes, &ListaVista::FilaDobleClic, this, &PicClientes::Aceptar);
     connect(ui_->cmdCancelar, &QPushButton::clicked, this, &PicClientes::Cerrar);
+}
+
+void PicClientes::PrepararBarra(Buscador &buscador, FiltroCampos &filtro) {
+    QAction *actualizar = ui_->tbrClientes->addAction(IconoDe(QStringLiteral("actualizar")), QString());
+    actualizar->setObjectName(QStringLiteral("actualizar"));
+    actualizar->setToolTip(QStringLiteral("Acualizar"));
+    connect(actualizar, &QAction::triggered, this, &PicClientes::CargarClientes);
+    busqueda_ =
+        new BarraBusqueda({ui_->tbrClientes, ui_->txtBuscarClientes, ui_->cmdBuscarClientes, ui_->LVClientes},
+                          reglas_.modos, QStringLiteral("nombre"), buscador, servicios_.preguntas, filtro);
+    connect(busqueda_, &BarraBusqueda::Encontrado, this, [this] { ui_->txtBuscarClientes->setFocus(); });
+    if (reglas_.volverAlInicio)
+        connect(busqueda_, &BarraBusqueda::Terminado, this, [&buscador] { buscador.Reiniciar(); });
+}
+
+void PicClientes::PrepararAlta() {
+    picNuevoCliente_ = new PicNuevoCliente(servicios_, this);
     connect(ui_->cmdAgregarCliente, &QPushButton::clicked, picNuevoCliente_, &PicNuevoCliente::Abrir);
     connect(picNuevoCliente_, &PicNuevoCliente::Abierto, this, [this] { HabilitarPanel(false); });
     connect(picNuevoCliente_, &PicNuevoCliente::Guardado, this, &PicClientes::CargarClientes);
     connect(picNuevoCliente_, &PicNuevoCliente::Cerrado, this, [this] {
         HabilitarPanel(true);
-        ui_->txtBuscarClientes->setFocus();
+        (busqueda_->EnUso() ? static_cast<QWidget *>(ui_->txtBuscarClientes) : ui_->LVClientes)->setFocus();
     });
 }
 
 PicClientes::~PicClientes() = default;
 
 void PicClientes::CargarClientes() {
-    tarvo::CargarClientes(frmBases_, clientes_);
+    tarvo::CargarClientes(servicios_.frmBases, clientes_);
     if (clientes_.Filas() > 0)
         ui_->LVClientes->SeleccionarFila(0);
     AjustarColumnas();
@@ -70,6 +69,12 @@ void PicClientes::Abrir() {
     show();
     raise();
     busqueda_->Empezar();
+    if (reglas_.enfocarLista)
+        ui_->LVClientes->setFocus();
+}
+
+int PicClientes::FilaActual() const {
+    return ui_->LVClientes->FilaActual();
 }
 
 void PicClientes::Cerrar() {
@@ -80,17 +85,15 @@ void PicClientes::Cerrar() {
 bool PicClientes::Escapar() {
     if (isHidden())
         return false;
-    if (picNuevoCliente_->isHidden())
-        Cerrar();
-    else
+    if (picNuevoCliente_ != nullptr && !picNuevoCliente_->isHidden())
         picNuevoCliente_->Cerrar();
+    else
+        Cerrar();
     return true;
 }
 
 void PicClientes::Aceptar() {
-    const int fila = ui_->LVClientes->FilaActual();
-    if (fila >= 0)
-        emit Elegido(fila);
+    emit Elegido(FilaActual());
     Cerrar();
 }
 
@@ -124,6 +127,8 @@ void PicClientes::resizeEvent(QResizeEvent *evento) {
 }
 
 void PicClientes::ColocarAlta() {
+    if (picNuevoCliente_ == nullptr)
+        return;
     const QSize medida = picNuevoCliente_->sizeHint();
     QRect lugar(0, 0, std::max(medida.width(), width() - 60), std::min(medida.height(), height()));
     lugar.moveCenter(rect().center());

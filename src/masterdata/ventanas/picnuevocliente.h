@@ -1,20 +1,21 @@
-// The quick entry of a customer, a sub-panel of the customer panel.
+// The quick entry of a customer, a sub-panel of the customer panel: the fields of the customers window over
+// two buttons. The row begins in the table only when it is saved.
 #pragma once
 
 #include "desktop/servicios.h"
-#include "sales/altacliente.h"
 
 #include <QFrame>
 
 #include <memory>
+#include <vector>
 
 class QLineEdit;
+
+namespace tarvo {
 
 namespace Ui {
 class PicNuevoCliente;
 }
-
-namespace tarvo {
 
 class PicNuevoCliente : public QFrame {
     Q_OBJECT
@@ -22,7 +23,7 @@ class PicNuevoCliente : public QFrame {
     PicNuevoCliente(const Servicios &servicios, QWidget *padre);
     ~PicNuevoCliente() override;
 
-    // Shows empty fields over a new pending row; a table that is not open is told instead.
+    // Shows empty fields.
     void Abrir();
     // Drops the entry.
     void Cerrar();
@@ -35,11 +36,10 @@ class PicNuevoCliente : public QFrame {
   private:
     void Guardar();
     bool FaltaRequerido();
-    QLineEdit *Campo(const char *control) const;
 
-    std::unique_ptr<::Ui::PicNuevoCliente> ui_;
+    std::unique_ptr<Ui::PicNuevoCliente> ui_;
     Servicios servicios_;
-    AltaCliente alta_;
+    std::vector<QLineEdit *> campos_; // in the order of CamposClientes
 };
 
 } // namespace tarvo

@@ -6,6 +6,7 @@
 #pragma once
 
 #include "desktop/buscador.h"
+#include "desktop/modobusqueda.h"
 
 #include <QObject>
 
@@ -19,13 +20,6 @@ namespace tarvo {
 class FiltroCampos;
 class ListaVista;
 class Preguntas;
-
-struct ModoBusqueda {
-    QString clave;  // objectName of the menu entry, and its picture
-    QString menu;   // its caption
-    QString titulo; // the caption that it puts on the button
-    int columna = 0;
-};
 
 // The controls of a bar, all of one window.
 struct ControlesBusqueda {
@@ -54,13 +48,13 @@ class BarraBusqueda : public QObject {
     void Terminado();                     // the end without a hit, after the operator was told
 
   private:
+    const ModoBusqueda &Modo() const;
     void PonerMenu();
     void ElegirModo(const ModoBusqueda &modo);
     void Usar(bool si);
 
     ControlesBusqueda c_;
     std::vector<ModoBusqueda> modos_;
-    ModoBusqueda actual_;
     Buscador &buscador_;
     Preguntas &preguntas_;
     QAction *buscar_;

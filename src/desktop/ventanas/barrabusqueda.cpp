@@ -1,4 +1,4 @@
-#include "sales/ventanas/barrabusqueda.h"
+#include "desktop/ventanas/barrabusqueda.h"
 
 #include "desktop/preguntas.h"
 #include "desktop/ventanas/filtrocampos.h"
@@ -24,7 +24,6 @@ BarraBusqueda::BarraBusqueda(const ControlesBusqueda &controles, std::vector<Mod
     : QObject(controles.barra),
       c_(controles),
       modos_(std::move(modos)),
-      actual_(*std::ranges::find(modos_, inicial, &ModoBusqueda::clave)),
       buscador_(buscador),
       preguntas_(preguntas),
       buscar_(new QAction(IconoDe(QStringLiteral("buscar")), QStringLiteral("Buscar"), controles.barra)) {
@@ -33,28 +32,34 @@ BarraBusqueda::BarraBusqueda(const ControlesBusqueda &controles, std::vector<Mod
     buscar_->setChecked(true);
     c_.barra->addAction(buscar_);
     PonerMenu();
-    c_.boton->setText(actual_.titulo);
+    c_.boton->setText(std::ranges::find(modos_, inicial, &ModoBusqueda::clave)->titulo);
     connect(buscar_, &QAction::toggled, this, &BarraBusqueda::Usar);
     connect(c_.boton, &QPushButton::clicked, this, &BarraBusqueda::Buscar);
     connect(c_.campo, &QLineEdit::textChanged, this, [this] { buscador_.Reiniciar(); });
     filtro.AlEntrar(c_.campo, [this] { Buscar(); });
 }
 
+// The caption is all that says which mode is in use.
+const ModoBusqueda &BarraBusqueda::Modo() const {
+    return *std::ranges::find(modos_, c_.boton->text(), &ModoBusqueda::titulo);
+}
+
 void BarraBusqueda::PonerMenu() {
     auto *menu = new QMenu(c_.barra);
     QList<EntradaMenu> entradas;
     for (const ModoBusqueda &modo : modos_)
-        entradas.append({modo.clave, modo.menu, QString(), modo.clave, QString(), false, {}});
+        if (!modo.menu.isEmpty())
+            entradas.append({modo.clave, modo.menu, QString(), modo.clave, QString(), false, {}});
     LlenarMenu(menu, entradas);
     for (const ModoBusqueda &modo : modos_)
-        connect(AccionDe(menu, modo.clave), &QAction::triggered, this, [this, &modo] { ElegirModo(modo); });
+        if (QAction *entrada = AccionDe(menu, modo.clave))
+            connect(entrada, &QAction::triggered, this, [this, &modo] { ElegirModo(modo); });
     buscar_->setMenu(menu);
     if (auto *boton = qobject_cast<QToolButton *>(c_.barra->widgetForAction(buscar_)))
         boton->setPopupMode(QToolButton::MenuButtonPopup);
 }
 
 void BarraBusqueda::ElegirModo(const ModoBusqueda &modo) {
-    actual_ = modo;
     c_.boton->setText(modo.titulo);
     buscar_->setChecked(true);
     c_.campo->setFocus();
@@ -83,7 +88,7 @@ void BarraBusqueda::Buscar() {
         c_.campo->setFocus();
         return;
     }
-    const int fila = buscador_.Buscar(*c_.lista->Lista(), {actual_.columna}, texto);
+    const int fila = buscador_.Buscar(*c_.lista->Lista(), {Modo().columna}, texto);
     if (fila < 0) {
         preguntas_.Informar(QStringLiteral("La búsqueda ha finalizado."));
         c_.lista->setFocus();
@@ -92,7 +97,7 @@ void BarraBusqueda::Buscar() {
     }
     c_.lista->SeleccionarFila(fila);
     c_.campo->selectAll();
-    emit Encontrado(actual_.clave);
+    emit Encontrado(Modo().clave);
 }
 
 } // namespace tarvo

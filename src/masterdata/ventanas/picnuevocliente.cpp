@@ -1,0 +1,72 @@
+#include "masterdata/ventanas/picnuevocliente.h"
+
+#include "desktop/preguntas.h"
+#include "masterdata/altacliente.h"
+#include "masterdata/reglascatalogos.h"
+#include "store/errordatos.h"
+#include "ui_fichaclientes.h"
+#include "ui_picnuevocliente.h"
+
+namespace tarvo {
+
+PicNuevoCliente::PicNuevoCliente(const Servicios &servicios, QWidget *padre)
+    : QFrame(padre), ui_(std::make_unique<Ui::PicNuevoCliente>()), servicios_(servicios) {
+    ui_->setupUi(this);
+    Ui::FichaClientes ficha;
+    ficha.setupUi(ui_->ficha);
+    for (const CampoDetalle &campo : CamposClientes(servicios.frmBases))
+        campos_.push_back(ui_->ficha->findChild<QLineEdit *>(QLatin1String(campo.control)));
+    setTabOrder(ficha.txtWebPage, ui_->cmdGuardarCliente);
+    setTabOrder(ui_->cmdGuardarCliente, ui_->cmdCancelarCliente);
+    hide();
+    connect(ui_->cmdGuardarCliente, &QPushButton::clicked, this, &PicNuevoCliente::Guardar);
+    connect(ui_->cmdCancelarCliente, &QPushButton::clicked, this, &PicNuevoCliente::Cerrar);
+}
+
+PicNuevoCliente::~PicNuevoCliente() = default;
+
+void PicNuevoCliente::Abrir() {
+    for (QLineEdit *campo : campos_)
+        campo->clear();
+    show();
+    raise();
+    emit Abierto();
+    campos_.front()->setFocus();
+}
+
+void PicNuevoCliente::Cerrar() {
+    hide();
+    emit Cerrado();
+}
+
+bool PicNuevoCliente::FaltaRequerido() {
+    const std::vector<CampoDetalle> campos = CamposClientes(servicios_.frmBases);
+    for (std::size_t i = 0; i < campos.size(); ++i) {
+        if (campos[i].requerido.isEmpty() || !campos_[i]->text().isEmpty())
+            continue;
+        servicios_.preguntas.InformarRequerido(campos[i].requerido);
+        campos_[i]->setFocus();
+        return true;
+    }
+    return false;
+}
+
+void PicNuevoCliente::Guardar() {
+    if (FaltaRequerido())
+        return;
+    QStringList valores;
+    for (const QLineEdit *campo : campos_)
+        valores += campo->text();
+    try {
+        GuardarClienteNuevo(servicios_.frmBases, valores);
+    } catch (const ErrorDatos &error) {
+        servicios_.preguntas.Mostrar(error.Descripcion() +
+                                         QStringLiteral("\n\nLos datos del cliente siguen en pantalla."),
+                                     Icono::Critico);
+        return;
+    }
+    emit Guardado();
+    Cerrar();
+}
+
+} // namespace tarvo
