@@ -1,10 +1,11 @@
 #include "desktop/ventanas/estilo.h"
 
+#include "desktop/ventanas/acceso.h"
 #include "desktop/ventanas/iconos.h"
+#include "desktop/ventanas/tamano.h"
 
 #include <QApplication>
 #include <QFile>
-#include <QFont>
 #include <QPalette>
 #include <QStyleFactory>
 
@@ -38,15 +39,6 @@ QPalette PaletaClara() {
     return paleta;
 }
 
-QFont LetraDelPrograma() {
-    QFont letra;
-    letra.setFamilies(
-        {QStringLiteral("Noto Sans"), QStringLiteral("DejaVu Sans"), QStringLiteral("sans-serif")});
-    letra.setPointSizeF(9);
-    letra.setStyleHint(QFont::SansSerif);
-    return letra;
-}
-
 } // namespace
 
 void AplicarEstilo(QApplication &aplicacion) {
@@ -54,10 +46,10 @@ void AplicarEstilo(QApplication &aplicacion) {
     aplicacion.setWindowIcon(IconoDe(QStringLiteral("tarvo")));
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     QApplication::setPalette(PaletaClara());
-    QApplication::setFont(LetraDelPrograma());
     QFile hoja(QStringLiteral(":/estilo.qss"));
-    if (hoja.open(QIODevice::ReadOnly))
-        aplicacion.setStyleSheet(QString::fromUtf8(hoja.readAll()));
+    hoja.open(QIODevice::ReadOnly); // compiled in
+    new Tamano(aplicacion, QString::fromUtf8(hoja.readAll()));
+    PrepararAcceso();
 }
 
 } // namespace tarvo

@@ -25,7 +25,7 @@ inline const QColor kTextoTenue(92, 103, 132);
 
 // Style, palette, style sheet and font of the whole program. Widgets get their part by these dynamic
 // properties: QFrame "tarjeta" = true (white card, radius 4), QLabel "titulo" = true (title bar of a module
-// window), QLabel "tenue" = true (dim caption), QLabel "grande" = true (the big total), QPushButton
+// window), QLabel "tenue" = true (dim caption), QPushButton
 // "principal" = true (the main button; with "enFila" = true as small as its
 // neighbours), QLineEdit "sinDatos" = true (grey, disabled for lack of data).
 void AplicarEstilo(QApplication &aplicacion);

@@ -1,0 +1,9 @@
+// What a screen reader is told about the controls of this program, beyond what the toolkit tells by itself.
+#pragma once
+
+namespace tarvo {
+
+// Amounts are called by caption and value. Once for the program.
+void PrepararAcceso();
+
+} // namespace tarvo

@@ -1,0 +1,114 @@
+#include "desktop/ventanas/tamano.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QFont>
+#include <QGridLayout>
+#include <QMainWindow>
+#include <QRegularExpression>
+
+#include <utility>
+
+namespace tarvo {
+
+namespace {
+
+// The sizes that the form gives are kept with the layout, so that steps back and forth don't add up.
+constexpr auto kDelFormulario = "espacioDelFormulario";
+
+using Medidas = QList<QVariant>;
+
+Medidas Leer(const QLayout &disposicion) {
+    const QMargins m = disposicion.contentsMargins();
+    const auto *rejilla = qobject_cast<const QGridLayout *>(&disposicion);
+    return {m.left(),
+            m.top(),
+            m.right(),
+            m.bottom(),
+            rejilla == nullptr ? disposicion.spacing() : rejilla->horizontalSpacing(),
+            rejilla == nullptr ? disposicion.spacing() : rejilla->verticalSpacing()};
+}
+
+void Escribir(QLayout *disposicion, const Medidas &medidas, double factor) {
+    const auto medida = [&](qsizetype i) { return qRound(medidas[i].toInt() * factor); };
+    disposicion->setContentsMargins(medida(0), medida(1), medida(2), medida(3));
+    if (auto *rejilla = qobject_cast<QGridLayout *>(disposicion)) {
+        rejilla->setHorizontalSpacing(medida(4));
+        rejilla->setVerticalSpacing(medida(5));
+    } else {
+        disposicion->setSpacing(medida(4));
+    }
+}
+
+QFont LetraDelPrograma(double puntos) {
+    QFont letra;
+    // All of these have figures of one width, so that amounts stand in columns.
+    letra.setFamilies(
+        {QStringLiteral("Noto Sans"), QStringLiteral("DejaVu Sans"), QStringLiteral("sans-serif")});
+    letra.setPointSizeF(puntos);
+    letra.setStyleHint(QFont::SansSerif);
+    return letra;
+}
+
+} // namespace
+
+Tamano::Tamano(QApplication &aplicacion, QString hoja)
+    : QObject(&aplicacion), aplicacion_(aplicacion), hoja_(std::move(hoja)) {
+    QApplication::setFont(LetraDelPrograma(kLetra));
+    aplicacion_.setStyleSheet(hoja_);
+    aplicacion_.installEventFilter(this);
+}
+
+bool Tamano::eventFilter(QObject *objeto, QEvent *evento) {
+    if (evento->type() == QEvent::Resize) {
+        const auto *principal = qobject_cast<QMainWindow *>(objeto);
+        if (principal != nullptr && principal->isWindow() && principal->isVisible())
+            Poner(principal->width() >= kAnchoGrande);
+    } else if (evento->type() == QEvent::Polish && grande_ && objeto->isWidgetType()) {
+        EspaciarVentana(static_cast<QWidget *>(objeto));
+    }
+    return false;
+}
+
+void Tamano::Poner(bool grande) {
+    if (grande_ == grande)
+        return;
+    grande_ = grande;
+    QApplication::setFont(LetraDelPrograma(kLetra * Factor()));
+    aplicacion_.setStyleSheet(Hoja());
+    for (QWidget *control : QApplication::allWidgets())
+        EspaciarVentana(control);
+}
+
+void Tamano::EspaciarVentana(QWidget *control) const {
+    if (control->layout() == nullptr)
+        return;
+    Espaciar(control->layout());
+    for (QLayout *interior : control->layout()->findChildren<QLayout *>())
+        Espaciar(interior);
+}
+
+void Tamano::Espaciar(QLayout *disposicion) const {
+    Medidas medidas = disposicion->property(kDelFormulario).toList();
+    if (medidas.isEmpty()) {
+        medidas = Leer(*disposicion);
+        disposicion->setProperty(kDelFormulario, medidas);
+    }
+    Escribir(disposicion, medidas, Factor());
+}
+
+// Every size of the sheet but lines, which stay thin.
+QString Tamano::Hoja() const {
+    static const QRegularExpression medida(QStringLiteral("\\b(\\d+)(pt|px)\\b"));
+    QString hoja;
+    qsizetype hasta = 0;
+    for (const QRegularExpressionMatch &una : medida.globalMatch(hoja_)) {
+        const int valor = una.captured(1).toInt();
+        hoja += hoja_.mid(hasta, una.capturedStart() - hasta);
+        hoja += (valor > 2 ? QString::number(qRound(valor * Factor())) : una.captured(1)) + una.captured(2);
+        hasta = una.capturedEnd();
+    }
+    return hoja + hoja_.mid(hasta);
+}
+
+} // namespace tarvo

@@ -1,0 +1,40 @@
+// The size of type and spacing of the whole program: one step larger while the main window is 1600 pixels
+// wide or wider. Follows the main window by itself, and brings along each window that is opened meanwhile.
+#pragma once
+
+#include <QObject>
+
+class QApplication;
+class QLayout;
+class QWidget;
+
+namespace tarvo {
+
+class Tamano final : public QObject {
+    Q_OBJECT
+  public:
+    static constexpr int kAnchoGrande = 1600;
+    static constexpr double kLetra = 9;       // points
+    static constexpr double kPaso = 11.0 / 9; // what type and spacing grow by
+
+    // `hoja` is the style sheet at the small size.
+    Tamano(QApplication &aplicacion, QString hoja);
+
+    bool Grande() const { return grande_; }
+
+  protected:
+    bool eventFilter(QObject *objeto, QEvent *evento) override;
+
+  private:
+    void Poner(bool grande);
+    void Espaciar(QLayout *disposicion) const;
+    void EspaciarVentana(QWidget *control) const;
+    QString Hoja() const;
+    double Factor() const { return grande_ ? kPaso : 1; }
+
+    QApplication &aplicacion_;
+    QString hoja_;
+    bool grande_ = false;
+};
+
+} // namespace tarvo
