@@ -10,7 +10,7 @@ foreach(sala sales accounts config)
     set(TARVO_USA_${sala} store desktop documents masterdata)
 endforeach()
 set(TARVO_USA_interchange store desktop)
-set(TARVO_USA_shell store desktop documents masterdata sales config interchange)
+set(TARVO_USA_shell store desktop documents masterdata sales accounts config interchange)
 
 function(_tarvo_revisar destino sala ventanas)
     foreach(biblioteca ${ARGN})

@@ -135,6 +135,10 @@ bool Cursor::IrAId(const QString &texto) {
     return fila >= 0;
 }
 
+std::int64_t Cursor::IdDeFila(std::int64_t fila) const {
+    return d_->memoria.Id(fila);
+}
+
 void Cursor::Cargar(const std::vector<const Campo *> &campos) {
     std::vector<int> posiciones;
     posiciones.reserve(campos.size());

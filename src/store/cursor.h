@@ -85,6 +85,9 @@ class Cursor {
     // What a walk to the row with that `id` leads to, on any table and at the cost of Seek.
     bool IrAId(const QString &id);
 
+    // The `id` of row number `fila`, from 0 in table order; once a column or RecordCount was read.
+    std::int64_t IdDeFila(std::int64_t fila) const;
+
     bool Abierto() const { return conexion_ != nullptr; }
     bool HayFila() const;
     bool FilaNueva() const { return nueva_; }

@@ -125,6 +125,18 @@ Digitos DigitosDe(double valor) {
 
 } // namespace
 
+std::size_t BytesDeCaracteres(std::string_view utf8, qsizetype caracteres) {
+    std::size_t i = 0;
+    while (i < utf8.size() && caracteres > 0) {
+        // Four bytes are two of the units that a QString counts.
+        caracteres -= (static_cast<unsigned char>(utf8[i]) & 0xf8) == 0xf0 ? 2 : 1;
+        ++i;
+        while (i < utf8.size() && (static_cast<unsigned char>(utf8[i]) & 0xc0) == 0x80)
+            ++i;
+    }
+    return i;
+}
+
 Moneda::Moneda(QString decimal, QString simbolo)
     : decimal_(std::move(decimal)),
       simbolo_(std::move(simbolo)),
@@ -177,15 +189,7 @@ QString Moneda::SinSimbolo(const QString &monto) const {
 }
 
 std::string_view Moneda::SinSimbolo(std::string_view monto) const {
-    qsizetype faltan = simbolo_.size() + 1; // in UTF-16 units, as a QString counts them
-    std::size_t i = 0;
-    while (i < monto.size() && faltan > 0) {
-        faltan -= (static_cast<unsigned char>(monto[i]) & 0xf8) == 0xf0 ? 2 : 1;
-        ++i;
-        while (i < monto.size() && (static_cast<unsigned char>(monto[i]) & 0xc0) == 0x80)
-            ++i;
-    }
-    return monto.substr(i);
+    return monto.substr(BytesDeCaracteres(monto, simbolo_.size() + 1));
 }
 
 bool Moneda::EsNumero(std::string_view texto) {

@@ -11,6 +11,10 @@
 
 namespace tarvo {
 
+// How many bytes of `utf8` its first `caracteres` characters take, counted as a QString counts them; all of
+// them when it has fewer.
+std::size_t BytesDeCaracteres(std::string_view utf8, qsizetype caracteres);
+
 class Moneda {
   public:
     // `decimal` is the separator ("," or "."), `simbolo` the currency symbol ("$", "Bs").
