@@ -45,7 +45,7 @@ class SinEscritorio final : public tarvo::Escritorio {
 
 class SinAnfitrion final : public tarvo::Anfitrion {
   public:
-    void ActDesMenu(int, const QString &, bool) override {}
+    void PonerExportable(bool) override {}
     void Sugerencia(const QString &) override {}
 };
 

@@ -8,8 +8,8 @@ namespace tarvo {
 class Anfitrion {
   public:
     virtual ~Anfitrion() = default;
-    // Type 1: the menu entry `clave` is enabled or not; type 2: it is checked or not.
-    virtual void ActDesMenu(int tipo, const QString &clave, bool valor) = 0;
+    // A list that can be exported is on screen, or no more.
+    virtual void PonerExportable(bool posible) = 0;
     // A short hint in the panel `separador` of the status bar; empty clears it.
     virtual void Sugerencia(const QString &texto) = 0;
 };

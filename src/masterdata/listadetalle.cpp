@@ -201,7 +201,7 @@ bool ListaDetalle::PermiteCerrarPrograma() {
 
 void ListaDetalle::Exportar(bool posible) {
     if (anfitrion_ != nullptr)
-        anfitrion_->ActDesMenu(1, QStringLiteral("exportar"), posible);
+        anfitrion_->PonerExportable(posible);
 }
 
 void ListaDetalle::AlCerrar() {

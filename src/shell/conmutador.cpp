@@ -1,9 +1,6 @@
 #include "shell/conmutador.h"
 
 #include <QScopeGuard>
-#include <QStringList>
-
-#include <array>
 #include <vector>
 
 namespace tarvo {
@@ -11,9 +8,9 @@ namespace tarvo {
 // A module that a handler asks about, and what the answer does to the buttons.
 struct Conmutador::Rechazo {
     Modulo otro;
-    QString pendiente;      // No: the button that is pressed one tick later
-    QString alNoSuelta;     // No: the button that is un-pressed at once
-    QStringList alSiSuelta; // Yes: the buttons that are un-pressed once everything is closed
+    Modulo pendiente;               // No: the button that is pressed one tick later
+    Modulo alNoSuelta;              // No: the button that is un-pressed at once
+    std::vector<Modulo> alSiSuelta; // Yes: the buttons that are un-pressed once everything is closed
 };
 
 struct Conmutador::Manejador {
@@ -24,44 +21,34 @@ struct Conmutador::Manejador {
 
 struct Conmutador::Dialogo {
     QString llamador;
-    QString boton;
+    Entrada entrada;
     QString ingreso;
 };
 
 namespace {
 
-constexpr int kMarca = 2; // type of ActDesMenu that sets a check
 constexpr std::array kOrdenCierre{Modulo::Stats,   Modulo::Clientes, Modulo::Articulos,
                                   Modulo::Estados, Modulo::Ventas,   Modulo::Proveedores};
 // Statistics are not among the modules that a dialog closes.
 constexpr std::array kOrdenDialogos{Modulo::Ventas, Modulo::Estados, Modulo::Articulos, Modulo::Proveedores,
                                     Modulo::Clientes};
 
-const QString kVentas = QStringLiteral("ventas");
-const QString kArticulos = QStringLiteral("articulos");
-const QString kClientes = QStringLiteral("clientes");
-const QString kProveedores = QStringLiteral("proveedores");
-const QString kEstado = QStringLiteral("estado");
-const QString kEstadisticas = QStringLiteral("estadisticas");
-const QString kCalculadora = QStringLiteral("calculadora");
-
 } // namespace
 
 const DatosModulo &DatosDe(Modulo modulo) {
     static const std::array<DatosModulo, 6> datos{{
-        {kVentas, kVentas, QStringLiteral("Confirma que desea salir sin completar la venta?"),
+        {Entrada::Ventas, QStringLiteral("Confirma que desea salir sin completar la venta?"),
          QStringLiteral("formulario de ventas")},
-        {kArticulos, kArticulos,
+        {Entrada::Articulos,
          QStringLiteral("Confirma que desea salir sin completar el ingreso del artículo?"),
          QStringLiteral("formulario de artículos")},
-        {kClientes, kClientes,
-         QStringLiteral("Confirma que desea salir sin completar el ingreso del cliente?"),
+        {Entrada::Clientes, QStringLiteral("Confirma que desea salir sin completar el ingreso del cliente?"),
          QStringLiteral("formulario de clientes")},
-        {kProveedores, kProveedores,
+        {Entrada::Proveedores,
          QStringLiteral("Confirma que desea salir sin completar el ingreso del proveedor?"),
          QStringLiteral("formulario de proveedores")},
-        {kEstado, kEstado, QString(), QStringLiteral("formulario de estados de cuenta")},
-        {QStringLiteral("stats"), kEstadisticas, QString(), QString()},
+        {Entrada::Estado, QString(), QStringLiteral("formulario de estados de cuenta")},
+        {Entrada::Stats, QString(), QString()},
     }};
     return datos[static_cast<std::size_t>(modulo)];
 }
@@ -70,51 +57,52 @@ const DatosModulo &DatosDe(Modulo modulo) {
 // not always that of the module asked about.
 const Conmutador::Manejador &Conmutador::ManejadorDe(Modulo modulo) {
     using enum Modulo;
+    static const QString estadisticas = QStringLiteral("estadisticas");
     static const std::array<Manejador, 6> tabla{{
         {Ventas,
-         kEstadisticas,
-         {{Articulos, kVentas, kVentas, {kEstado}},
-          {Proveedores, kProveedores, kVentas, {kEstado}},
-          {Clientes, kClientes, kVentas, {kClientes}}}},
+         estadisticas,
+         {{Articulos, Ventas, Ventas, {Estados}},
+          {Proveedores, Proveedores, Ventas, {Estados}},
+          {Clientes, Clientes, Ventas, {Clientes}}}},
         {Articulos,
-         kEstadisticas,
-         {{Ventas, kVentas, kArticulos, {kVentas}},
-          {Clientes, kClientes, kArticulos, {kClientes}},
-          {Proveedores, kProveedores, kArticulos, {kProveedores}}}},
+         estadisticas,
+         {{Ventas, Ventas, Articulos, {Ventas}},
+          {Clientes, Clientes, Articulos, {Clientes}},
+          {Proveedores, Proveedores, Articulos, {Proveedores}}}},
         {Clientes,
-         kEstadisticas,
-         {{Ventas, kVentas, kClientes, {kVentas}},
-          {Articulos, kArticulos, kClientes, {kArticulos}},
-          {Proveedores, kProveedores, kArticulos, {kProveedores}}}},
+         estadisticas,
+         {{Ventas, Ventas, Clientes, {Ventas}},
+          {Articulos, Articulos, Clientes, {Articulos}},
+          {Proveedores, Proveedores, Articulos, {Proveedores}}}},
         {Proveedores,
          QStringLiteral("estadísticas"),
-         {{Ventas, kVentas, kProveedores, {kVentas}},
-          {Articulos, kArticulos, kProveedores, {kArticulos}},
-          {Clientes, kClientes, kProveedores, {kClientes}}}},
+         {{Ventas, Ventas, Proveedores, {Ventas}},
+          {Articulos, Articulos, Proveedores, {Articulos}},
+          {Clientes, Clientes, Proveedores, {Clientes}}}},
         {Estados,
-         kEstadisticas,
-         {{Ventas, kVentas, kEstado, {kVentas}},
-          {Articulos, kClientes, kEstado, {kArticulos}},
-          {Proveedores, kProveedores, kEstado, {kProveedores, kEstado}},
-          {Clientes, kClientes, kEstado, {kClientes}}}},
+         estadisticas,
+         {{Ventas, Ventas, Estados, {Ventas}},
+          {Articulos, Clientes, Estados, {Articulos}},
+          {Proveedores, Proveedores, Estados, {Proveedores, Estados}},
+          {Clientes, Clientes, Estados, {Clientes}}}},
         {Stats,
-         kEstadisticas,
-         {{Ventas, kVentas, kEstadisticas, {kVentas}},
-          {Articulos, kArticulos, kEstadisticas, {kArticulos}},
-          {Proveedores, kVentas, kEstadisticas, {kProveedores}},
-          {Clientes, kClientes, kEstadisticas, {kClientes}}}},
+         estadisticas,
+         {{Ventas, Ventas, Stats, {Ventas}},
+          {Articulos, Articulos, Stats, {Articulos}},
+          {Proveedores, Ventas, Stats, {Proveedores}},
+          {Clientes, Clientes, Stats, {Clientes}}}},
     }};
     return tabla[static_cast<std::size_t>(modulo)];
 }
 
 const Conmutador::Dialogo &Conmutador::Opciones() {
-    static const Dialogo dialogo{QStringLiteral("opciones"), QStringLiteral("config"),
+    static const Dialogo dialogo{QStringLiteral("opciones"), Entrada::Opciones,
                                  QStringLiteral("las opciones del programa")};
     return dialogo;
 }
 
 const Conmutador::Dialogo &Conmutador::Respaldo() {
-    static const Dialogo dialogo{QStringLiteral("respaldo"), QStringLiteral("respaldar"),
+    static const Dialogo dialogo{QStringLiteral("respaldo"), Entrada::Respaldar,
                                  QStringLiteral("las opciones de respaldo")};
     return dialogo;
 }
@@ -142,7 +130,7 @@ void Conmutador::mnuStats() {
 }
 
 bool Conmutador::Marcado(Modulo modulo) const {
-    return tablero_.MenuMarcado(DatosDe(modulo).clave);
+    return tablero_.MenuMarcado(DatosDe(modulo).entrada);
 }
 
 bool Conmutador::EnCurso(Modulo modulo) const {
@@ -153,20 +141,24 @@ bool Conmutador::Pregunta(const QString &texto) {
     return preguntas_.Confirma(texto, Respuesta::No);
 }
 
-void Conmutador::Pendiente(const QString &boton) {
-    botonPendiente_ = boton;
+void Conmutador::Pendiente(Modulo modulo) {
+    botonPendiente_ = modulo;
     tablero_.IniciarTimer1();
 }
 
 void Conmutador::Timer1_Timer() {
-    if (!botonPendiente_.isEmpty())
-        tablero_.PresionarBoton(botonPendiente_, true);
-    botonPendiente_.clear();
+    if (botonPendiente_)
+        tablero_.PresionarBoton(DatosDe(*botonPendiente_).entrada, true);
+    botonPendiente_.reset();
+}
+
+void Conmutador::Soltar(Modulo modulo) {
+    tablero_.PresionarBoton(DatosDe(modulo).entrada, false);
 }
 
 void Conmutador::Desmarcar(Modulo modulo) {
-    tablero_.ActDesMenu(kMarca, DatosDe(modulo).clave, false);
-    tablero_.PresionarBoton(DatosDe(modulo).boton, false);
+    tablero_.MarcarMenu(DatosDe(modulo).entrada, false);
+    Soltar(modulo);
 }
 
 void Conmutador::CerrarModulo(Modulo modulo) {
@@ -183,12 +175,12 @@ void Conmutador::CerrarModulos() {
 
 void Conmutador::AbrirModulo(Modulo modulo) {
     CerrarModulos();
-    tablero_.ActDesMenu(kMarca, DatosDe(modulo).clave, true);
+    tablero_.MarcarMenu(DatosDe(modulo).entrada, true);
     // A window that could not be made must not leave its entry checked.
     auto sinVentana = qScopeGuard([this, modulo] { Desmarcar(modulo); });
     ventanas_.Mostrar(modulo);
     sinVentana.dismiss();
-    tablero_.PresionarBoton(DatosDe(modulo).boton, true);
+    tablero_.PresionarBoton(DatosDe(modulo).entrada, true);
 }
 
 void Conmutador::Ejecutar(Modulo modulo) {
@@ -211,7 +203,7 @@ void Conmutador::Ejecutar(Modulo modulo) {
 void Conmutador::Responder(Modulo modulo) {
     puedeCerrar_ = !EnCurso(modulo) || Pregunta(DatosDe(modulo).alSalir);
     if (!puedeCerrar_)
-        Pendiente(DatosDe(modulo).boton);
+        Pendiente(modulo);
 }
 
 // The module that is open is told by its menu check, not by the buttons: after some refusals a second button
@@ -221,7 +213,7 @@ bool Conmutador::PuedeConmutar(const Manejador &manejador) {
     if (Marcado(propio)) {
         if (!EnCurso(propio) || Pregunta(DatosDe(propio).alSalir))
             return true;
-        Pendiente(DatosDe(propio).boton);
+        Pendiente(propio);
         return false;
     }
     for (const Rechazo &otro : manejador.otros) {
@@ -233,27 +225,27 @@ bool Conmutador::PuedeConmutar(const Manejador &manejador) {
 
 bool Conmutador::PuedeDejar(const Rechazo &otro) {
     if (!Pregunta(DatosDe(otro.otro).alSalir)) {
-        tablero_.PresionarBoton(otro.alNoSuelta, false);
+        Soltar(otro.alNoSuelta);
         Pendiente(otro.pendiente);
         return false;
     }
     CerrarModulos();
-    for (const QString &boton : otro.alSiSuelta)
-        tablero_.PresionarBoton(boton, false);
+    for (const Modulo modulo : otro.alSiSuelta)
+        Soltar(modulo);
     return true;
 }
 
 void Conmutador::mnuOpciones() {
     const auto fin = qScopeGuard([this] {
         abrirDisenador_ = false;
-        tablero_.PresionarBoton(Opciones().boton, false);
+        tablero_.PresionarBoton(Opciones().entrada, false);
     });
     if (Despejar(Opciones()))
         ventanas_.MostrarOpciones(abrirDisenador_);
 }
 
 void Conmutador::mnuRespaldar() {
-    const auto fin = qScopeGuard([this] { tablero_.PresionarBoton(Respaldo().boton, false); });
+    const auto fin = qScopeGuard([this] { tablero_.PresionarBoton(Respaldo().entrada, false); });
     if (Despejar(Respaldo()))
         ventanas_.MostrarRespaldo();
 }
@@ -268,7 +260,7 @@ void Conmutador::mnuFactura() {
 // must not stay behind the dialog.
 bool Conmutador::Despejar(const Dialogo &dialogo) {
     for (const Modulo modulo : kOrdenDialogos) {
-        if (tablero_.BotonPresionado(DatosDe(modulo).boton) && Marcado(modulo))
+        if (tablero_.BotonPresionado(DatosDe(modulo).entrada) && Marcado(modulo))
             return DespejarModulo(modulo, dialogo);
     }
     return true;
@@ -313,19 +305,19 @@ void Conmutador::mnuDevCliente() {
 }
 
 void Conmutador::mnuCalc() {
-    if (tablero_.MenuMarcado(kCalculadora)) {
+    if (tablero_.MenuMarcado(Entrada::Calculadora)) {
         ventanas_.CerrarCalculadora();
         CalculadoraCerrada();
         return;
     }
     ventanas_.MostrarCalculadora();
-    tablero_.ActDesMenu(kMarca, kCalculadora, true);
-    tablero_.PresionarBoton(kCalculadora, true);
+    tablero_.MarcarMenu(Entrada::Calculadora, true);
+    tablero_.PresionarBoton(Entrada::Calculadora, true);
 }
 
 void Conmutador::CalculadoraCerrada() {
-    tablero_.ActDesMenu(kMarca, kCalculadora, false);
-    tablero_.PresionarBoton(kCalculadora, false);
+    tablero_.MarcarMenu(Entrada::Calculadora, false);
+    tablero_.PresionarBoton(Entrada::Calculadora, false);
 }
 
 } // namespace tarvo

@@ -11,18 +11,23 @@
 #pragma once
 
 #include "desktop/preguntas.h"
+#include "shell/entradas.h"
 
 #include <QString>
+
+#include <array>
+#include <optional>
 
 namespace tarvo {
 
 enum class Modulo { Ventas, Articulos, Clientes, Proveedores, Estados, Stats };
+inline constexpr std::array kModulos{Modulo::Ventas,      Modulo::Articulos, Modulo::Clientes,
+                                     Modulo::Proveedores, Modulo::Estados,   Modulo::Stats};
 
-// What is fixed about a module: its keys in menu and toolbar and its part of the questions. A module whose
-// `alSalir` is empty never has an entry in progress.
+// What is fixed about a module: its entry and its part of the questions. A module whose `alSalir` is empty
+// never has an entry in progress.
 struct DatosModulo {
-    QString clave;      // key of the menu entry, in ActDesMenu
-    QString boton;      // key of the toolbar button
+    Entrada entrada;
     QString alSalir;    // question when an entry is in progress
     QString formulario; // "formulario de ventas", in the dialogs' questions
 };
@@ -32,10 +37,10 @@ const DatosModulo &DatosDe(Modulo modulo);
 class TableroModulos {
   public:
     virtual ~TableroModulos() = default;
-    virtual bool MenuMarcado(const QString &clave) const = 0;
-    virtual void ActDesMenu(int tipo, const QString &clave, bool valor) = 0;
-    virtual bool BotonPresionado(const QString &boton) const = 0;
-    virtual void PresionarBoton(const QString &boton, bool valor) = 0;
+    virtual bool MenuMarcado(Entrada entrada) const = 0;
+    virtual void MarcarMenu(Entrada entrada, bool valor) = 0;
+    virtual bool BotonPresionado(Entrada entrada) const = 0;
+    virtual void PresionarBoton(Entrada entrada, bool valor) = 0;
     virtual void IniciarTimer1() = 0; // one tick, once the current event has ended
 };
 
@@ -83,7 +88,7 @@ class Conmutador {
     // only answers in `puedeCerrar` whether its module may be closed.
     void PonerLlamador(const QString &llamador) { llamador_ = llamador; }
     bool puedeCerrar() const { return puedeCerrar_; }
-    const QString &botonPendiente() const { return botonPendiente_; }
+    const std::optional<Modulo> &botonPendiente() const { return botonPendiente_; }
 
   private:
     struct Manejador;
@@ -96,7 +101,8 @@ class Conmutador {
     bool Marcado(Modulo modulo) const;
     bool EnCurso(Modulo modulo) const;
     bool Pregunta(const QString &texto);
-    void Pendiente(const QString &boton);
+    void Pendiente(Modulo modulo);
+    void Soltar(Modulo modulo);
     void Desmarcar(Modulo modulo);
     void CerrarModulo(Modulo modulo);
     void AbrirModulo(Modulo modulo);
@@ -116,7 +122,7 @@ class Conmutador {
     bool puedeCerrar_ = false;
     bool abrirDisenador_ = false;
     QString llamador_;
-    QString botonPendiente_;
+    std::optional<Modulo> botonPendiente_;
 };
 
 } // namespace tarvo

@@ -83,7 +83,7 @@ TEST_F(Articulos, ListsPricesFromTheTruePercentageAndColoursOnlyByTheSignOfTheSt
     const Tono tonos[] = {Tono::Azul, Tono::Rojo, Tono::Verde, Tono::Azul};
     for (int fila = 0; fila < 4; ++fila)
         EXPECT_EQ(lista.TonoDe(fila, col::kStock), tonos[fila]) << fila;
-    EXPECT_EQ(anfitrion.dicho, QStringList(u"1 exportar si"_qs));
+    EXPECT_EQ(anfitrion.dicho, QList{true});
 }
 
 TEST_F(Articulos, ReadsThePercentageOnScreenFromTheLastThreeCharactersOfTheLabel) {

@@ -54,11 +54,9 @@ class FiltroPrueba : public VistaFiltro {
 // Remembers whether a list can be exported.
 class AnfitrionPrueba : public Anfitrion {
   public:
-    QStringList dicho;
+    QList<bool> dicho;
 
-    void ActDesMenu(int tipo, const QString &clave, bool valor) override {
-        dicho << QStringLiteral("%1 %2 %3").arg(tipo).arg(clave, valor ? u"si" : u"no");
-    }
+    void PonerExportable(bool posible) override { dicho << posible; }
     void Sugerencia(const QString &) override {}
 };
 

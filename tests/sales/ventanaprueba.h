@@ -25,7 +25,7 @@ inline const QString kFinal = QStringLiteral("La búsqueda ha finalizado.");
 
 class AnfitrionMudo final : public Anfitrion {
   public:
-    void ActDesMenu(int, const QString &, bool) override {}
+    void PonerExportable(bool) override {}
     void Sugerencia(const QString &) override {}
 };
 

@@ -8,13 +8,22 @@
 #include <QStringList>
 
 #include <algorithm>
-#include <array>
 #include <stdexcept>
 
 namespace tarvo {
 
-constexpr std::array kModulos{Modulo::Ventas,      Modulo::Articulos, Modulo::Clientes,
-                              Modulo::Proveedores, Modulo::Estados,   Modulo::Stats};
+inline QString Clave(Entrada entrada) {
+    return DatosDe(entrada).clave.toString();
+}
+inline QString Clave(Modulo modulo) {
+    return Clave(DatosDe(modulo).entrada);
+}
+inline QString Boton(Entrada entrada) {
+    return DatosDe(entrada).boton->clave.toString();
+}
+inline QString Boton(Modulo modulo) {
+    return Boton(DatosDe(modulo).entrada);
+}
 
 inline QString Junta(const QSet<QString> &claves) {
     QStringList lista(claves.begin(), claves.end());
@@ -34,12 +43,11 @@ class MesaPrueba : public TableroModulos, public VentanasModulos, public Pregunt
 
     // The module as it is when it was opened by the rule.
     void Abierta(Modulo modulo, bool entrada) {
-        const DatosModulo &datos = DatosDe(modulo);
-        marcadas += datos.clave;
-        abiertas += datos.clave;
-        presionados += datos.boton;
+        marcadas += Clave(modulo);
+        abiertas += Clave(modulo);
+        presionados += Boton(modulo);
         if (entrada)
-            conEntrada += datos.clave;
+            conEntrada += Clave(modulo);
     }
 
     void PorTecla(Modulo modulo) {
@@ -61,7 +69,7 @@ class MesaPrueba : public TableroModulos, public VentanasModulos, public Pregunt
     }
     // A click has toggled the button before the handler runs.
     void PorClic(Modulo modulo) {
-        const QString boton = DatosDe(modulo).boton;
+        const QString boton = Boton(modulo);
         presionados.contains(boton) ? presionados -= boton : presionados += boton;
         PorTecla(modulo);
     }
@@ -70,28 +78,27 @@ class MesaPrueba : public TableroModulos, public VentanasModulos, public Pregunt
             conmutador.Timer1_Timer();
     }
 
-    bool MenuMarcado(const QString &clave) const override { return marcadas.contains(clave); }
-    void ActDesMenu(int tipo, const QString &clave, bool valor) override {
-        if (tipo != 2)
-            throw std::logic_error("the rule only checks entries");
-        valor ? marcadas += clave : marcadas -= clave;
+    bool MenuMarcado(Entrada entrada) const override { return marcadas.contains(Clave(entrada)); }
+    void MarcarMenu(Entrada entrada, bool valor) override {
+        valor ? marcadas += Clave(entrada) : marcadas -= Clave(entrada);
     }
-    bool BotonPresionado(const QString &boton) const override { return presionados.contains(boton); }
-    void PresionarBoton(const QString &boton, bool valor) override {
+    bool BotonPresionado(Entrada entrada) const override { return presionados.contains(Boton(entrada)); }
+    void PresionarBoton(Entrada entrada, bool valor) override {
+        const QString boton = Boton(entrada);
         hechos += (valor ? QLatin1Char('+') : QLatin1Char('-')) + boton;
         valor ? presionados += boton : presionados -= boton;
     }
     void IniciarTimer1() override { ticksPedidos = 1; }
 
-    bool EntradaEnCurso(Modulo modulo) const override { return conEntrada.contains(DatosDe(modulo).clave); }
+    bool EntradaEnCurso(Modulo modulo) const override { return conEntrada.contains(Clave(modulo)); }
     void Mostrar(Modulo modulo) override {
         if (fallaMostrar)
             throw std::runtime_error("no window");
-        abiertas += DatosDe(modulo).clave;
-        hechos += QStringLiteral("abre ") + DatosDe(modulo).clave;
+        abiertas += Clave(modulo);
+        hechos += QStringLiteral("abre ") + Clave(modulo);
     }
     void Cerrar(Modulo modulo) override {
-        const QString clave = DatosDe(modulo).clave;
+        const QString clave = Clave(modulo);
         if (!abiertas.contains(clave))
             return;
         abiertas -= clave;
@@ -118,9 +125,8 @@ class MesaPrueba : public TableroModulos, public VentanasModulos, public Pregunt
 
     // Checks, windows and buttons all tell the same: this module and no other.
     bool SoloAbierta(Modulo modulo) const {
-        const DatosModulo &datos = DatosDe(modulo);
-        return marcadas == QSet{datos.clave} && abiertas == QSet{datos.clave} &&
-               presionados == QSet{datos.boton};
+        return marcadas == QSet{Clave(modulo)} && abiertas == QSet{Clave(modulo)} &&
+               presionados == QSet{Boton(modulo)};
     }
     bool Vacia() const { return marcadas.isEmpty() && abiertas.isEmpty() && presionados.isEmpty(); }
 };

@@ -24,18 +24,19 @@ class ModuloFalso : public VentanaModulo {
   public:
     ModuloFalso(Modulo modulo, Anfitrion &anfitrion, Preguntas &preguntas, QWidget *padre)
         : VentanaModulo(padre), preguntas_(preguntas) {
-        setObjectName(QStringLiteral("frm_") + DatosDe(modulo).clave);
+        setObjectName(QStringLiteral("frm_") + DatosDe(DatosDe(modulo).entrada).clave.toString());
         auto *campo = new QLineEdit(this);
         campo->setObjectName(QStringLiteral("txtCampo"));
         (new QVBoxLayout(this))->addWidget(campo);
         campo->setFocus();
-        anfitrion.ActDesMenu(1, QStringLiteral("exportar"), true);
+        anfitrion.PonerExportable(true);
         anfitrion.Sugerencia(QStringLiteral("Pulse Enter"));
     }
     bool EntradaEnCurso() const override { return entrada; }
     bool PermiteCerrarPrograma() override {
         return !entrada || preguntas_.Confirma(QStringLiteral("Cerrar?"), Respuesta::No);
     }
+    std::optional<Exportable> ParaExportar() const override { return Exportable{nullptr, objectName()}; }
     bool entrada = false;
 
   private:
@@ -85,8 +86,7 @@ class MundoPrincipal : public ::testing::Test {
   private:
     Composicion Completa() {
         Composicion todas;
-        for (const Modulo modulo : {Modulo::Ventas, Modulo::Articulos, Modulo::Clientes, Modulo::Proveedores,
-                                    Modulo::Estados, Modulo::Stats}) {
+        for (const Modulo modulo : kModulos) {
             todas.modulos[modulo] = [this, modulo](Anfitrion &anfitrion, QWidget *padre) {
                 return new ModuloFalso(modulo, anfitrion, mundo.preguntas, padre);
             };
@@ -103,7 +103,7 @@ class MundoPrincipal : public ::testing::Test {
         };
         todas.devContado = [this](VentanaModulo &) { hechos += QStringLiteral("contado"); };
         todas.devCliente = [this](VentanaModulo &) { hechos += QStringLiteral("por cliente"); };
-        todas.exportar = [this](VentanaModulo &abierta) { hechos += abierta.objectName(); };
+        todas.exportar = [this](const Exportable &lista) { hechos += lista.nombre; };
         return todas;
     }
 };

@@ -8,7 +8,7 @@ namespace {
 using enum Modulo;
 
 std::string Nombre(Modulo modulo) {
-    return DatosDe(modulo).boton.toStdString();
+    return Boton(modulo).toStdString();
 }
 
 // Every module open without an entry (or none) x every handler x click or key: no question is asked. With an
@@ -88,8 +88,8 @@ TEST(Conmutador, NoKeepsTheEntryAndPutsTheToolbarBack) {
             }
             mesa.Tick();
             EXPECT_EQ(Junta(mesa.presionados), QLatin1String(clic ? caso.trasTick : caso.porTecla));
-            EXPECT_TRUE(mesa.conmutador.botonPendiente().isEmpty());
-            EXPECT_EQ(Junta(mesa.marcadas), DatosDe(caso.abierta).clave);
+            EXPECT_FALSE(mesa.conmutador.botonPendiente());
+            EXPECT_EQ(Junta(mesa.marcadas), Clave(caso.abierta));
             EXPECT_EQ(mesa.abiertas, mesa.conEntrada);
         }
     }
@@ -279,7 +279,7 @@ TEST(ConmutadorLlamador, OnlyAnswersWhetherTheModuleMayClose) {
     mesa.conmutador.PonerLlamador(QStringLiteral("estadísticas"));
     mesa.PorTecla(Proveedores);
     EXPECT_FALSE(mesa.conmutador.puedeCerrar());
-    EXPECT_EQ(mesa.conmutador.botonPendiente(), QStringLiteral("proveedores"));
+    EXPECT_EQ(mesa.conmutador.botonPendiente(), Proveedores);
     EXPECT_TRUE(mesa.SoloAbierta(Proveedores));
 }
 

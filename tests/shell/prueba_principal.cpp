@@ -1,7 +1,7 @@
 #include "mundoprincipal.h"
 
+#include "shell/ventanas/acciones.h"
 #include "shell/ventanas/barraestado.h"
-#include "shell/ventanas/tablamenu.h"
 #include "shell/ventanas/traduccionteclas.h"
 
 #include <QLibraryInfo>
@@ -94,6 +94,18 @@ TEST_F(PrincipalTest, MenuHoldsItsEntriesWithTheirShortcuts) {
     }
 }
 
+TEST(Acciones, ChangedShortcutShowsInMenuAndTooltip) {
+    QMenuBar menu;
+    QToolBar barra;
+    Acciones acciones(menu, barra);
+    acciones.PonerAtajo(Entrada::Salir, QKeySequence(Qt::CTRL | Qt::Key_Q));
+    EXPECT_EQ(acciones.DeMenu(Entrada::Salir)->text(), QStringLiteral("&Salir\tCtrl+Q"));
+    EXPECT_EQ(acciones.DeBarra(Entrada::Salir)->toolTip(), QStringLiteral("Salir (Ctrl+Q)"));
+    acciones.PonerAtajo(Entrada::Ventas, {});
+    EXPECT_TRUE(acciones.DeMenu(Entrada::Ventas)->shortcut().isEmpty());
+    EXPECT_EQ(acciones.DeBarra(Entrada::Ventas)->toolTip(), QStringLiteral("Ventas"));
+}
+
 TEST(TraduccionTeclas, KeysKeepTheirNamesInTheToolkitsSpanish) {
     const QKeySequence exportar(Qt::CTRL | Qt::Key_F6);
     QTranslator espanol;
@@ -159,7 +171,7 @@ TEST_F(PrincipalTest, EntriesWithoutAWindowAreDisabledInMenuAndToolbar) {
         EXPECT_FALSE(DeBarra(clave)->isEnabled()) << clave;
     for (const char *clave : {"salir", "BarHer", "pantcomp", "ayudapdf", "acercade"})
         EXPECT_TRUE(DeMenu(clave)->isEnabled()) << clave;
-    frm->ActDesMenu(1, QStringLiteral("exportar"), true);
+    frm->PonerExportable(true);
     EXPECT_FALSE(DeMenu("exportar")->isEnabled());
 }
 

@@ -1,7 +1,11 @@
 // What every module window (frmVentas, frmArticulos, ...) is to the main window.
 #pragma once
 
+#include "desktop/exportable.h"
+
 #include <QWidget>
+
+#include <optional>
 
 namespace tarvo {
 
@@ -13,6 +17,8 @@ class VentanaModulo : public QWidget {
     virtual bool EntradaEnCurso() const = 0;
     // Asks when the program closes with an entry in progress; false keeps the program running.
     virtual bool PermiteCerrarPrograma() = 0;
+    // The list on screen that the export writes; none when there is none.
+    virtual std::optional<Exportable> ParaExportar() const { return std::nullopt; }
 };
 
 } // namespace tarvo

@@ -88,6 +88,10 @@ const ListaTexto &VentanaCatalogo::Lista() const {
     return logica_->Lista();
 }
 
+std::optional<Exportable> VentanaCatalogo::ParaExportar() const {
+    return Exportable{&Lista(), LV().objectName()};
+}
+
 QWidget *VentanaCatalogo::Ficha() const {
     return ui_->frCampos;
 }

@@ -30,8 +30,9 @@ class VentanaCatalogo : public VentanaModulo, public VistaDetalle {
 
     bool EntradaEnCurso() const override;
     bool PermiteCerrarPrograma() override;
-    // The list as the operator sees it, for the export.
+    // The list as the operator sees it.
     const ListaTexto &Lista() const;
+    std::optional<Exportable> ParaExportar() const override;
 
   protected:
     // What the three windows differ in besides fields and logic.

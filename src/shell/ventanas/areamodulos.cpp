@@ -16,26 +16,6 @@ AreaModulos::~AreaModulos() {
     delete abierta_;
 }
 
-bool AreaModulos::HayVentana(const QString &clave) const {
-    for (const Modulo modulo : {Modulo::Ventas, Modulo::Articulos, Modulo::Clientes, Modulo::Proveedores,
-                                Modulo::Estados, Modulo::Stats}) {
-        if (clave == DatosDe(modulo).clave || clave == DatosDe(modulo).boton)
-            return composicion_.modulos.contains(modulo);
-    }
-    const std::map<QString, bool> otras{
-        {QStringLiteral("opciones"), composicion_.opciones != nullptr},
-        {QStringLiteral("config"), composicion_.opciones != nullptr},
-        {QStringLiteral("factura"), composicion_.opciones && composicion_.disenador},
-        {QStringLiteral("respaldar"), composicion_.respaldo != nullptr},
-        {QStringLiteral("calculadora"), composicion_.calculadora != nullptr},
-        {QStringLiteral("devcontado"), composicion_.devContado != nullptr},
-        {QStringLiteral("devcliente"), composicion_.devCliente != nullptr},
-        {QStringLiteral("exportar"), composicion_.exportar != nullptr},
-    };
-    const auto entrada = otras.find(clave);
-    return entrada == otras.end() || entrada->second;
-}
-
 bool AreaModulos::EntradaEnCurso(Modulo modulo) const {
     return abierta_ && cual_ == modulo && abierta_->EntradaEnCurso();
 }
@@ -57,7 +37,7 @@ void AreaModulos::Cerrar(Modulo modulo) {
     abierta_->close();
     delete abierta_;
     cual_.reset();
-    anfitrion_.ActDesMenu(1, QStringLiteral("exportar"), false);
+    anfitrion_.PonerExportable(false);
     anfitrion_.Sugerencia(QString());
 }
 
@@ -94,8 +74,9 @@ void AreaModulos::CerrarCalculadora() {
 }
 
 void AreaModulos::Exportar() {
-    if (abierta_)
-        composicion_.exportar(*abierta_);
+    const std::optional<Exportable> lista = abierta_ ? abierta_->ParaExportar() : std::nullopt;
+    if (lista)
+        composicion_.exportar(*lista);
 }
 
 } // namespace tarvo

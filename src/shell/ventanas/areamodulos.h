@@ -22,8 +22,8 @@ class AreaModulos : public QObject, public VentanasModulos {
 
     // The open module's window, null when none is open.
     VentanaModulo *Abierta() const { return abierta_; }
-    // The window behind a key of menu or toolbar exists; true for keys that need none.
-    bool HayVentana(const QString &clave) const;
+    bool HayVentana(Entrada entrada) const { return composicion_.Hay(entrada); }
+    // The list of the open module.
     void Exportar();
 
     bool EntradaEnCurso(Modulo modulo) const override;

@@ -7,6 +7,8 @@
 #include "masterdata/ventanas/frmproveedores.h"
 #include "sales/ventanas/frmventas.h"
 
+#include <algorithm>
+
 namespace tarvo {
 
 namespace {
@@ -19,6 +21,31 @@ template <typename Ventana> Composicion::FabricaModulo Fabrica(const Servicios &
 
 } // namespace
 
+bool Composicion::Hay(Entrada entrada) const {
+    const auto *const modulo =
+        std::ranges::find(kModulos, entrada, [](Modulo cual) { return DatosDe(cual).entrada; });
+    if (modulo != kModulos.end())
+        return modulos.contains(*modulo);
+    switch (entrada) {
+    case Entrada::Opciones:
+        return opciones != nullptr;
+    case Entrada::Factura:
+        return opciones != nullptr && disenador;
+    case Entrada::Respaldar:
+        return respaldo != nullptr;
+    case Entrada::Calculadora:
+        return calculadora != nullptr;
+    case Entrada::DevContado:
+        return devContado != nullptr;
+    case Entrada::DevCliente:
+        return devCliente != nullptr;
+    case Entrada::Exportar:
+        return exportar != nullptr;
+    default:
+        return true;
+    }
+}
+
 Composicion Componer(const Servicios &servicios) {
     Composicion composicion;
     composicion.modulos = {
@@ -30,7 +57,7 @@ Composicion Componer(const Servicios &servicios) {
     composicion.opciones = [servicios](bool abrirDisenador, QWidget *padre) {
         FrmConfig(servicios, abrirDisenador, padre).exec();
     };
-    composicion.exportar = [servicios](VentanaModulo &) {
+    composicion.exportar = [servicios](const Exportable &) {
         servicios.preguntas.Informar(QStringLiteral("La exportación no está disponible en esta versión."));
     };
     return composicion;

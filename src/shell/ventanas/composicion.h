@@ -15,6 +15,7 @@ namespace tarvo {
 
 class Anfitrion;
 class VentanaModulo;
+struct Exportable;
 
 struct Composicion {
     using FabricaModulo = std::function<VentanaModulo *(Anfitrion &, QWidget *padre)>;
@@ -26,7 +27,10 @@ struct Composicion {
     std::function<QWidget *(QWidget *padre)> calculadora;
     std::function<void(VentanaModulo &estados)> devContado;
     std::function<void(VentanaModulo &estados)> devCliente;
-    std::function<void(VentanaModulo &abierta)> exportar;
+    std::function<void(const Exportable &)> exportar;
+
+    // The window behind an entry is there; true for entries that need none.
+    bool Hay(Entrada entrada) const;
 };
 
 Composicion Componer(const Servicios &servicios);

@@ -5,9 +5,9 @@
 #include "desktop/ventanas/estadoteclado.h"
 #include "desktop/ventanas/ventanamodulo.h"
 #include "shell/medidas.h"
+#include "shell/ventanas/acciones.h"
 #include "shell/ventanas/areamodulos.h"
 #include "shell/ventanas/frmabout.h"
-#include "shell/ventanas/tablamenu.h"
 #include "store/store.h"
 #include "ui_frmprincipal.h"
 
@@ -20,17 +20,6 @@
 
 namespace tarvo {
 
-namespace {
-
-constexpr int kHabilitar = 1; // types of ActDesMenu
-constexpr int kMarcar = 2;
-const QString kExportar = QStringLiteral("exportar");
-const QString kBarHer = QStringLiteral("BarHer");
-const QString kBarEst = QStringLiteral("BarEst");
-const QString kPantComp = QStringLiteral("pantcomp");
-
-} // namespace
-
 FrmPrincipal::FrmPrincipal(const Servicios &servicios, const Composicion &composicion,
                            QString carpetaPrograma)
     : ui_(std::make_unique<Ui::FrmPrincipal>()),
@@ -38,10 +27,10 @@ FrmPrincipal::FrmPrincipal(const Servicios &servicios, const Composicion &compos
       ajustes_(servicios.ajustes),
       carpetaPrograma_(std::move(carpetaPrograma)),
       pantalla_(*this, ajustes_),
-      area_((ui_->setupUi(this), std::make_unique<AreaModulos>(*ui_->area, *this, composicion))),
+      acciones_((ui_->setupUi(this), std::make_unique<Acciones>(*ui_->mnuBarra, *ui_->tbrPrincipal))),
+      area_(std::make_unique<AreaModulos>(*ui_->area, *this, composicion)),
       conmutador_(*this, *area_, servicios.preguntas),
-      Timer1(new QTimer(this)),
-      menuAyuda_(new QMenu(this)) {
+      Timer1(new QTimer(this)) {
     Timer1->setObjectName(QStringLiteral("Timer1"));
     Timer1->setInterval(1);
     Timer1->setSingleShot(true);
@@ -50,80 +39,62 @@ FrmPrincipal::FrmPrincipal(const Servicios &servicios, const Composicion &compos
             [this] { conmutador_.CalculadoraCerrada(); });
     connect(ui_->SB1, &BarraEstado::FabricantePulsado, this, [this] { Abrir(ajustes_.SitioFabricante()); });
     CrearManejadores();
-    CrearMenu();
-    CrearBarra();
+    ConectarAcciones();
     AplicarAjustes();
     DesactivarSinVentana();
-    ActDesMenu(kHabilitar, kExportar, false);
+    PonerExportable(false);
     ActualizarEstado();
     qApp->installEventFilter(this);
 }
 
 FrmPrincipal::~FrmPrincipal() = default;
 
-void FrmPrincipal::CrearMenu() {
-    for (const MenuSuperior &superior : MenuPrincipal())
-        LlenarMenu(ui_->mnuBarra->addMenu(superior.titulo), superior.entradas);
-    DeMenu(QStringLiteral("salir"))->setText(QStringLiteral("&Salir\tAlt+F4"));
-    LlenarMenu(menuAyuda_, MenuAyuda());
+void FrmPrincipal::ConectarAcciones() {
+    connect(acciones_.get(), &Acciones::MenuElegido, this, &FrmPrincipal::m_Menus_Click);
+    connect(acciones_.get(), &Acciones::BotonPulsado, this, &FrmPrincipal::tbrPrincipal_ButtonClick);
     // A popup is a window of its own: its hints reach no other one by themselves.
-    connect(menuAyuda_, &QMenu::hovered, this, [this](QAction *accion) { accion->showStatusText(this); });
-    connect(menuAyuda_, &QMenu::aboutToHide, this, [this] { PonerAyudaEntrada(QString()); });
-    QList<QAction *> acciones = ui_->mnuBarra->findChildren<QAction *>();
-    acciones += menuAyuda_->actions();
-    for (QAction *accion : acciones) {
-        if (manejadores_.contains(accion->objectName()))
-            connect(accion, &QAction::triggered, this, [this, accion] { m_Menus_Click(accion); });
-    }
-}
-
-void FrmPrincipal::CrearBarra() {
-    LlenarBarra(ui_->tbrPrincipal, BotonesPrincipal());
-    for (QAction *accion : ui_->tbrPrincipal->actions()) {
-        connect(accion, &QAction::triggered, this,
-                [this, accion] { tbrPrincipal_ButtonClick(accion->objectName()); });
-    }
+    const QMenu *const emergente = acciones_->Emergente();
+    connect(emergente, &QMenu::hovered, this, [this](QAction *accion) { accion->showStatusText(this); });
+    connect(emergente, &QMenu::aboutToHide, this, [this] { PonerAyudaEntrada(QString()); });
 }
 
 void FrmPrincipal::CrearManejadores() {
     Conmutador &regla = conmutador_;
     manejadores_ = {
-        {kExportar, [this] { area_->Exportar(); }},
-        {QStringLiteral("salir"), [this] { close(); }},
-        {kBarHer, [this] { mnuBarHer(); }},
-        {kBarEst, [this] { mnuBarEst(); }},
-        {QStringLiteral("ventas"), [&regla] { regla.mnuVentas(); }},
-        {QStringLiteral("devcontado"), [&regla] { regla.mnuDevContado(); }},
-        {QStringLiteral("devcliente"), [&regla] { regla.mnuDevCliente(); }},
-        {QStringLiteral("stats"), [&regla] { regla.mnuStats(); }},
-        {QStringLiteral("clientes"), [&regla] { regla.mnuClientes(); }},
-        {QStringLiteral("estado"), [&regla] { regla.mnuEstadosClientes(); }},
-        {QStringLiteral("articulos"), [&regla] { regla.mnuArticulos(); }},
-        {QStringLiteral("proveedores"), [&regla] { regla.mnuProveedores(); }},
-        {QStringLiteral("opciones"), [&regla] { regla.mnuOpciones(); }},
-        {QStringLiteral("factura"), [&regla] { regla.mnuFactura(); }},
-        {kPantComp, [this] { mnuPantComp(); }},
-        {QStringLiteral("respaldar"), [&regla] { regla.mnuRespaldar(); }},
-        {QStringLiteral("calculadora"), [&regla] { regla.mnuCalc(); }},
-        {QStringLiteral("ayudapdf"), [this] { mnuAyudaPdf(); }},
-        {QStringLiteral("acercade"), [this] { mnuAcercaDe(); }},
-        {QStringLiteral("popayuda"), [this] { mnuAyudaPdf(); }},
-        {QStringLiteral("popayudaweb"), [this] { AyudaWeb(); }},
+        {Entrada::Exportar, [this] { area_->Exportar(); }},
+        {Entrada::Salir, [this] { close(); }},
+        {Entrada::BarHer, [this] { mnuBarHer(); }},
+        {Entrada::BarEst, [this] { mnuBarEst(); }},
+        {Entrada::Ventas, [&regla] { regla.mnuVentas(); }},
+        {Entrada::DevContado, [&regla] { regla.mnuDevContado(); }},
+        {Entrada::DevCliente, [&regla] { regla.mnuDevCliente(); }},
+        {Entrada::Stats, [&regla] { regla.mnuStats(); }},
+        {Entrada::Clientes, [&regla] { regla.mnuClientes(); }},
+        {Entrada::Estado, [&regla] { regla.mnuEstadosClientes(); }},
+        {Entrada::Articulos, [&regla] { regla.mnuArticulos(); }},
+        {Entrada::Proveedores, [&regla] { regla.mnuProveedores(); }},
+        {Entrada::Opciones, [&regla] { regla.mnuOpciones(); }},
+        {Entrada::Factura, [&regla] { regla.mnuFactura(); }},
+        {Entrada::PantComp, [this] { mnuPantComp(); }},
+        {Entrada::Respaldar, [&regla] { regla.mnuRespaldar(); }},
+        {Entrada::Calculadora, [&regla] { regla.mnuCalc(); }},
+        {Entrada::AyudaPdf, [this] { mnuAyudaPdf(); }},
+        {Entrada::AcercaDe, [this] { mnuAcercaDe(); }},
+        {Entrada::PopAyuda, [this] { mnuAyudaPdf(); }},
+        {Entrada::PopAyudaWeb, [this] { AyudaWeb(); }},
     };
 }
 
 void FrmPrincipal::AplicarAjustes() {
     ui_->CoolBar1->setVisible(ajustes_.BarHer());
     ui_->SB1->setVisible(ajustes_.BarEst());
-    ActDesMenu(kMarcar, kBarHer, ajustes_.BarHer());
-    ActDesMenu(kMarcar, kBarEst, ajustes_.BarEst());
+    MarcarMenu(Entrada::BarHer, ajustes_.BarHer());
+    MarcarMenu(Entrada::BarEst, ajustes_.BarEst());
 }
 
 void FrmPrincipal::DesactivarSinVentana() {
-    for (QAction *accion : ui_->mnuBarra->findChildren<QAction *>())
-        accion->setEnabled(area_->HayVentana(accion->objectName()));
-    for (QAction *accion : ui_->tbrPrincipal->actions())
-        accion->setEnabled(area_->HayVentana(accion->objectName()));
+    for (const DatosEntrada &datos : Entradas())
+        acciones_->Habilitar(datos.entrada, area_->HayVentana(datos.entrada));
 }
 
 void FrmPrincipal::Presentar(int anchoPantalla) {
@@ -133,52 +104,39 @@ void FrmPrincipal::Presentar(int anchoPantalla) {
     inicial.maximizada ? showMaximized() : showNormal();
 }
 
-QAction *FrmPrincipal::DeMenu(const QString &clave) const {
-    return AccionDe(ui_->mnuBarra, clave);
-}
-
-QAction *FrmPrincipal::DeBarra(const QString &clave) const {
-    return AccionDe(ui_->tbrPrincipal, clave);
-}
-
 // A click on a checkable entry has toggled its check; here only the handlers set checks.
-void FrmPrincipal::m_Menus_Click(QAction *accion) {
+void FrmPrincipal::m_Menus_Click(Entrada entrada) {
+    QAction *const accion = acciones_->DeMenu(entrada);
     if (accion->isCheckable())
         accion->setChecked(!accion->isChecked());
-    manejadores_.value(accion->objectName())();
+    manejadores_.at(entrada)();
 }
 
-// Most buttons carry the key of their menu entry.
-void FrmPrincipal::tbrPrincipal_ButtonClick(const QString &clave) {
-    if (clave == QStringLiteral("ayuda")) {
+void FrmPrincipal::tbrPrincipal_ButtonClick(Entrada entrada) {
+    if (entrada == Entrada::AyudaPdf)
         MostrarMenuAyuda();
-        return;
-    }
-    static const QHash<QString, QString> otras{{QStringLiteral("estadisticas"), QStringLiteral("stats")},
-                                               {QStringLiteral("config"), QStringLiteral("opciones")}};
-    manejadores_.value(otras.value(clave, clave))();
+    else
+        manejadores_.at(entrada)();
 }
 
-void FrmPrincipal::ActDesMenu(int tipo, const QString &clave, bool valor) {
-    QAction *const accion = DeMenu(clave);
-    if (accion == nullptr)
-        return;
-    if (tipo == kHabilitar)
-        accion->setEnabled(valor && area_->HayVentana(clave));
-    else if (tipo == kMarcar)
-        accion->setChecked(valor);
+void FrmPrincipal::PonerExportable(bool posible) {
+    acciones_->Habilitar(Entrada::Exportar, posible && area_->HayVentana(Entrada::Exportar));
 }
 
-bool FrmPrincipal::MenuMarcado(const QString &clave) const {
-    return DeMenu(clave)->isChecked();
+bool FrmPrincipal::MenuMarcado(Entrada entrada) const {
+    return acciones_->DeMenu(entrada)->isChecked();
 }
 
-bool FrmPrincipal::BotonPresionado(const QString &boton) const {
-    return DeBarra(boton)->isChecked();
+void FrmPrincipal::MarcarMenu(Entrada entrada, bool valor) {
+    acciones_->DeMenu(entrada)->setChecked(valor);
 }
 
-void FrmPrincipal::PresionarBoton(const QString &boton, bool valor) {
-    DeBarra(boton)->setChecked(valor);
+bool FrmPrincipal::BotonPresionado(Entrada entrada) const {
+    return acciones_->DeBarra(entrada)->isChecked();
+}
+
+void FrmPrincipal::PresionarBoton(Entrada entrada, bool valor) {
+    acciones_->DeBarra(entrada)->setChecked(valor);
 }
 
 void FrmPrincipal::IniciarTimer1() {
@@ -186,22 +144,22 @@ void FrmPrincipal::IniciarTimer1() {
 }
 
 void FrmPrincipal::mnuBarHer() {
-    const bool visible = !MenuMarcado(kBarHer);
+    const bool visible = !MenuMarcado(Entrada::BarHer);
     ui_->CoolBar1->setVisible(visible);
-    ActDesMenu(kMarcar, kBarHer, visible);
+    MarcarMenu(Entrada::BarHer, visible);
     ajustes_.PonerBarHer(visible);
 }
 
 void FrmPrincipal::mnuBarEst() {
-    const bool visible = !MenuMarcado(kBarEst);
+    const bool visible = !MenuMarcado(Entrada::BarEst);
     ui_->SB1->setVisible(visible);
-    ActDesMenu(kMarcar, kBarEst, visible);
+    MarcarMenu(Entrada::BarEst, visible);
     ajustes_.PonerBarEst(visible);
 }
 
 void FrmPrincipal::mnuPantComp() {
-    const bool completa = !MenuMarcado(kPantComp);
-    ActDesMenu(kMarcar, kPantComp, completa);
+    const bool completa = !MenuMarcado(Entrada::PantComp);
+    MarcarMenu(Entrada::PantComp, completa);
     completa ? pantalla_.Entrar() : pantalla_.Salir();
 }
 
@@ -219,8 +177,8 @@ void FrmPrincipal::AyudaWeb() {
 }
 
 void FrmPrincipal::MostrarMenuAyuda() {
-    const QWidget *const boton = ui_->tbrPrincipal->widgetForAction(DeBarra(QStringLiteral("ayuda")));
-    menuAyuda_->popup(boton->mapToGlobal(boton->rect().bottomLeft()));
+    const QWidget *const boton = ui_->tbrPrincipal->widgetForAction(acciones_->DeBarra(Entrada::AyudaPdf));
+    acciones_->Emergente()->popup(boton->mapToGlobal(boton->rect().bottomLeft()));
 }
 
 void FrmPrincipal::mnuAcercaDe() {
@@ -285,8 +243,8 @@ void FrmPrincipal::resizeEvent(QResizeEvent *evento) {
 
 void FrmPrincipal::AjustarAncho() {
     const int ancho = ATwips(width());
-    DeBarra(QStringLiteral("salir"))->setVisible(CabeSalir(ancho));
-    QAction *const ayuda = DeBarra(QStringLiteral("ayuda"));
+    acciones_->DeBarra(Entrada::Salir)->setVisible(CabeSalir(ancho));
+    QAction *const ayuda = acciones_->DeBarra(Entrada::AyudaPdf);
     ayuda->setVisible(CabeAyuda(ancho));
     const QList<QAction *> botones = ui_->tbrPrincipal->actions();
     botones.at(botones.indexOf(ayuda) - 1)->setVisible(CabeAyuda(ancho)); // no separator before nothing

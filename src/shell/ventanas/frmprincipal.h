@@ -10,16 +10,17 @@
 #include "shell/conmutador.h"
 #include "shell/ventanas/pantallacompleta.h"
 
-#include <QHash>
 #include <QMainWindow>
 
 #include <functional>
+#include <map>
 #include <memory>
 
 class QTimer;
 
 namespace tarvo {
 
+class Acciones;
 class AreaModulos;
 struct Composicion;
 struct TamanoInicial;
@@ -39,12 +40,13 @@ class FrmPrincipal : public QMainWindow, public Anfitrion, public TableroModulos
     // What `separador` shows while nobody else has a hint.
     void PonerAviso(const QString &aviso);
 
-    void ActDesMenu(int tipo, const QString &clave, bool valor) override;
+    void PonerExportable(bool posible) override;
     void Sugerencia(const QString &texto) override;
 
-    bool MenuMarcado(const QString &clave) const override;
-    bool BotonPresionado(const QString &boton) const override;
-    void PresionarBoton(const QString &boton, bool valor) override;
+    bool MenuMarcado(Entrada entrada) const override;
+    void MarcarMenu(Entrada entrada, bool valor) override;
+    bool BotonPresionado(Entrada entrada) const override;
+    void PresionarBoton(Entrada entrada, bool valor) override;
     void IniciarTimer1() override;
 
   protected:
@@ -54,13 +56,12 @@ class FrmPrincipal : public QMainWindow, public Anfitrion, public TableroModulos
     void closeEvent(QCloseEvent *evento) override;
 
   private:
-    void CrearMenu();
-    void CrearBarra();
+    void ConectarAcciones();
     void CrearManejadores();
     void AplicarAjustes();
     void DesactivarSinVentana();
-    void m_Menus_Click(QAction *accion);
-    void tbrPrincipal_ButtonClick(const QString &clave);
+    void m_Menus_Click(Entrada entrada);
+    void tbrPrincipal_ButtonClick(Entrada entrada);
 
     void mnuBarHer();
     void mnuBarEst();
@@ -76,19 +77,17 @@ class FrmPrincipal : public QMainWindow, public Anfitrion, public TableroModulos
     void MostrarTextoEstado();
     void ActualizarEstado();
     void CerrarDatos();
-    QAction *DeMenu(const QString &clave) const;
-    QAction *DeBarra(const QString &clave) const;
 
     std::unique_ptr<Ui::FrmPrincipal> ui_;
     Servicios servicios_;
     AjustesPrincipal ajustes_;
     QString carpetaPrograma_;
     PantallaCompleta pantalla_;
+    std::unique_ptr<Acciones> acciones_;
     std::unique_ptr<AreaModulos> area_;
     Conmutador conmutador_;
     QTimer *Timer1;
-    QMenu *menuAyuda_;
-    QHash<QString, std::function<void()>> manejadores_; // by key of menu entry
+    std::map<Entrada, std::function<void()>> manejadores_;
     QString aviso_;
     QString sugerencia_;
     QString ayudaEntrada_; // help text of the menu entry under the mouse
