@@ -1,8 +1,6 @@
 #include "desktop/ventanas/filtrocampos.h"
-#include "desktop/ventanas/girador.h"
 #include "testkit/manos.h"
 
-#include <QClipboard>
 #include <QComboBox>
 #include <QDateEdit>
 #include <QDialog>
@@ -125,15 +123,6 @@ TEST(FiltroCampos, AShortcutOfTheWindowIsNotTakenByAField) {
     EXPECT_EQ(ventana.txtUno->selectedText(), u"uno") << "a key without an entry edits";
 }
 
-// Turns the wheel over a control, as the window system does.
-void Rueda(QWidget *control) {
-    const QPointF centro = QRectF(control->rect()).center();
-    QWheelEvent rueda(centro, control->mapToGlobal(centro), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
-                      Qt::NoScrollPhase, false);
-    QSpontaneKeyEvent::setSpontaneous(&rueda);
-    qApp->notify(control, &rueda);
-}
-
 TEST(FiltroCampos, TheWheelChangesNoFieldOnItsWay) {
     VentanaDeCampos ventana;
     auto *tardio = ventana.Poner<QSpinBox>("tardio");
@@ -152,21 +141,6 @@ TEST(FiltroCampos, TheWheelChangesNoFieldOnItsWay) {
     tardio->setFocus();
     Rueda(tardio);
     EXPECT_EQ(tardio->value(), 4) << "being edited";
-}
-
-TEST(Girador, OnlyTheNumberBeingEditedIsWheeled) {
-    QWidget ventana;
-    QLineEdit campo(u"7"_qs, &ventana);
-    QLineEdit otro(&ventana);
-    Girador girador(&ventana);
-    girador.Acompanar(&campo, 0, 99);
-    MostrarVentana(ventana);
-    otro.setFocus();
-    Rueda(&girador);
-    EXPECT_EQ(campo.text(), u"7");
-    campo.setFocus();
-    Rueda(&girador);
-    EXPECT_EQ(campo.text(), u"6");
 }
 
 TEST(FiltroCampos, TheWheelScrollsWhatLiesBehindAField) {
@@ -206,22 +180,6 @@ TEST(FiltroCampos, EscapeIsOfferedOncePerStrokeFromAnyControl) {
     hecho = true;
     Tecla(tardio, Qt::Key_Escape);
     EXPECT_EQ(veces, 9);
-}
-
-TEST(SoloCaracteres, DropsWhatIsNotAllowedTypedOrPasted) {
-    QLineEdit campo;
-    SoloCaracteres(&campo, u"0123456789"_qs);
-    MostrarVentana(campo);
-    Teclear(&campo, u"a1b2,3"_qs);
-    EXPECT_EQ(campo.text(), u"123");
-    Tecla(&campo, Qt::Key_Backspace);
-    Tecla(&campo, Qt::Key_Home);
-    QApplication::clipboard()->setText(u"x9-8 7"_qs);
-    campo.paste();
-    EXPECT_EQ(campo.text(), u"98712");
-    EXPECT_EQ(campo.cursorPosition(), 3);
-    campo.setText(u"$ 12,50"_qs);
-    EXPECT_EQ(campo.text(), u"$ 12,50") << "the program's own text stays";
 }
 
 } // namespace

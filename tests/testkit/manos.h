@@ -4,6 +4,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QTest>
+#include <QWheelEvent>
 
 #include <stdexcept>
 #include <string>
@@ -43,6 +44,15 @@ inline void Tecla(QWidget *control, Qt::Key tecla, Qt::KeyboardModifiers modific
 
 inline void Pulsar(QWidget *control) {
     QTest::mouseClick(control, Qt::LeftButton);
+}
+
+// Turns the wheel over the control one step down, as the window system does.
+inline void Rueda(QWidget *control) {
+    const QPointF centro = QRectF(control->rect()).center();
+    QWheelEvent rueda(centro, control->mapToGlobal(centro), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
+                      Qt::NoScrollPhase, false);
+    QSpontaneKeyEvent::setSpontaneous(&rueda);
+    qApp->notify(control, &rueda);
 }
 
 // Name of the control that has the focus; empty when none has it.

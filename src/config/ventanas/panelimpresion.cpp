@@ -3,6 +3,7 @@
 #include "desktop/escritorio.h"
 #include "desktop/preguntas.h"
 #include "desktop/ventanas/filtrocampos.h"
+#include "desktop/ventanas/solocaracteres.h"
 #include "documents/impresoras.h"
 #include "ui_panelimpresion.h"
 

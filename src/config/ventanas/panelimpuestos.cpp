@@ -2,6 +2,7 @@
 
 #include "config/ventanas/panellista.h"
 #include "desktop/ventanas/filtrocampos.h"
+#include "desktop/ventanas/solocaracteres.h"
 #include "ui_panelimpuestos.h"
 
 namespace tarvo {

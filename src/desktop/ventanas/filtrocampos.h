@@ -14,7 +14,6 @@
 #include <functional>
 
 class QKeyEvent;
-class QLineEdit;
 class QWidget;
 
 namespace tarvo {
@@ -60,9 +59,5 @@ class FiltroCampos : public QObject {
     QPointer<QWidget> porRaton_; // field that a mouse button, still down, gave the focus
     bool escapeVisto_ = false;   // this stroke found nothing to do and is on its way up to the window
 };
-
-// Lets only the characters of `permitidos` into the field, typed or pasted: the others are dropped, the rest
-// stays. Text that the program itself puts there isn't touched.
-void SoloCaracteres(QLineEdit *campo, const QString &permitidos);
 
 } // namespace tarvo

@@ -35,15 +35,22 @@ Girador::Girador(QWidget *padre) : QAbstractSlider(padre) {
     });
 }
 
-void Girador::Acompanar(QLineEdit *campo, int minimo, int maximo, Tope tope) {
+void Girador::Acompanar(QLineEdit *campo, int minimo, int maximo) {
     campo_ = campo;
-    tope_ = tope;
     setRange(-maximo, -minimo);
     setAccessibleName(campo->accessibleName());
     connect(campo, &QLineEdit::textChanged, this, &Girador::Seguir);
     connect(this, &QAbstractSlider::valueChanged, campo,
             [this] { campo_->setText(QString::number(-value())); });
+    campo->installEventFilter(this);
+    setEnabled(campo->isEnabled());
     Seguir();
+}
+
+bool Girador::eventFilter(QObject *, QEvent *evento) {
+    if (evento->type() == QEvent::EnabledChange)
+        setEnabled(campo_->isEnabled());
+    return false;
 }
 
 void Girador::Seguir() {
@@ -52,13 +59,9 @@ void Girador::Seguir() {
     update();
 }
 
-bool Girador::Sube(qint64 numero) const {
-    return numero < -minimum() || (tope_ == Tope::SoloJusto && numero > -minimum());
-}
-
 void Girador::Paso(int paso) {
     const qint64 numero = NumeroDe(campo_->text());
-    if (paso > 0 ? Sube(numero) : numero > -maximum())
+    if (paso > 0 ? numero != -minimum() : numero > -maximum())
         campo_->setText(QString::number(numero + paso));
     Seguir();
 }

@@ -2,6 +2,7 @@
 
 #include "desktop/ventanas/filtrocampos.h"
 #include "desktop/ventanas/listavista.h"
+#include "desktop/ventanas/solocaracteres.h"
 #include "masterdata/ventanas/panelcategoria.h"
 #include "ui_fichaarticulos.h"
 

@@ -1,6 +1,6 @@
 #include "masterdata/ventanas/panelcategoria.h"
 
-#include "desktop/ventanas/filtrocampos.h"
+#include "desktop/ventanas/solocaracteres.h"
 #include "ui_panelcategoria.h"
 
 namespace tarvo {

@@ -5,6 +5,7 @@
 #include "desktop/ventanas/barrabusqueda.h"
 #include "desktop/ventanas/filtrocampos.h"
 #include "desktop/ventanas/iconos.h"
+#include "desktop/ventanas/solocaracteres.h"
 #include "documents/impresoras.h"
 #include "masterdata/ventanas/picclientes.h"
 #include "store/store.h"
@@ -84,7 +85,7 @@ void FrmVentas::PrepararControles() {
     ui_->LVArticulos->Mostrar(&venta_.Articulos());
     ui_->LVDetalle->Mostrar(&venta_.Detalle());
     ui_->LVDetalle->header()->setSectionsClickable(false); // lines stay in the order in which they were added
-    ui_->FSB1->Acompanar(ui_->txtCantidad, 1, kCantidadMayor, Girador::Tope::SoloJusto);
+    ui_->FSB1->Acompanar(ui_->txtCantidad, 1, kCantidadMayor);
     ui_->cmdAgregar->setIcon(IconoDe(QStringLiteral("agregar")));
     ui_->cmdQuitar->setIcon(IconoDe(QStringLiteral("quitar")));
     ui_->cmdCliente->setIcon(IconoDe(QStringLiteral("cliente")));

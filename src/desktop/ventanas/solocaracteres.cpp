@@ -1,0 +1,83 @@
+#include "desktop/ventanas/solocaracteres.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QToolTip>
+#include <QValidator>
+
+#include <algorithm>
+
+namespace tarvo {
+
+namespace {
+
+// What `nuevo` has between the longest beginning and the longest end that it shares with `antes`.
+QStringView Entrado(const QString &antes, const QString &nuevo) {
+    const qsizetype comun = std::min(antes.size(), nuevo.size());
+    qsizetype inicio = 0;
+    while (inicio < comun && antes[inicio] == nuevo[inicio])
+        ++inicio;
+    qsizetype final = 0;
+    while (final < comun - inicio && antes[antes.size() - 1 - final] == nuevo[nuevo.size() - 1 - final])
+        ++final;
+    return QStringView(nuevo).sliced(inicio, nuevo.size() - inicio - final);
+}
+
+// The field itself takes back whatever its validator finds invalid, before anybody is told of a change.
+class FiltroCaracteres final : public QValidator {
+  public:
+    FiltroCaracteres(QLineEdit *campo, const QString &permitidos)
+        : QValidator(campo), campo_(campo), permitidos_(permitidos), texto_(campo->text()) {
+        connect(campo, &QLineEdit::textChanged, this, [this](const QString &texto) { texto_ = texto; });
+        campo->installEventFilter(this);
+        campo->setValidator(this);
+    }
+
+    State validate(QString &nuevo, int &) const override {
+        const QStringView entrado = Entrado(texto_, nuevo);
+        if (EsDelPrograma() || std::ranges::all_of(entrado, [this](QChar c) { return Admite(c); }))
+            return Acceptable;
+        QApplication::beep();
+        QToolTip::showText(campo_->mapToGlobal(QPoint(0, campo_->height())), Motivo(), campo_);
+        return Invalid;
+    }
+
+  protected:
+    bool eventFilter(QObject *, QEvent *evento) override {
+        if (evento->type() != QEvent::KeyPress)
+            return false;
+        const auto *tecla = static_cast<QKeyEvent *>(evento);
+        if ((tecla->modifiers() & Qt::ControlModifier) != 0) // Ctrl+V is no letter
+            return false;
+        const QString texto = tecla->text();
+        return texto.size() == 1 && texto.front().isPrint() && !Admite(texto.front());
+    }
+
+  private:
+    bool Admite(QChar c) const { return permitidos_.contains(c); }
+    // A text that the program puts there leaves nothing to undo, one that undoing brings back can be redone;
+    // after any other change it is the other way round.
+    bool EsDelPrograma() const { return !campo_->isUndoAvailable() || campo_->isRedoAvailable(); }
+    QString Motivo() const {
+        QStringList signos;
+        for (const QChar c : permitidos_)
+            if (!c.isDigit())
+                signos << QStringLiteral("«%1»").arg(c);
+        signos.prepend(QStringLiteral("cifras"));
+        return QStringLiteral("No se agregó el texto: este campo sólo admite %1.")
+            .arg(signos.join(QStringLiteral(", ")));
+    }
+
+    QLineEdit *campo_;
+    QString permitidos_;
+    QString texto_; // before the change that is being judged
+};
+
+} // namespace
+
+void SoloCaracteres(QLineEdit *campo, const QString &permitidos) {
+    new FiltroCaracteres(campo, permitidos);
+}
+
+} // namespace tarvo
