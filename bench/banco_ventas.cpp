@@ -8,6 +8,7 @@
 
 #include "desktop/ventanas/listavista.h"
 #include "sales/ventanas/frmventas.h"
+#include "store/transaccion.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -67,9 +68,11 @@ class NuestraEmision {
             venta_.Agregar(linea * kPaso, 1);
     }
     void Emitir(int numero) {
-        GuardarVenta(bases_, venta_,
-                     {QStringLiteral("22/11/2026"), QStringLiteral("10:42"), QString::number(numero),
-                      vendedor_, venta_.CalcularTotales(), QString()});
+        Transaccion transaccion(bases_);
+        EscribirVenta(bases_, venta_,
+                      {QStringLiteral("22/11/2026"), QStringLiteral("10:42"), QString::number(numero),
+                       vendedor_, venta_.CalcularTotales(), QString()});
+        transaccion.Confirmar();
     }
 
   private:

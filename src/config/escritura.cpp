@@ -1,8 +1,7 @@
 #include "config/escritura.h"
 
-#include "desktop/preguntas.h"
+#include "desktop/almacenar.h"
 #include "store/store.h"
-#include "store/transaccion.h"
 
 namespace tarvo {
 
@@ -26,17 +25,11 @@ bool FilaUnica(Cursor &cursor) {
 }
 
 bool EscribirFilaUnica(const Servicios &servicios, Cursor &cursor, const std::function<void()> &escribir) {
-    try {
+    return Almacenar(servicios.frmBases, servicios.preguntas, {}, [&] {
         ComprobarFila(cursor);
-        Transaccion transaccion(servicios.frmBases);
         escribir();
         cursor.Refresh();
-        transaccion.Confirmar();
-        return true;
-    } catch (const ErrorDatos &error) {
-        servicios.preguntas.Mostrar(error.Descripcion(), Icono::Critico);
-        return false;
-    }
+    });
 }
 
 } // namespace tarvo

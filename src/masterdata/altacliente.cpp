@@ -1,19 +1,28 @@
 #include "masterdata/altacliente.h"
 
+#include "desktop/almacenar.h"
 #include "masterdata/reglascatalogos.h"
 #include "store/store.h"
-#include "store/transaccion.h"
 
 namespace tarvo {
 
-void GuardarClienteNuevo(FrmBases &frmBases, const QStringList &valores) {
-    Transaccion transaccion(frmBases);
+namespace {
+
+void Escribir(FrmBases &frmBases, const QStringList &valores) {
     frmBases.datClientes.AddNew();
     auto valor = valores.begin();
     for (const CampoDetalle &campo : CamposClientes(frmBases))
         *campo.campo = *valor++;
     frmBases.datClientes.Refresh();
-    transaccion.Confirmar();
+}
+
+} // namespace
+
+bool GuardarClienteNuevo(const Servicios &servicios, const QStringList &valores) {
+    return Almacenar(
+        servicios.frmBases, servicios.preguntas, Operacion{QStringLiteral("Cliente")} + valores,
+        [&] { Escribir(servicios.frmBases, valores); },
+        QStringLiteral("Los datos del cliente siguen en pantalla."));
 }
 
 } // namespace tarvo

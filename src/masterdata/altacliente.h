@@ -2,14 +2,14 @@
 // like it no check for a repeated code.
 #pragma once
 
+#include "desktop/servicios.h"
+
 #include <QStringList>
 
 namespace tarvo {
 
-class FrmBases;
-
-// Adds a customer with these texts, one per field of CamposClientes, as one transaction. Throws ErrorDatos;
-// then no row is written.
-void GuardarClienteNuevo(FrmBases &frmBases, const QStringList &valores);
+// Adds a customer with these texts, one per field of CamposClientes. False when it isn't stored: the operator
+// has been told, and it can be tried again.
+bool GuardarClienteNuevo(const Servicios &servicios, const QStringList &valores);
 
 } // namespace tarvo

@@ -170,7 +170,7 @@ bool ArticulosLogica::CategoriaValida(const QString &codigo, const QString &nomb
 void ArticulosLogica::GuardarCategoria(const QString &codigo, const QString &nombre) {
     if (!CategoriaValida(codigo, nombre))
         return;
-    const bool guardada = EnTransaccion([&] {
+    const bool guardada = EnTransaccion(QStringLiteral("categoría"), {codigo, nombre}, [&] {
         FrmBases &bases = frmBases();
         bases.datCategorias.AddNew();
         bases.camCatCodigo = codigo;

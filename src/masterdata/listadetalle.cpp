@@ -1,10 +1,10 @@
 #include "masterdata/listadetalle.h"
 
+#include "desktop/almacenar.h"
 #include "desktop/anfitrion.h"
 #include "desktop/preguntas.h"
 #include "store/errordatos.h"
 #include "store/store.h"
-#include "store/transaccion.h"
 
 #include <algorithm>
 #include <cstring>
@@ -230,16 +230,17 @@ bool ListaDetalle::Buscar(const QString &texto, const std::vector<bool> &marcada
 
 // --- writing
 
-bool ListaDetalle::EnTransaccion(const std::function<void()> &escribir) {
-    try {
-        Transaccion transaccion(frmBases_);
-        escribir();
-        transaccion.Confirmar();
-        return true;
-    } catch (const ErrorDatos &error) {
-        preguntas_.Mostrar(error.Descripcion(), Icono::Critico);
-        return false;
-    }
+bool ListaDetalle::EnTransaccion(const QString &accion, const QStringList &textos,
+                                 const std::function<void()> &escribir) {
+    const Operacion operacion{QLatin1String(reglas_.cursor.Tabla()), accion, idMostrado_};
+    return Almacenar(frmBases_, preguntas_, operacion + textos, escribir);
+}
+
+QStringList ListaDetalle::Textos() const {
+    QStringList textos;
+    for (std::size_t i = 0; i < reglas_.campos.size(); ++i)
+        textos << vista_.Texto(static_cast<int>(i));
+    return textos;
 }
 
 bool ListaDetalle::RequeridosLlenos() {
@@ -261,7 +262,7 @@ void ListaDetalle::Guardar() {
     if (!nueva && !preguntas_.Confirma(reglas_.preguntaModificar, Respuesta::No))
         return;
     const int fila = nueva ? -1 : FilaMostrada();
-    if (HayDuplicado(fila) || !EnTransaccion([this] { EscribirFila(); }))
+    if (HayDuplicado(fila) || !EnTransaccion(QStringLiteral("guardar"), Textos(), [this] { EscribirFila(); }))
         return;
     if (nueva)
         TrasAgregar();
@@ -380,7 +381,7 @@ void ListaDetalle::Eliminar() {
     }
     if (!preguntas_.Confirma(reglas_.preguntaEliminar, Respuesta::No))
         return;
-    if (!EnTransaccion([this] { QuitarFila(); }))
+    if (!EnTransaccion(QStringLiteral("eliminar"), {}, [this] { QuitarFila(); }))
         return;
     if (reglas_.eliminarApagaExportar)
         Exportar(false);

@@ -134,7 +134,9 @@ class ListaDetalle {
     VistaDetalle &vista() { return vista_; }
     const VistaDetalle &vista() const { return vista_; }
     // Runs `escribir` as one transaction. False when it failed; the operator was told why.
-    bool EnTransaccion(const std::function<void()> &escribir);
+    // Stores what `escribir` writes (see Almacenar); `accion` and `textos` name the operation.
+    bool EnTransaccion(const QString &accion, const QStringList &textos,
+                       const std::function<void()> &escribir);
     void PonerBotones(const Botones &botones);
 
   private:
@@ -147,6 +149,7 @@ class ListaDetalle {
     int FilaMostrada() const;
     bool HayDuplicado(int filaPropia);
     const PruebaDuplicado *DuplicadoEn(int fila) const;
+    QStringList Textos() const;
     void EscribirFila();
     void QuitarFila();
     void TrasModificar(int fila);

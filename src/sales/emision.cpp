@@ -1,10 +1,10 @@
 #include "sales/emision.h"
 
+#include "desktop/almacenar.h"
 #include "desktop/preguntas.h"
 #include "documents/impresoras.h"
 #include "store/errordatos.h"
 #include "store/store.h"
-#include "store/transaccion.h"
 
 #include <exception>
 
@@ -45,16 +45,23 @@ void EscribirStock(FrmBases &bases, const Venta &venta) {
     bases.datArticulos.Refresh();
 }
 
+// The sale without its time, which goes on between two tries.
+Operacion OperacionDe(const Venta &venta, const DatosComprobante &comprobante) {
+    Operacion operacion{QStringLiteral("Venta"), DescripcionFactura(venta.pago()),
+                        venta.Cliente().id,      comprobante.numComp,
+                        comprobante.vendedor,    comprobante.totales.conDescuento};
+    const ListaTexto &detalle = venta.Detalle();
+    for (int fila = 0; fila < detalle.Filas(); ++fila)
+        operacion << detalle.Celda(fila, linea::IdArticulo) << detalle.Celda(fila, linea::Cantidad)
+                  << detalle.Celda(fila, linea::Subtotal);
+    return operacion;
+}
+
 bool IntentarGuardar(const Servicios &servicios, const Venta &venta, const DatosComprobante &comprobante) {
-    try {
-        GuardarVenta(servicios.frmBases, venta, comprobante);
-        return true;
-    } catch (const ErrorDatos &error) {
-        servicios.preguntas.Mostrar(error.Descripcion() +
-                                        QStringLiteral("\n\nLa venta sigue en pantalla, sin cambios."),
-                                    Icono::Critico);
-        return false;
-    }
+    return Almacenar(
+        servicios.frmBases, servicios.preguntas, OperacionDe(venta, comprobante),
+        [&] { EscribirVenta(servicios.frmBases, venta, comprobante); },
+        QStringLiteral("La venta sigue en pantalla, sin cambios."));
 }
 
 void OfrecerTicket(const Servicios &servicios, const Venta &venta, const DatosComprobante &comprobante) {
@@ -79,11 +86,9 @@ QString DescripcionFactura(Pago pago) {
     return pago == Pago::Contado ? QStringLiteral("Factura contado") : QStringLiteral("Factura crédito");
 }
 
-void GuardarVenta(FrmBases &frmBases, const Venta &venta, const DatosComprobante &comprobante) {
-    Transaccion transaccion(frmBases);
+void EscribirVenta(FrmBases &frmBases, const Venta &venta, const DatosComprobante &comprobante) {
     EscribirDocumento(frmBases, venta, comprobante);
     EscribirStock(frmBases, venta);
-    transaccion.Confirmar();
 }
 
 Comprobante HacerComprobante(const Venta &venta, const DatosComprobante &datos) {

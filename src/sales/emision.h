@@ -37,8 +37,8 @@ enum class ResultadoEmision {
 ResultadoEmision Emitir(const Servicios &servicios, const Venta &venta,
                         const std::function<DatosComprobante()> &leer);
 
-// The writing alone. Throws ErrorDatos; then nothing of it is in the files.
-void GuardarVenta(FrmBases &frmBases, const Venta &venta, const DatosComprobante &comprobante);
+// The writing alone, inside the transaction that is open.
+void EscribirVenta(FrmBases &frmBases, const Venta &venta, const DatosComprobante &comprobante);
 
 // What paper shows of the sale. A custom tax in use that has no name is called "Impuesto".
 Comprobante HacerComprobante(const Venta &venta, const DatosComprobante &datos);

@@ -6,6 +6,7 @@
 #pragma once
 
 #include "store/errordatos.h"
+#include "store/transaccion.h"
 
 #include <SQLiteCpp/SQLiteCpp.h>
 #include <sqlite3.h>
@@ -14,6 +15,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -30,8 +32,9 @@ ErrorDatos ErrorEscritura(int codigo, const char *mensaje);
 struct Escritura {
     Cursor *cursor = nullptr;
     std::int64_t id = 0;
+    bool nueva = false;
     bool borrada = false;
-    std::vector<std::pair<std::string, std::string>> valores; // column name, text
+    std::vector<std::pair<std::string, std::string>> valores{}; // column name, text
 };
 
 class Conexion {
@@ -58,8 +61,10 @@ class Conexion {
 
     // --- transactions
     bool EnTransaccion() const { return abierta_; }
-    void Empezar();
-    // A COMMIT that reports an error counts as done when the files hold all of the transaction's writes.
+    // Asks first what became of a transaction that is in doubt: throws OperacionAnterior, kSinComprobar.
+    void Empezar(const Operacion &operacion);
+    // A COMMIT that reports an error counts as done when the files hold all of the transaction's writes; when
+    // they can't be read, it is in doubt (kSinComprobar).
     void Confirmar();
     // Takes everything back. Cursors that wrote forget their copy, all cursors lose pending edits.
     void Deshacer() noexcept;
@@ -80,13 +85,20 @@ class Conexion {
     struct Finalizar {
         void operator()(sqlite3_stmt *sentencia) const { sqlite3_finalize(sentencia); }
     };
+    // A transaction whose COMMIT failed and whose rows could not be read since: what they hold if it stands.
+    struct Duda {
+        Operacion operacion;
+        std::vector<Escritura> filas;
+    };
     using Sentencia = std::unique_ptr<sqlite3_stmt, Finalizar>;
 
     Sentencia Preparar(const std::string &sql);
     void Asegurar(const QString &archivo, const char *esquema);
     std::string Pragma(const char *esquema, const char *texto);
     void Romper(bool propia) noexcept;
-    bool Consta();
+    void Juzgar(const ErrorDatos &fallo);
+    void Resolver(const Operacion &operacion);
+    bool Constan(const std::vector<Escritura> &filas);
     bool ConstaFila(const Escritura &fila);
     std::vector<Escritura> EstadoFinal() const;
 
@@ -94,6 +106,8 @@ class Conexion {
     std::map<std::string, std::unique_ptr<SQLite::Statement>> preparadas_;
     std::vector<Cursor *> cursores_;
     std::vector<Escritura> escrituras_;
+    Operacion operacion_; // of the open transaction
+    std::optional<Duda> duda_;
     bool abierta_ = false;
     bool rota_ = false; // a write failed: what was written is gone, and nothing may follow it
 };

@@ -152,6 +152,10 @@ void Cursor::CargarPosiciones(const std::vector<int> &posiciones) {
         d_->memoria.Cargar(*conexion_, posiciones);
 }
 
+void Cursor::RecordarId(std::int64_t id) {
+    d_->ultimoId = QString::number(id);
+}
+
 QString Cursor::UltimoId() const {
     return d_->ultimoId;
 }
@@ -188,7 +192,7 @@ void Cursor::Delete() {
         const std::int64_t id = d_->memoria.Id(d_->fila);
         conexion_->Ejecutar("DELETE FROM " + NombreCompleto() + " WHERE id=?", {}, id);
         d_->memoria.Quitar(d_->fila);
-        return Escritura{this, id, true, {}};
+        return Escritura{.cursor = this, .id = id, .borrada = true};
     });
 }
 
@@ -202,7 +206,7 @@ void Cursor::Guardar() {
 }
 
 void Cursor::GuardarNueva() {
-    Escritura escritura{this, 0, false, {}};
+    Escritura escritura{.cursor = this, .nueva = true};
     std::string columnas;
     std::string lugares;
     for (const auto &[posicion, texto] : d_->pendientes) {
@@ -213,20 +217,18 @@ void Cursor::GuardarNueva() {
     }
     const std::string valores =
         columnas.empty() ? " DEFAULT VALUES" : "(" + columnas + ") VALUES(" + lugares + ")";
-    QString id;
     conexion_->Escribir([&] {
         conexion_->Ejecutar("INSERT INTO " + NombreCompleto() + valores, escritura.valores, 0);
         escritura.id = conexion_->UltimoId();
         d_->memoria.Insertar(escritura.id, d_->pendientes);
-        id = QString::number(escritura.id);
         return escritura;
     });
     DescartarEdicion();
-    d_->ultimoId = id;
+    RecordarId(escritura.id);
 }
 
 void Cursor::GuardarEdicion() {
-    Escritura escritura{this, d_->memoria.Id(d_->fila), false, {}};
+    Escritura escritura{.cursor = this, .id = d_->memoria.Id(d_->fila)};
     std::string asignaciones;
     for (const auto &[posicion, texto] : d_->pendientes) {
         const char *nombre = d_->memoria.Nombres()[static_cast<std::size_t>(posicion)];

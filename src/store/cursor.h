@@ -101,6 +101,8 @@ class Cursor {
     // Checks that the table and all columns are there; throws ErrorDatos(kBaseIlegible) else.
     void Abrir(Conexion &conexion);
     void Cerrar();
+    // What UltimoId tells from now on.
+    void RecordarId(std::int64_t id);
     // Forgets the copy in memory and the pending edit: what is read next comes from the file.
     void Invalidar();
     // Commits a pending edit of an existing row; a pending new row is dropped.

@@ -55,6 +55,13 @@ QString ErrorDatos::Motivo() const {
     return texto.startsWith(sujeto) ? texto.mid(sujeto.size()) : texto;
 }
 
+OperacionAnterior::OperacionAnterior(bool misma)
+    : ErrorDatos(errores::kEscritura,
+                 QStringLiteral("La operación anterior, que no se había podido comprobar, quedó guardada. ") +
+                     (misma ? QStringLiteral("No se escribió nada más.")
+                            : QStringLiteral("La de ahora no se escribió: repítala si hace falta."))),
+      misma_(misma) {}
+
 ErrorDatos ErrorLectura(int codigo, const char *mensaje) {
     if (Ocupada(codigo))
         return Bloqueada();

@@ -18,6 +18,7 @@ constexpr int kBaseBloqueada = 3008;
 constexpr int kBaseNoEncontrada = 3024;
 constexpr int kBaseIlegible = 3049; // not a database, damaged, a table or column is missing
 constexpr int kEscritura = 3027;    // the disk refused a write: full, read-only, input/output error
+constexpr int kSinComprobar = 3146; // a COMMIT failed, and whether it happened can't be read yet
 constexpr int kIndice = 3015;       // Index with a name that the table doesn't have, or Seek without Index
 constexpr int kSinRegistro = 3021;  // a field was written while no row is current
 constexpr int kDialogoCancelado = 32755;
@@ -40,6 +41,18 @@ class ErrorDatos : public std::runtime_error {
     int numero_;
     QString descripcion_;
     QString motivo_;
+};
+
+// An earlier transaction whose COMMIT could not be judged turns out to be in the files; the one that was to
+// begin has written nothing.
+class OperacionAnterior : public ErrorDatos {
+  public:
+    // `misma`: the operation that was to begin is that earlier one, tried again as it was.
+    explicit OperacionAnterior(bool misma);
+    bool EsLaMisma() const { return misma_; }
+
+  private:
+    bool misma_;
 };
 
 } // namespace tarvo

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <sqlite3.h>
+#include <utility>
 
 namespace tarvo {
 
@@ -21,17 +22,34 @@ ErrorDatos Perdida() {
 
 } // namespace
 
-void Conexion::Empezar() {
+void Conexion::Empezar(const Operacion &operacion) {
     if (abierta_)
         throw ErrorDatos(errores::kEscritura, QStringLiteral("Ya hay una transacción abierta."));
+    Resolver(operacion);
     try {
         // Deferred: the locks are held anyway, and only files that are written then take part in the commit.
         Ejecutar("BEGIN", {}, 0);
     } catch (const SQLite::Exception &error) {
         throw ErrorEscritura(error);
     }
+    operacion_ = operacion;
     abierta_ = true;
     rota_ = false;
+}
+
+// Asks again what became of a transaction in doubt. When it stands, its new rows are the last ones of their
+// cursors, so that its window can go on as after success.
+void Conexion::Resolver(const Operacion &operacion) {
+    if (!duda_)
+        return;
+    const bool consta = Constan(duda_->filas);
+    const Duda duda = *std::exchange(duda_, std::nullopt);
+    if (!consta)
+        return;
+    for (const Escritura &fila : duda.filas)
+        if (fila.nueva && !fila.borrada)
+            fila.cursor->RecordarId(fila.id);
+    throw OperacionAnterior(!operacion.isEmpty() && operacion == duda.operacion);
 }
 
 void Conexion::Confirmar() {
@@ -45,13 +63,25 @@ void Conexion::Confirmar() {
         const ErrorDatos fallo = ErrorEscritura(error);
         if (sqlite3_get_autocommit(base_.getHandle()) == 0)
             base_.tryExec("ROLLBACK");
-        if (!Consta()) {
-            Deshacer();
-            throw fallo;
-        }
+        Juzgar(fallo);
     }
     escrituras_.clear();
     abierta_ = false;
+}
+
+// After a COMMIT that failed: returns when it has happened all the same.
+void Conexion::Juzgar(const ErrorDatos &fallo) {
+    std::vector<Escritura> filas = EstadoFinal();
+    try {
+        if (Constan(filas))
+            return;
+    } catch (const ErrorDatos &) {
+        duda_ = {operacion_, std::move(filas)};
+        Deshacer();
+        throw;
+    }
+    Deshacer();
+    throw fallo;
 }
 
 void Conexion::Deshacer() noexcept {
@@ -91,7 +121,7 @@ void Conexion::Escribir(const std::function<Escritura()> &accion) {
         throw Perdida();
     const bool propia = !abierta_;
     if (propia)
-        Empezar();
+        Empezar({});
     try {
         escrituras_.push_back(accion());
     } catch (const SQLite::Exception &error) {
@@ -119,7 +149,7 @@ std::vector<Escritura> Conexion::EstadoFinal() const {
         const auto misma = [&e](const Escritura &f) { return f.cursor == e.cursor && f.id == e.id; };
         auto fila = std::find_if(filas.begin(), filas.end(), misma);
         if (fila == filas.end())
-            fila = filas.insert(filas.end(), Escritura{e.cursor, e.id, false, {}});
+            fila = filas.insert(filas.end(), Escritura{.cursor = e.cursor, .id = e.id, .nueva = e.nueva});
         fila->borrada = fila->borrada || e.borrada;
         for (const auto &[columna, texto] : e.valores) {
             std::erase_if(fila->valores, [&c = columna](const auto &v) { return v.first == c; });
@@ -150,16 +180,14 @@ bool Conexion::ConstaFila(const Escritura &fila) {
     return fila.borrada ? !existe : existe && igual;
 }
 
-bool Conexion::Consta() {
+bool Conexion::Constan(const std::vector<Escritura> &filas) {
     try {
-        const std::vector<Escritura> filas = EstadoFinal();
         return std::all_of(filas.begin(), filas.end(), [this](const Escritura &f) { return ConstaFila(f); });
     } catch (const ErrorDatos &) {
-        Deshacer();
         throw ErrorDatos(
-            errores::kEscritura,
+            errores::kSinComprobar,
             QStringLiteral("No se pudo escribir en la base de datos ni comprobar si los cambios quedaron "
-                           "guardados. Compruébelo antes de repetir la operación."));
+                           "guardados. Se comprobará antes de escribir otra vez."));
     }
 }
 

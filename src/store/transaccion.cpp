@@ -5,10 +5,10 @@
 
 namespace tarvo {
 
-Transaccion::Transaccion(FrmBases &bases) : bases_(bases) {
+Transaccion::Transaccion(FrmBases &bases, const Operacion &operacion) : bases_(bases) {
     if (!bases_.conexion_)
         throw ErrorDatos(errores::kEscritura, QStringLiteral("La base de datos está cerrada."));
-    bases_.conexion_->Empezar();
+    bases_.conexion_->Empezar(operacion);
 }
 
 Transaccion::~Transaccion() {

@@ -3,7 +3,6 @@
 #include "desktop/preguntas.h"
 #include "masterdata/altacliente.h"
 #include "masterdata/reglascatalogos.h"
-#include "store/errordatos.h"
 #include "ui_fichaclientes.h"
 #include "ui_picnuevocliente.h"
 
@@ -57,14 +56,8 @@ void PicNuevoCliente::Guardar() {
     QStringList valores;
     for (const QLineEdit *campo : campos_)
         valores += campo->text();
-    try {
-        GuardarClienteNuevo(servicios_.frmBases, valores);
-    } catch (const ErrorDatos &error) {
-        servicios_.preguntas.Mostrar(error.Descripcion() +
-                                         QStringLiteral("\n\nLos datos del cliente siguen en pantalla."),
-                                     Icono::Critico);
+    if (!GuardarClienteNuevo(servicios_, valores))
         return;
-    }
     emit Guardado();
     Cerrar();
 }
