@@ -18,12 +18,6 @@ void ComprobarFila(Cursor &cursor) {
 
 } // namespace
 
-bool FilaUnica(Cursor &cursor) {
-    if (!cursor.HayFila() && cursor.RecordCount() > 0)
-        cursor.MoveFirst();
-    return cursor.HayFila();
-}
-
 bool EscribirFilaUnica(const Servicios &servicios, Cursor &cursor, const std::function<void()> &escribir) {
     return Almacenar(servicios.frmBases, servicios.preguntas, {}, [&] {
         ComprobarFila(cursor);

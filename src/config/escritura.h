@@ -11,9 +11,6 @@ namespace tarvo {
 
 class Cursor;
 
-// Makes the only row of a one-row table current. False when the table is closed or has lost its row.
-bool FilaUnica(Cursor &cursor);
-
 // What `leer` gives, or an empty value when the table can't be read.
 template <typename Leer> auto LeerCallando(Leer leer) -> decltype(leer()) {
     try {

@@ -20,10 +20,8 @@ double SumarColumna(const ListaTexto &detalle, int columna, const Moneda &moneda
 ImpuestoPersonalizado LeerImpuesto(FrmBases &frmBases) {
     ImpuestoPersonalizado impuesto;
     try {
-        if (frmBases.datImpuesto.RecordCount() == 0)
+        if (!FilaUnica(frmBases.datImpuesto))
             return impuesto;
-        if (!frmBases.datImpuesto.HayFila())
-            frmBases.datImpuesto.MoveFirst();
         impuesto.utilizar = frmBases.camImpUtilizar.Es(std::string_view("Si"));
         impuesto.nombre = frmBases.camImpNombre.Texto();
         impuesto.porcentaje = frmBases.moneda().Numero(frmBases.camImpPorcentaje.Utf8());

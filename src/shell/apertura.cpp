@@ -1,5 +1,8 @@
 #include "shell/apertura.h"
 
+#include <QDir>
+#include <QFileInfo>
+
 namespace tarvo {
 
 QString MensajeBloqueada() {
@@ -14,6 +17,22 @@ QString AvisoApertura(const ResultadoApertura &resultado) {
     if (resultado.archivo.isEmpty())
         return QStringLiteral("No se pudieron abrir los datos: %1").arg(resultado.motivo);
     return QStringLiteral("No se pudo abrir %1: %2").arg(resultado.archivo, resultado.motivo);
+}
+
+QString AvisoLugar(const QString &datos, const QString &carpetaPrograma) {
+    const QString lugar = QFileInfo(datos).canonicalFilePath();
+    if (lugar == QFileInfo(carpetaPrograma).canonicalFilePath() + QStringLiteral("/Datos"))
+        return {};
+    return QStringLiteral("Datos en %1").arg(QDir::toNativeSeparators(lugar));
+}
+
+QString AvisoDano(const QString &archivo, const QString &motivo) {
+    return QStringLiteral("No se pudo leer %1: %2").arg(archivo, motivo);
+}
+
+QString UnirAvisos(QStringList avisos) {
+    avisos.removeAll(QString());
+    return avisos.join(QStringLiteral("   "));
 }
 
 } // namespace tarvo

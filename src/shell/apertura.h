@@ -9,5 +9,11 @@ namespace tarvo {
 QString MensajeBloqueada();
 // Hint of the status bar when some tables could not be opened; empty when all could.
 QString AvisoApertura(const ResultadoApertura &resultado);
+// Hint of the status bar when the folder `datos` is not the one in the program's folder itself; empty else.
+QString AvisoLugar(const QString &datos, const QString &carpetaPrograma);
+// Hint of the status bar for a file that a read found damaged.
+QString AvisoDano(const QString &archivo, const QString &motivo);
+// The hints that are not empty, one behind the other.
+QString UnirAvisos(QStringList avisos);
 
 } // namespace tarvo

@@ -142,6 +142,23 @@ Conexion::Sentencia Conexion::Preparar(const std::string &sql) {
     return Sentencia(sentencia);
 }
 
+QString Conexion::Archivo(const char *esquema) const {
+    return QFileInfo(QString::fromUtf8(sqlite3_db_filename(base_.getHandle(), esquema))).fileName();
+}
+
+void Conexion::Danar(const char *esquema, const QString &motivo) {
+    const bool nuevo = danos_.try_emplace(esquema, motivo).second;
+    if (nuevo && alDanarse_)
+        alDanarse_(Archivo(esquema), motivo);
+}
+
+void Conexion::ExigirSano(const char *esquema) const {
+    const auto dano = danos_.find(esquema);
+    if (dano != danos_.end())
+        throw ErrorDatos(errores::kBaseDanada,
+                         QStringLiteral("No se pudo escribir en %1: %2").arg(Archivo(esquema), dano->second));
+}
+
 void Conexion::Baja(Cursor &cursor) {
     cursores_.erase(std::remove(cursores_.begin(), cursores_.end(), &cursor), cursores_.end());
 }

@@ -60,7 +60,6 @@ class Conexion {
     }
 
     // --- transactions
-    bool EnTransaccion() const { return abierta_; }
     // Asks first what became of a transaction that is in doubt: throws OperacionAnterior, kSinComprobar.
     void Empezar(const Operacion &operacion);
     // A COMMIT that reports an error counts as done when the files hold all of the transaction's writes; when
@@ -73,8 +72,17 @@ class Conexion {
                   std::int64_t id);
     // Runs `accion`, which writes, in the open transaction or in one of its own. When it fails, the whole
     // transaction is taken back, nothing more is written in it, and an ErrorDatos is thrown.
-    void Escribir(const std::function<Escritura()> &accion);
+    // A file that a read has found damaged takes no more writes: kBaseDanada.
+    void Escribir(const char *esquema, const std::function<Escritura()> &accion);
+    // Runs a statement that makes a table, in a transaction of its own.
+    void Crear(const char *sql);
     std::int64_t UltimoId() const { return base_.getLastInsertRowid(); }
+
+    // --- damage: a read of `esquema` failed for `motivo`; told once for each file
+    void AlDanarse(std::function<void(const QString &archivo, const QString &motivo)> avisar) {
+        alDanarse_ = std::move(avisar);
+    }
+    void Danar(const char *esquema, const QString &motivo);
 
     void Alta(Cursor &cursor) { cursores_.push_back(&cursor); }
     void Baja(Cursor &cursor);
@@ -101,6 +109,9 @@ class Conexion {
     bool Constan(const std::vector<Escritura> &filas);
     bool ConstaFila(const Escritura &fila);
     std::vector<Escritura> EstadoFinal() const;
+    void ReabrirDiarios();
+    void ExigirSano(const char *esquema) const;
+    QString Archivo(const char *esquema) const;
 
     SQLite::Database base_;
     std::map<std::string, std::unique_ptr<SQLite::Statement>> preparadas_;
@@ -109,6 +120,9 @@ class Conexion {
     Operacion operacion_; // of the open transaction
     std::optional<Duda> duda_;
     bool abierta_ = false;
+    bool diariosDudosos_ = false; // a write failed: the engine may hold a journal that it can't write
+    std::map<std::string, QString> danos_; // schema, reason
+    std::function<void(const QString &, const QString &)> alDanarse_;
     bool rota_ = false; // a write failed: what was written is gone, and nothing may follow it
 };
 

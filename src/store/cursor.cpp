@@ -68,7 +68,7 @@ std::int64_t Cursor::Filas() {
     if (!conexion_)
         return 0;
     if (!d_->memoria.ConIds())
-        d_->memoria.Cargar(*conexion_, {});
+        CargarPosiciones({});
     return d_->memoria.Filas();
 }
 
@@ -148,8 +148,15 @@ void Cursor::Cargar(const std::vector<const Campo *> &campos) {
 }
 
 void Cursor::CargarPosiciones(const std::vector<int> &posiciones) {
-    if (conexion_)
+    if (!conexion_)
+        return;
+    try {
         d_->memoria.Cargar(*conexion_, posiciones);
+    } catch (const ErrorDatos &error) {
+        if (error.Numero() == errores::kBaseDanada)
+            conexion_->Danar(esquema_, error.Motivo());
+        throw;
+    }
 }
 
 void Cursor::RecordarId(std::int64_t id) {
@@ -188,7 +195,7 @@ void Cursor::Delete() {
         return;
     }
     DescartarEdicion();
-    conexion_->Escribir([this] {
+    conexion_->Escribir(esquema_, [this] {
         const std::int64_t id = d_->memoria.Id(d_->fila);
         conexion_->Ejecutar("DELETE FROM " + NombreCompleto() + " WHERE id=?", {}, id);
         d_->memoria.Quitar(d_->fila);
@@ -217,7 +224,7 @@ void Cursor::GuardarNueva() {
     }
     const std::string valores =
         columnas.empty() ? " DEFAULT VALUES" : "(" + columnas + ") VALUES(" + lugares + ")";
-    conexion_->Escribir([&] {
+    conexion_->Escribir(esquema_, [&] {
         conexion_->Ejecutar("INSERT INTO " + NombreCompleto() + valores, escritura.valores, 0);
         escritura.id = conexion_->UltimoId();
         d_->memoria.Insertar(escritura.id, d_->pendientes);
@@ -235,13 +242,19 @@ void Cursor::GuardarEdicion() {
         escritura.valores.emplace_back(nombre, texto);
         asignaciones += std::string(asignaciones.empty() ? "\"" : ",\"") + nombre + "\"=?";
     }
-    conexion_->Escribir([&] {
+    conexion_->Escribir(esquema_, [&] {
         conexion_->Ejecutar("UPDATE " + NombreCompleto() + " SET " + asignaciones + " WHERE id=?",
                             escritura.valores, escritura.id);
         d_->memoria.Cambiar(d_->fila, d_->pendientes);
         return escritura;
     });
     DescartarEdicion();
+}
+
+bool FilaUnica(Cursor &cursor) {
+    if (!cursor.HayFila() && cursor.RecordCount() > 0)
+        cursor.MoveFirst();
+    return cursor.HayFila();
 }
 
 } // namespace tarvo

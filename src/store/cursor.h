@@ -90,7 +90,6 @@ class Cursor {
 
     bool Abierto() const { return conexion_ != nullptr; }
     bool HayFila() const;
-    bool FilaNueva() const { return nueva_; }
     // The `id` that the engine gave to the row that this cursor committed last; empty before the first.
     QString UltimoId() const;
     // Loads these columns in one pass over the table, as far as they aren't in memory yet.
@@ -131,6 +130,9 @@ class Cursor {
     bool nueva_ = false;
     std::unique_ptr<Datos> d_;
 };
+
+// Makes the row of a one-row table current. False when the table is closed or has lost its row.
+bool FilaUnica(Cursor &cursor);
 
 // The walk: from the first row until `cumple` is true, which leaves that row current. False when no row
 // matches.

@@ -65,8 +65,10 @@ OperacionAnterior::OperacionAnterior(bool misma)
 ErrorDatos ErrorLectura(int codigo, const char *mensaje) {
     if (Ocupada(codigo))
         return Bloqueada();
-    return Error(errores::kBaseIlegible, QStringLiteral("No se pudo leer la base de datos"),
-                 Motivo(codigo, mensaje));
+    const int clase = codigo & 0xff;
+    const bool danada = clase == SQLITE_CORRUPT || clase == SQLITE_NOTADB;
+    return Error(danada ? errores::kBaseDanada : errores::kBaseIlegible,
+                 QStringLiteral("No se pudo leer la base de datos"), Motivo(codigo, mensaje));
 }
 
 ErrorDatos ErrorEscritura(int codigo, const char *mensaje) {

@@ -26,6 +26,7 @@ void Conexion::Empezar(const Operacion &operacion) {
     if (abierta_)
         throw ErrorDatos(errores::kEscritura, QStringLiteral("Ya hay una transacción abierta."));
     Resolver(operacion);
+    ReabrirDiarios();
     try {
         // Deferred: the locks are held anyway, and only files that are written then take part in the commit.
         Ejecutar("BEGIN", {}, 0);
@@ -35,6 +36,25 @@ void Conexion::Empezar(const Operacion &operacion) {
     operacion_ = operacion;
     abierta_ = true;
     rota_ = false;
+}
+
+// A journal that could not be opened for writing once stays so in the engine's hands; leaving the journal's
+// mode and coming back makes it let go of the file. The read plays back what a transaction may have left in
+// it.
+void Conexion::ReabrirDiarios() {
+    if (!diariosDudosos_)
+        return;
+    std::vector<std::string> esquemas;
+    Recorrer("PRAGMA database_list", [&esquemas](sqlite3_stmt *fila) {
+        esquemas.emplace_back(reinterpret_cast<const char *>(sqlite3_column_text(fila, 1)));
+    });
+    for (const std::string &esquema : esquemas) {
+        Recorrer("SELECT count(*) FROM " + esquema + ".sqlite_schema", [](sqlite3_stmt *) {});
+        Pragma(esquema.c_str(), "journal_mode=OFF");
+        if (Pragma(esquema.c_str(), "journal_mode=TRUNCATE") != "truncate")
+            throw tarvo::ErrorEscritura(SQLITE_CANTOPEN, "");
+    }
+    diariosDudosos_ = false;
 }
 
 // Asks again what became of a transaction in doubt. When it stands, its new rows are the last ones of their
@@ -61,6 +81,7 @@ void Conexion::Confirmar() {
         Ejecutar("COMMIT", {}, 0);
     } catch (const SQLite::Exception &error) {
         const ErrorDatos fallo = ErrorEscritura(error);
+        diariosDudosos_ = true;
         if (sqlite3_get_autocommit(base_.getHandle()) == 0)
             base_.tryExec("ROLLBACK");
         Juzgar(fallo);
@@ -116,16 +137,31 @@ void Conexion::Ejecutar(const std::string &sql,
     sentencia->exec();
 }
 
-void Conexion::Escribir(const std::function<Escritura()> &accion) {
+void Conexion::Crear(const char *sql) {
+    Empezar({});
+    try {
+        Ejecutar(sql, {}, 0);
+    } catch (const SQLite::Exception &error) {
+        const ErrorDatos fallo = ErrorEscritura(error);
+        diariosDudosos_ = true;
+        Deshacer();
+        throw fallo;
+    }
+    Confirmar();
+}
+
+void Conexion::Escribir(const char *esquema, const std::function<Escritura()> &accion) {
     if (rota_)
         throw Perdida();
     const bool propia = !abierta_;
     if (propia)
         Empezar({});
     try {
+        ExigirSano(esquema);
         escrituras_.push_back(accion());
     } catch (const SQLite::Exception &error) {
         const ErrorDatos fallo = ErrorEscritura(error);
+        diariosDudosos_ = true;
         Romper(propia);
         throw fallo;
     } catch (...) {

@@ -9,7 +9,11 @@
 #include <QLocale>
 #include <QTemporaryDir>
 
+#include <algorithm>
 #include <cstdio>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <unistd.h>
 
 namespace tarvo {
 
@@ -33,8 +37,63 @@ void Llenar(const QString &carpeta) {
     Sincronizar(carpeta);
 }
 
+// One first start at a time in a folder: another one waits for its end. The lock goes with the process.
+class Turno {
+  public:
+    explicit Turno(const QString &carpeta)
+        : carpeta_(::open(QFile::encodeName(carpeta).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)),
+          solo_(carpeta_ >= 0 && ::flock(carpeta_, LOCK_EX) == 0) {}
+    ~Turno() {
+        if (carpeta_ >= 0)
+            ::close(carpeta_);
+    }
+    Turno(const Turno &) = delete;
+    Turno &operator=(const Turno &) = delete;
+    // False where the system can't lock a folder.
+    bool Solo() const { return solo_; }
+
+  private:
+    int carpeta_;
+    bool solo_;
+};
+
+QByteArray Contenido(const QString &ruta) {
+    QFile archivo(ruta);
+    return archivo.open(QIODevice::ReadOnly) ? archivo.readAll() : QByteArray();
+}
+
+// Is this what a first start has left half done: nothing but templates and copies of them, whole or in part?
+// A folder of the operator whose name happens to look the same is none.
+bool EsResto(const QDir &carpeta) {
+    const QDir::Filters todo = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
+    const QFileInfoList entradas = carpeta.entryInfoList(todo);
+    return std::all_of(entradas.begin(), entradas.end(), [&carpeta](const QFileInfo &entrada) {
+        const QString nombre = entrada.fileName();
+        if (entrada.isDir())
+            return nombre == QLatin1String("vacio");
+        return nombre.startsWith(QLatin1String("qt_temp.")) || // a copy that was being made
+               Contenido(carpeta.filePath(QStringLiteral("vacio/") + nombre))
+                   .startsWith(Contenido(entrada.filePath()));
+    });
+}
+
+void QuitarRestos(const QString &carpeta) {
+    const QFileInfoList restos =
+        QDir(carpeta).entryInfoList({QStringLiteral("Datos.??????")}, QDir::Dirs | QDir::NoSymLinks);
+    for (const QFileInfo &resto : restos) {
+        QDir carpetaResto(resto.filePath());
+        if (EsResto(carpetaResto))
+            carpetaResto.removeRecursively();
+    }
+}
+
 // Makes `Datos` in a folder that has none: the last step gives the finished folder its name.
 void Crear(const QString &carpeta, const QString &datos) {
+    const Turno turno(carpeta);
+    if (QFileInfo::exists(datos)) // another first start made it meanwhile
+        return;
+    if (turno.Solo())
+        QuitarRestos(carpeta);
     QTemporaryDir temporal(QDir(carpeta).filePath(QStringLiteral("Datos.XXXXXX")));
     if (!temporal.isValid())
         throw ErrorDatos(errores::kAccesoRuta, QStringLiteral("No se pudo escribir en '%1'.").arg(carpeta));
@@ -48,6 +107,19 @@ void Crear(const QString &carpeta, const QString &datos) {
         throw ErrorDatos(errores::kAccesoRuta,
                          QStringLiteral("No se pudo crear la carpeta '%1'.").arg(datos));
     }
+}
+
+// Is there a folder of that name, or a link to one? Throws when the link leads nowhere.
+bool Hay(const QString &datos) {
+    const QFileInfo info(datos);
+    if (info.exists())
+        return true;
+    if (!info.isSymLink())
+        return false;
+    throw ErrorDatos(errores::kRutaNoEncontrada,
+                     QStringLiteral("Los datos no están: '%1' es un enlace a '%2', que no se encuentra.\n\n"
+                                    "Conecte el medio que los contiene y vuelva a iniciar el programa.")
+                         .arg(datos, info.symLinkTarget()));
 }
 
 QString TextoAjuste(const QSettings &ajustes, const QString &clave) {
@@ -66,18 +138,18 @@ QString PrepararDatos(const QString &carpetaPrograma, const QString &carpetaUsua
     const QString nombre = QStringLiteral("Datos");
     QString propia = QDir(carpetaPrograma).filePath(nombre);
     QString deUsuario = QDir(carpetaUsuario).filePath(nombre);
-    if (QFileInfo::exists(propia))
+    if (Hay(propia))
         return propia;
+    if (Hay(deUsuario))
+        return deUsuario;
     try {
         Crear(carpetaPrograma, propia);
         return propia;
     } catch (const ErrorDatos &) {
         // The folder of the program can't be written; the one of the user takes its place.
     }
-    if (!QFileInfo::exists(deUsuario)) {
-        QDir().mkpath(carpetaUsuario);
-        Crear(carpetaUsuario, deUsuario);
-    }
+    QDir().mkpath(carpetaUsuario);
+    Crear(carpetaUsuario, deUsuario);
     return deUsuario;
 }
 

@@ -8,6 +8,9 @@ namespace tarvo {
 
 namespace {
 
+// Longer amounts are no numbers: below this no product or sum of a sale leaves the range of a double.
+constexpr std::size_t kMaximoEnteros = 100;
+
 bool EsDigito(char c) {
     return c >= '0' && c <= '9';
 }
@@ -27,7 +30,11 @@ std::string_view Vista(const QByteArray &bytes) {
     return {bytes.constData(), static_cast<std::size_t>(bytes.size())};
 }
 
-// A decimal number as its digits stand in a text.
+std::string_view SinCeros(std::string_view digitos) {
+    return digitos.substr(std::min(digitos.find_first_not_of('0'), digitos.size()));
+}
+
+// A decimal number as its digits stand in a text, without leading zeros.
 struct Decimal {
     bool negativo = false;
     std::string_view enteros;
@@ -35,7 +42,7 @@ struct Decimal {
 };
 
 // The number at the start of `texto`, whose decimal separator is one that `separa` accepts; returns how many
-// bytes it takes, 0 when there is none.
+// bytes it takes, 0 when there is none or it is too large.
 template <typename Separador> std::size_t Leer(std::string_view texto, Separador separa, Decimal &numero) {
     std::size_t i = 0;
     if (i < texto.size() && (texto[i] == '-' || texto[i] == '+'))
@@ -43,14 +50,16 @@ template <typename Separador> std::size_t Leer(std::string_view texto, Separador
     std::size_t inicio = i;
     while (i < texto.size() && EsDigito(texto[i]))
         ++i;
-    numero.enteros = texto.substr(inicio, i - inicio);
+    numero.enteros = SinCeros(texto.substr(inicio, i - inicio));
+    const bool hayEnteros = i > inicio;
     if (i < texto.size() && separa(texto[i])) {
         inicio = ++i;
         while (i < texto.size() && EsDigito(texto[i]))
             ++i;
         numero.decimales = texto.substr(inicio, i - inicio);
     }
-    return numero.enteros.empty() && numero.decimales.empty() ? 0 : i;
+    const bool hay = hayEnteros || !numero.decimales.empty();
+    return hay && numero.enteros.size() <= kMaximoEnteros ? i : 0;
 }
 
 double Valor(const Decimal &numero) {
@@ -90,10 +99,8 @@ bool EsCero(std::string_view monto) {
 // Appends the number with two decimals, rounded half away from zero on its digits.
 void AgregarDecimal(std::string &salida, const Decimal &numero, std::string_view separador) {
     const std::size_t signo = salida.size();
-    const auto ceros = std::min(numero.enteros.find_first_not_of('0'), numero.enteros.size());
-    const std::string_view enteros = numero.enteros.substr(ceros);
     const std::string_view decimales = numero.decimales;
-    salida.append(enteros.empty() ? "0" : enteros).append(separador);
+    salida.append(numero.enteros.empty() ? "0" : numero.enteros).append(separador);
     salida += !decimales.empty() ? decimales[0] : '0';
     salida += decimales.size() > 1 ? decimales[1] : '0';
     if (decimales.size() > 2 && decimales[2] >= '5')

@@ -24,8 +24,8 @@ class Moneda {
     const QString &sCurrency() const { return simbolo_; }
 
     // `texto` with either separator, in the form "###0.00"; with `conSimbolo` behind the symbol and one
-    // blank. Empty text counts as 0; text that is no number (a thousands separator makes it none) stays as it
-    // stands.
+    // blank. Empty text counts as 0; text that is no number (a thousands separator makes it none, and so do
+    // more than 100 digits before the separator) stays as it stands.
     QString FormatoMoneda(const QString &texto, bool conSimbolo) const;
     QString FormatoMoneda(double valor, bool conSimbolo) const;
     // The same, appended to `salida` as UTF-8: for lists of many rows.

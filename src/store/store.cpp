@@ -4,8 +4,11 @@
 #include "store/errordatos.h"
 #include "store/plantillas.h"
 
+#include <QDeadlineTimer>
 #include <QDir>
 #include <QFile>
+#include <QRandomGenerator>
+#include <QThread>
 
 #include <exception>
 #include <iterator>
@@ -34,6 +37,11 @@ constexpr Tabla kTablas[] = {
     {"articulos.mdb", "articulos", &FrmBases::datArticulos},
     {"ventas.mdb", "ventas", &FrmBases::datVentas},
 };
+
+// Made on demand; files of a fresh installation don't hold it.
+constexpr const char *kTablaUsuarios =
+    "CREATE TABLE IF NOT EXISTS main.Usuarios(id INTEGER PRIMARY KEY AUTOINCREMENT, codigo TEXT DEFAULT '', "
+    "articulo TEXT DEFAULT '', precio TEXT DEFAULT '', cantidad TEXT DEFAULT '')";
 
 void AbrirArchivo(std::unique_ptr<Conexion> &conexion, const QString &ruta, const char *esquema) {
     if (conexion)
@@ -71,13 +79,44 @@ FrmBases::~FrmBases() {
     }
 }
 
+void FrmBases::AlDanarse(std::function<void(const QString &, const QString &)> avisar) {
+    alDanarse_ = std::move(avisar);
+}
+
+ResultadoApertura FrmBases::AbrirInsistiendo(std::chrono::milliseconds plazo) {
+    const QDeadlineTimer fin(plazo);
+    ResultadoApertura resultado = Abrir();
+    while (resultado.estado == EstadoApertura::Bloqueada && !fin.hasExpired()) {
+        constexpr int kMinimo = 50;
+        constexpr int kMaximo = 300;
+        QThread::msleep(
+            static_cast<unsigned long>(QRandomGenerator::global()->bounded(kMinimo, kMaximo + 1)));
+        resultado = Abrir();
+    }
+    return resultado;
+}
+
+void FrmBases::AbrirUsuarios() {
+    if (datUsuarios.Abierto())
+        return;
+    if (!conexion_)
+        throw ErrorDatos(errores::kSinRegistro, QStringLiteral("La tabla Usuarios no está abierta."));
+    conexion_->Crear(kTablaUsuarios);
+    datUsuarios.Abrir(*conexion_);
+}
+
 ResultadoApertura FrmBases::Abrir() {
     Cerrar();
     ResultadoApertura resultado;
     try {
         AbrirTablas(resultado);
-        if (conexion_)
+        if (conexion_) {
             conexion_->Bloquear();
+            conexion_->AlDanarse([this](const QString &archivo, const QString &motivo) {
+                if (alDanarse_)
+                    alDanarse_(archivo, motivo);
+            });
+        }
         if (resultado.estado == EstadoApertura::Completa)
             QuitarRestos(carpeta_);
     } catch (const ErrorDatos &error) {
@@ -117,14 +156,14 @@ void FrmBases::AbrirTablas(ResultadoApertura &resultado) {
 
 void FrmBases::Cerrar() {
     std::exception_ptr fallo;
-    for (const Tabla &tabla : kTablas) {
-        Cursor &cursor = this->*tabla.cursor;
+    const std::vector<Cursor *> abiertos = conexion_ ? conexion_->Cursores() : std::vector<Cursor *>();
+    for (Cursor *cursor : abiertos) {
         try {
-            cursor.CerrarEdicion();
+            cursor->CerrarEdicion();
         } catch (const ErrorDatos &) {
             fallo = std::current_exception();
         }
-        cursor.Cerrar();
+        cursor->Cerrar();
     }
     conexion_.reset();
     if (fallo)

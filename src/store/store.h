@@ -10,6 +10,8 @@
 
 #include <QString>
 
+#include <chrono>
+#include <functional>
 #include <memory>
 
 namespace tarvo {
@@ -38,8 +40,15 @@ class FrmBases {
     FrmBases(const FrmBases &) = delete;
     FrmBases &operator=(const FrmBases &) = delete;
 
-    // Opens all tables in their fixed order; the first failure ends the opening.
+    // Opens all tables in their fixed order; the first failure ends the opening. After Cerrar it can be
+    // called again: nothing of the earlier run is left in memory.
     ResultadoApertura Abrir();
+    // The same; while a file is busy it tries again for `plazo`, with waits of random length in between, so
+    // that of two processes that start at once one gets the files.
+    ResultadoApertura AbrirInsistiendo(std::chrono::milliseconds plazo = std::chrono::milliseconds(1500));
+    // Opens datUsuarios, which no opening of the files does; makes its table in config.mdb when it isn't
+    // there. Throws ErrorDatos when the files are closed or the disk refuses.
+    void AbrirUsuarios();
     // Commits pending edits (a pending new row is dropped) and closes the cursors and the files.
     void Cerrar();
     // Compacts the file `origen` by way of `temporal`. Throws ErrorDatos: kBaseNoEncontrada with the text
@@ -47,6 +56,11 @@ class FrmBases {
     static void CompactarBase(const QString &origen, const QString &temporal);
 
     const QString &CarpetaDatos() const { return carpeta_; }
+    // Another folder of five files, from the next opening on.
+    void PonerCarpetaDatos(const QString &carpeta) { carpeta_ = carpeta; }
+    // `avisar` is called with a file ("articulos.mdb") and a reason when a read finds it damaged; once for
+    // each file and opening. Writes to that file are refused from then on.
+    void AlDanarse(std::function<void(const QString &archivo, const QString &motivo)> avisar);
     const Moneda &moneda() const { return moneda_; }
     const QString &sDecimal() const { return moneda_.sDecimal(); }
     const QString &sCurrency() const { return moneda_.sCurrency(); }
@@ -58,10 +72,11 @@ class FrmBases {
 
     QString carpeta_;
     Moneda moneda_;
+    std::function<void(const QString &, const QString &)> alDanarse_;
     std::unique_ptr<Conexion> conexion_;
 
   public:
-    // --- cursors, in the order of opening; datUsuarios and datPagos stay closed
+    // --- cursors, in the order of opening; datUsuarios opens on demand, datPagos never
     Cursor datIVA{"main", "Iva"};
     Cursor datImpuesto{"main", "Impuesto"};
     Cursor datFactura{"main", "Factura"};
@@ -188,6 +203,7 @@ class FrmBases {
     Campo camVentTotal{datVentas, "total"};
 
     // Usuarios
+    Campo camUsuId{datUsuarios, "id"};
     Campo camUsuCodigo{datUsuarios, "codigo"};
     Campo camUsuArticulo{datUsuarios, "articulo"};
     Campo camUsuPrecio{datUsuarios, "precio"};

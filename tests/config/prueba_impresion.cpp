@@ -177,18 +177,6 @@ TEST_F(Impresion, TheTicketLinesAreEditedAboveTheWindow) {
     EXPECT_FALSE(ventana->isVisible());
 }
 
-TEST_F(Impresion, ARefusedTicketLineLeavesTheWholeRow) {
-    Sql("UPDATE Ticket SET linea1 = 'Tarvo';"
-        "CREATE TRIGGER g BEFORE UPDATE OF negrita5 ON Ticket BEGIN SELECT RAISE(ABORT, 'x'); END");
-    AbrirPanel();
-    Pulsar("cmdLineasTicket");
-    Teclear("txtLinea1", "Otra");
-    EsperaMensaje(kRechazo, Icono::Critico);
-    Pulsar("cmdGuardarTicket");
-    EXPECT_EQ(Texto("txtLinea1"), QStringLiteral("Otra"));
-    EXPECT_EQ(EnDisco("SELECT linea1 FROM Ticket"), QStringLiteral("Tarvo"));
-}
-
 TEST_F(Impresion, TheTestTicketShowsTheLinesAsTyped) {
     mundo.ajustes.setValue(QStringLiteral("ImpTick"), QStringLiteral("Tickets"));
     AbrirPanel();

@@ -5,7 +5,9 @@
 //                            else, and "CONSTA" with the sales and changed stocks that the cursors then show;
 //                            after an error once more on a healed disk, "ANTERIOR" when the first one turns
 //                            out to stand
-//   emisor retener CARPETA   opens the files, tells "ABIERTO" and holds them until its input ends
+//   emisor retener CARPETA   opens the files when a byte comes in, insisting; tells "ABIERTO" or "OCUPADO"
+//   and
+//                            holds them until its input ends
 //   emisor instalar CARPETA  makes `Datos` in CARPETA on a first start
 #include "store/errordatos.h"
 #include "store/instalacion.h"
@@ -75,17 +77,22 @@ void Contar(FrmBases &bases) {
     Decir(QStringLiteral("CONSTA %1 %2").arg(bases.datVentas.RecordCount()).arg(Vendidos(bases)));
 }
 
+// Opens when the word comes, tells the state, and holds what is open until its input ends.
+int Retener(FrmBases &bases) {
+    std::getchar();
+    const ResultadoApertura apertura = bases.AbrirInsistiendo();
+    Decir(apertura.estado == EstadoApertura::Completa ? QStringLiteral("ABIERTO")
+                                                      : QStringLiteral("OCUPADO"));
+    std::getchar();
+    return 0;
+}
+
 int ConBases(const char *orden, FrmBases &bases) {
     const ResultadoApertura apertura = bases.Abrir();
     if (std::strcmp(orden, "abrir") == 0 || apertura.estado != EstadoApertura::Completa) {
         Decir(QStringLiteral("%1 %2 %3")
                   .arg(static_cast<int>(apertura.estado))
                   .arg(apertura.archivo, apertura.motivo));
-        return 0;
-    }
-    if (std::strcmp(orden, "retener") == 0) {
-        Decir(QStringLiteral("ABIERTO"));
-        std::getchar();
         return 0;
     }
     const bool hecho = Intentar(bases);
@@ -104,11 +111,11 @@ int main(int argc, char **argv) {
     const QString carpeta = QString::fromLocal8Bit(argv[2]);
     try {
         if (std::strcmp(argv[1], "instalar") == 0) {
-            PrepararDatos(carpeta, carpeta + QStringLiteral("/usuario/que/no/hay"));
+            PrepararDatos(carpeta, QStringLiteral("/proc/no-hay"));
             return 0;
         }
         FrmBases bases(carpeta, Moneda());
-        return ConBases(argv[1], bases);
+        return std::strcmp(argv[1], "retener") == 0 ? Retener(bases) : ConBases(argv[1], bases);
     } catch (const ErrorDatos &error) {
         Decir(QStringLiteral("ERROR %1").arg(error.Numero()));
         return 1;

@@ -51,6 +51,8 @@ class ProgramaEnPantalla {
     // Waits for the end of the process by itself.
     int CodigoSalida();
     void Matar();
+    // The signal with which the system ends a program.
+    void PedirFin() { proceso_.terminate(); }
     // Alt+F4, until the process has ended.
     void Cerrar();
 

@@ -66,6 +66,20 @@ TEST(Apertura, OnlyAPartialOpeningGivesAHint) {
               QStringLiteral("No se pudieron abrir los datos: el disco está lleno."));
 }
 
+TEST(Apertura, DataThatLieElsewhereAreTold) {
+    const QTemporaryDir programa;
+    const QTemporaryDir medio;
+    const QString propia = programa.filePath(QStringLiteral("Datos"));
+    QDir().mkdir(propia);
+    EXPECT_TRUE(AvisoLugar(propia, programa.path() + QStringLiteral("/.")).isEmpty());
+    const QString lejos = QStringLiteral("Datos en ") + QFileInfo(medio.path()).canonicalFilePath();
+    EXPECT_EQ(AvisoLugar(medio.path(), programa.path()), lejos);
+    QDir().rmdir(propia);
+    QFile::link(medio.path(), propia);
+    EXPECT_EQ(AvisoLugar(propia, programa.path()), lejos);
+    EXPECT_EQ(UnirAvisos({QString(), lejos, QStringLiteral("x")}), lejos + QStringLiteral("   x"));
+}
+
 // Each message sets off another exception, as a window that can't be painted would.
 class PreguntasQueFallan final : public Preguntas {
   public:

@@ -181,18 +181,91 @@ TEST(Apertura, AFolderWithOddLettersInItsNameWorks) {
     EXPECT_EQ(bases.datIVA.RecordCount(), 4);
 }
 
-TEST(Apertura, ADamagedPageIsAnErrorAndNoCrash) {
+TEST(Apertura, ADamagedFileIsToldOnceAndTakesNoWrites) {
     DatosPrueba datos;
     datos.Ejecutar("WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i+1 FROM n WHERE i<3000) "
                    "INSERT INTO Ventas(total) SELECT '$ '||i FROM n");
-    QFile archivo(QDir(datos.Carpeta()).filePath(QStringLiteral("ventas.mdb")));
+    const QString ruta = QDir(datos.Carpeta()).filePath(QStringLiteral("ventas.mdb"));
+    QFile archivo(ruta);
     ASSERT_TRUE(archivo.open(QIODevice::ReadWrite));
+    const QByteArray sano = archivo.readAll();
     archivo.seek(5 * 4096);
     archivo.write(QByteArray(3 * 4096, '\x07'));
     archivo.close();
-    FrmBases &b = datos.Abrir();
+    QStringList avisos;
+    FrmBases &b = datos.Bases();
+    b.AlDanarse([&](const QString &nombre, const QString &motivo) { avisos << nombre + u' ' + motivo; });
+    datos.Abrir();
     EXPECT_THROW(b.datVentas.RecordCount(), ErrorDatos);
     EXPECT_THROW(b.camVentTotal.Texto(), ErrorDatos);
+    EXPECT_EQ(avisos, QStringList{QStringLiteral("ventas.mdb está dañado.")});
+
+    b.datVentas.AddNew();
+    b.camVentTotal = QStringLiteral("$ 1,00");
+    try {
+        b.datVentas.MoveNext();
+        FAIL();
+    } catch (const ErrorDatos &error) {
+        EXPECT_EQ(error.Descripcion(), QStringLiteral("No se pudo escribir en ventas.mdb: está dañado."));
+    }
+    b.datClientes.AddNew();
+    b.datClientes.Refresh();
+    EXPECT_EQ(b.datClientes.RecordCount(), 1) << "the other files go on";
+    datos.Cerrar();
+    Escribir(ruta, sano);
+    datos.Abrir();
+    EXPECT_EQ(b.datVentas.RecordCount(), 3000);
+}
+
+TEST(Apertura, AnotherOpeningInTheSameRunStartsFresh) {
+    DatosPrueba datos;
+    datos.Ejecutar("INSERT INTO Articulos(nombre) VALUES('a'), ('b')");
+    DatosPrueba otros;
+    otros.Ejecutar("INSERT INTO Articulos(nombre) VALUES('x')");
+    FrmBases &b = datos.Abrir();
+    for (int vez = 0; vez < 3; ++vez) {
+        EXPECT_EQ(b.datArticulos.RecordCount(), 2 + vez);
+        b.datArticulos.Index(QStringLiteral("primarykey"));
+        b.datArticulos.AddNew();
+        b.datArticulos.MoveNext();
+        b.datClientes.AddNew(); // half done: gone with the closing
+        b.Cerrar();
+        EXPECT_EQ(b.camArtNombre.Columna().Filas(), 0);
+        ASSERT_EQ(b.Abrir().estado, EstadoApertura::Completa);
+        EXPECT_EQ(b.camArtNombre.Texto(), QStringLiteral("a"));
+        EXPECT_TRUE(b.datArticulos.UltimoId().isEmpty());
+        EXPECT_FALSE(b.datClientes.HayFila());
+        EXPECT_THROW(b.datArticulos.Seek(QStringLiteral("="), QStringLiteral("1")), ErrorDatos);
+    }
+    b.Cerrar();
+    b.PonerCarpetaDatos(otros.Carpeta());
+    ASSERT_EQ(b.Abrir().estado, EstadoApertura::Completa);
+    EXPECT_EQ(b.camArtNombre.Texto(), QStringLiteral("x"));
+}
+
+TEST(Usuarios, TheTableIsMadeAndOpenedOnDemand) {
+    DatosPrueba datos;
+    FrmBases &b = datos.Bases();
+    EXPECT_THROW(b.AbrirUsuarios(), ErrorDatos);
+    datos.Abrir();
+    EXPECT_FALSE(b.datUsuarios.Abierto());
+    EXPECT_THROW(datos.Filas("SELECT * FROM Usuarios"), SQLite::Exception);
+    for (int vez = 1; vez <= 2; ++vez) {
+        b.AbrirUsuarios();
+        b.datUsuarios.AddNew();
+        b.camUsuCodigo = QStringLiteral("Ana");
+        b.camUsuPrecio = QStringLiteral("k917");
+        b.datUsuarios.Refresh();
+        b.AbrirUsuarios(); // open already: nothing changes
+        EXPECT_EQ(b.datUsuarios.RecordCount(), vez);
+        EXPECT_EQ(b.datUsuarios.UltimoId(), QString::number(vez));
+        datos.Cerrar();
+        EXPECT_FALSE(b.datUsuarios.Abierto());
+        datos.Abrir();
+    }
+    EXPECT_EQ(
+        datos.Filas("SELECT id, codigo, articulo, precio, cantidad FROM Usuarios")[0],
+        (std::vector<QString>{QStringLiteral("1"), QStringLiteral("Ana"), {}, QStringLiteral("k917"), {}}));
 }
 
 TEST(Instalacion, TheFirstStartMakesDataThatOpen) {
@@ -233,9 +306,56 @@ TEST(Instalacion, TheUsersFolderTakesThePlaceOfOneThatCannotBeWritten) {
     const QString datos = PrepararDatos(sinPermiso, carpeta);
     EXPECT_EQ(datos, carpeta + QStringLiteral("/Datos"));
     Escribir(datos + QStringLiteral("/ventas.mdb"), "mio");
-    EXPECT_EQ(PrepararDatos(sinPermiso, carpeta), datos);
+    // From then on they stay there, also when the folder of the program can be written.
+    QTemporaryDir programa;
+    EXPECT_EQ(PrepararDatos(programa.path(), carpeta), datos);
+    EXPECT_TRUE(QDir(programa.path()).isEmpty());
     EXPECT_EQ(Contenido(datos)[QStringLiteral("ventas.mdb")], "mio");
+    // A folder beside the program comes first.
+    QDir(programa.path()).mkdir(QStringLiteral("Datos"));
+    EXPECT_EQ(PrepararDatos(programa.path(), carpeta), programa.filePath(QStringLiteral("Datos")));
     EXPECT_THROW(PrepararDatos(sinPermiso, sinPermiso), ErrorDatos);
+}
+
+TEST(Instalacion, ALinkIsFollowedAndOneThatLeadsNowhereIsTold) {
+    QTemporaryDir medio;
+    QTemporaryDir programa;
+    QTemporaryDir usuario;
+    const QString enlace = programa.filePath(QStringLiteral("Datos"));
+    const QString tienda = medio.filePath(QStringLiteral("tienda"));
+    const QString otra = PrepararDatos(QStringLiteral("/proc/tarvo"), usuario.path());
+    QFile::link(tienda, enlace);
+    try {
+        PrepararDatos(programa.path(), usuario.path());
+        FAIL() << "began another shop";
+    } catch (const ErrorDatos &error) {
+        EXPECT_EQ(error.Numero(), errores::kRutaNoEncontrada);
+        EXPECT_TRUE(error.Descripcion().contains(tienda)) << error.Descripcion().toStdString();
+    }
+    QDir().mkdir(tienda);
+    EXPECT_EQ(PrepararDatos(programa.path(), usuario.path()), enlace);
+    EXPECT_TRUE(QDir(tienda).isEmpty());
+    QFile::remove(enlace);
+    QDir(otra).removeRecursively();
+    QFile::link(usuario.filePath(QStringLiteral("no")), otra);
+    EXPECT_THROW(PrepararDatos(programa.path(), usuario.path()), ErrorDatos);
+    EXPECT_TRUE(QDir(programa.path()).isEmpty());
+}
+
+TEST(Instalacion, OnlyWhatAFirstStartLeftHalfDoneIsRemoved) {
+    QTemporaryDir programa;
+    const QDir carpeta(programa.path());
+    for (const char *nombre : {"Datos.aB3xYz", "Datos.backup"}) {
+        const QString resto = carpeta.filePath(QString::fromUtf8(nombre));
+        ASSERT_TRUE(QDir().mkpath(resto + QStringLiteral("/vacio")));
+        CrearPlantillas(resto + QStringLiteral("/vacio"));
+        QFile::copy(resto + QStringLiteral("/vacio/config.mdb"), resto + QStringLiteral("/config.mdb"));
+        Escribir(resto + QStringLiteral("/qt_temp.Ab12cd"), "medio");
+    }
+    Escribir(carpeta.filePath(QStringLiteral("Datos.backup/ventas.mdb")), "ventas de un año");
+    PrepararDatos(programa.path(), programa.path());
+    EXPECT_EQ(carpeta.entryList(QDir::Dirs | QDir::NoDotAndDotDot),
+              QStringList({QStringLiteral("Datos"), QStringLiteral("Datos.backup")}));
 }
 
 TEST(Regional, SettingsComeBeforeTheLocaleOfTheSystem) {

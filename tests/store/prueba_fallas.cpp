@@ -101,14 +101,20 @@ TEST_F(PruebaFallas, AKilledSaleIsWholeOrNotThere) {
     }
 }
 
+// However often the recovery of a killed sale is cut off itself, it ends as one that was left alone.
 TEST_F(PruebaFallas, ARecoveryThatIsKilledToo) {
-    for (int n = 1, fallo = 1; fallo != 0; n += 2) {
-        const QString carpeta = Copia();
-        fallo = Correr("vender", carpeta, "cortar", n).fallo ? 1 : 0;
+    bool fallo = true;
+    for (int n = 1; fallo; n += 2) {
+        SCOPED_TRACE("killed at call " + std::to_string(n));
+        QString carpeta = Copia();
+        Correr("vender", carpeta, "cortar", n);
+        const int esperadas = Ventas(carpeta);
+        carpeta = Copia();
+        fallo = Correr("vender", carpeta, "cortar", n).fallo;
         for (int m = 1; Correr("abrir", carpeta, "cortar", m).fallo; ++m)
             ASSERT_LT(m, 1000);
-        SCOPED_TRACE("killed at call " + std::to_string(n));
-        EXPECT_EQ(Ventas(carpeta), fallo != 0 ? Ventas(carpeta) : 1);
+        EXPECT_EQ(Ventas(carpeta), esperadas);
+        EXPECT_TRUE(fallo || esperadas == 1);
     }
 }
 
@@ -124,6 +130,9 @@ TEST_F(PruebaFallas, ARefusedWriteLeavesNothingAndARetryCountsOnce) {
         for (int n = 1; fallo; ++n) {
             SCOPED_TRACE(caso + " at call " + std::to_string(n));
             const QString carpeta = Copia();
+            // Empty journals lie there from the first write on; one that can't be opened must not stay so.
+            for (const char *diario : {"ventas.mdb-journal", "articulos.mdb-journal"})
+                QFile(trabajo->filePath(QString::fromUtf8(diario))).open(QIODevice::WriteOnly);
             const Salida salida = Correr("vender", carpeta, modo.c_str(), n, seguidas);
             const QString primera = salida.lineas.value(0);
             const bool dudosa = primera.contains(QLatin1String("ni comprobar"));
@@ -172,6 +181,8 @@ TEST_F(PruebaFallas, AnInterruptedFirstStartLeavesNoHalfFolder) {
             FrmBases b(datos, Moneda());
             EXPECT_EQ(b.Abrir().estado, EstadoApertura::Completa);
             EXPECT_EQ(QDir(datos + QStringLiteral("/vacio")).entryList(QDir::Files).size(), 5);
+            EXPECT_EQ(QDir(programa.path()).entryList(QDir::Dirs | QDir::NoDotAndDotDot).size(), 1)
+                << "what was cut short stayed";
             if (!salida.fallo)
                 break;
             ASSERT_LT(n, 1000);
@@ -179,13 +190,36 @@ TEST_F(PruebaFallas, AnInterruptedFirstStartLeavesNoHalfFolder) {
     }
 }
 
+TEST(OtroProceso, OfTwoThatStartAtOnceOneGetsTheFiles) {
+    const DatosPrueba datos;
+    QProcess procesos[2];
+    for (QProcess &proceso : procesos) {
+        proceso.start(QStringLiteral(TARVO_EMISOR), {QStringLiteral("retener"), datos.Carpeta()});
+        ASSERT_TRUE(proceso.waitForStarted());
+    }
+    for (QProcess &proceso : procesos)
+        proceso.write("\n");
+    QStringList dicho;
+    for (QProcess &proceso : procesos) {
+        ASSERT_TRUE(proceso.waitForReadyRead(30'000));
+        dicho << QString::fromUtf8(proceso.readAll()).trimmed();
+    }
+    dicho.sort();
+    EXPECT_EQ(dicho, QStringList({QStringLiteral("ABIERTO"), QStringLiteral("OCUPADO")}));
+    for (QProcess &proceso : procesos) {
+        proceso.closeWriteChannel();
+        EXPECT_TRUE(proceso.waitForFinished(30'000));
+    }
+}
+
 TEST(OtroProceso, FilesThatItHoldsAreToldAndFreeWhenItEnds) {
     DatosPrueba datos;
     QProcess otro;
     otro.start(QStringLiteral(TARVO_EMISOR), {QStringLiteral("retener"), datos.Carpeta()});
+    otro.write("\n");
     ASSERT_TRUE(otro.waitForReadyRead(30'000));
     ASSERT_EQ(otro.readAll(), "ABIERTO\n");
-    EXPECT_EQ(datos.Bases().Abrir().estado, EstadoApertura::Bloqueada);
+    EXPECT_EQ(datos.Bases().AbrirInsistiendo(std::chrono::milliseconds(1)).estado, EstadoApertura::Bloqueada);
     otro.closeWriteChannel();
     ASSERT_TRUE(otro.waitForFinished(30'000));
     EXPECT_EQ(datos.Bases().Abrir().estado, EstadoApertura::Completa);

@@ -64,12 +64,17 @@ TEST(Moneda, FormatsTextWithTwoDecimals) {
     EXPECT_EQ(Formato(kPunto, QStringLiteral("12,5"), true), "Bs 12.50");
 }
 
-TEST(Moneda, CarriesThroughTenThousandNines) {
-    const QString nueves(10'000, u'9');
-    const std::string monto = Formato(kComa, nueves + QStringLiteral(",999"), false);
-    EXPECT_EQ(monto, "1" + std::string(10'000, '0') + ",00");
-    const QString basura(10'000, u'x');
-    EXPECT_EQ(kComa.FormatoMoneda(basura, true), basura);
+TEST(Moneda, AnAmountTooLargeIsNoNumber) {
+    const QString nueves(100, u'9');
+    EXPECT_TRUE(Moneda::EsNumero(QStringLiteral("-000") + nueves));
+    EXPECT_EQ(Formato(kComa, nueves + QStringLiteral(",999"), false), "1" + std::string(100, '0') + ",00");
+    EXPECT_GT(kComa.Numero(nueves), 9e99);
+    for (const int cifras : {101, 400, 10'000}) {
+        const QString largo(cifras, u'9');
+        EXPECT_FALSE(Moneda::EsNumero(largo));
+        EXPECT_EQ(kComa.FormatoMoneda(largo, true), largo);
+        EXPECT_EQ(kComa.Numero(largo), kComa.Numero(QStringLiteral("basura")));
+    }
 }
 
 TEST(Moneda, RoundsADoubleOnItsDecimalReading) {

@@ -69,7 +69,7 @@ TEST_F(PruebaTransaccion, ARollbackDropsPendingEditsToo) {
         b.camCliNombre = QStringLiteral("x");
     }
     EXPECT_EQ(b.camArtStock.Texto(), QStringLiteral("10"));
-    EXPECT_FALSE(b.datClientes.FilaNueva());
+    EXPECT_FALSE(b.datClientes.HayFila());
     b.Cerrar();
     EXPECT_EQ(Consta(), "|10,20");
 }

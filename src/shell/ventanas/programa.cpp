@@ -44,7 +44,7 @@ void Programa::Arrancar() {
         if (resultado.estado == EstadoApertura::Bloqueada)
             Abandonar(MensajeBloqueada(), Icono::Informacion);
         else
-            MostrarPrincipal(AvisoApertura(resultado));
+            MostrarPrincipal(resultado);
     } catch (const std::exception &error) {
         Abandonar(QString::fromUtf8(error.what()), Icono::Critico);
     }
@@ -55,15 +55,24 @@ ResultadoApertura Programa::AbrirDatos() {
     impresoras_ =
         std::make_unique<ImpresorasSistema>(reloj_, QFileInfo(datos).path() + QStringLiteral("/Impresos"));
     frmBases_ = std::make_unique<FrmBases>(datos, LeerRegional(ajustes_));
-    return frmBases_->Abrir();
+    frmBases_->AlDanarse(
+        [this](const QString &archivo, const QString &motivo) { Avisar(AvisoDano(archivo, motivo)); });
+    return frmBases_->AbrirInsistiendo();
 }
 
-void Programa::MostrarPrincipal(const QString &aviso) {
+void Programa::MostrarPrincipal(const ResultadoApertura &resultado) {
     const Servicios servicios{*frmBases_, preguntas_, reloj_, *impresoras_, ajustes_, escritorio_};
     frmPrincipal_ = std::make_unique<FrmPrincipal>(servicios, Componer(servicios), carpetaPrograma_);
-    frmPrincipal_->PonerAviso(aviso);
+    Avisar(AvisoApertura(resultado));
+    Avisar(AvisoLugar(frmBases_->CarpetaDatos(), carpetaPrograma_));
     QGuiApplication::setQuitOnLastWindowClosed(true);
     frmPrincipal_->Presentar(ATwips(frmPrincipal_->screen()->size().width()));
+}
+
+void Programa::Avisar(const QString &aviso) {
+    avisos_ << aviso;
+    if (frmPrincipal_)
+        frmPrincipal_->PonerAviso(UnirAvisos(avisos_));
 }
 
 void Programa::Abandonar(const QString &mensaje, Icono icono) {

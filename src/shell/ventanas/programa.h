@@ -32,13 +32,16 @@ class Programa : public QObject {
   private:
     void Arrancar();
     ResultadoApertura AbrirDatos();
-    void MostrarPrincipal(const QString &aviso);
+    void MostrarPrincipal(const ResultadoApertura &resultado);
+    // One more notice for the status bar, behind the ones that stand there; nothing when it is empty.
+    void Avisar(const QString &aviso);
     void Abandonar(const QString &mensaje, Icono icono);
     void Cerrar();
 
     Preguntas &preguntas_;
     QString carpetaPrograma_;
     QString carpetaUsuario_;
+    QStringList avisos_;
     QSettings ajustes_;
     RelojSistema reloj_;
     EscritorioQt escritorio_;
