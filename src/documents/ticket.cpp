@@ -13,7 +13,6 @@ namespace {
 constexpr int kColumnaCentro = 14;
 constexpr double kPuntosCabecera = 11;
 constexpr double kPuntosCuerpo = 8;
-constexpr qsizetype kLargoDetalle = 35;
 
 LineaCabecera Leer(const Campo &linea, const Campo &negrita) {
     return {linea.Texto(), negrita.Es(std::string_view("S"))};
@@ -37,17 +36,8 @@ void LineasCabecera(Superficie &papel, const Cabecera &cabecera, const Columna &
     }
 }
 
-void Raya(Superficie &papel) {
-    papel.Linea(QString(kColumnasTicket, QLatin1Char('-')));
-}
-
 void LineaCuerpo(Superficie &papel, const QString &texto) {
     papel.Linea(Cortar(texto, kColumnasTicket));
-}
-
-void AlFinal(Superficie &papel, const QString &importe) {
-    papel.Columna(kColumnasTicket - static_cast<int>(importe.size()));
-    papel.Linea(importe);
 }
 
 // A label and its amount on one line: a label too long for it is cut and keeps a blank before the amount.
@@ -121,6 +111,15 @@ void ImprimirCabecera(Superficie &papel, const Cabecera &cabecera, const QString
 
 void ImprimirCabecera(Superficie &papel, const Cabecera &cabecera, const QDateTime &momento) {
     ImprimirCabecera(papel, cabecera, TextoFecha(momento), TextoHora(momento));
+}
+
+void Raya(Superficie &papel) {
+    papel.Linea(QString(kColumnasTicket, QLatin1Char('-')));
+}
+
+void AlFinal(Superficie &papel, const QString &importe) {
+    papel.Columna(kColumnasTicket - static_cast<int>(importe.size()));
+    papel.Linea(importe);
 }
 
 void ImprimirTicket(Superficie &papel, const Cabecera &cabecera, const Comprobante &venta) {

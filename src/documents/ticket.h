@@ -24,10 +24,16 @@ Cabecera LeerCabecera(FrmBases &frmBases);
 
 // The body's width, the rule's length and the column at which amounts end.
 inline constexpr int kColumnasTicket = 39;
+// What is left of a name or description beside its amount.
+inline constexpr qsizetype kLargoDetalle = 35;
 
 // Two empty lines, the five lines centred on column 14, date and time; leaves size 8 and the bold of line 5.
 void ImprimirCabecera(Superficie &papel, const Cabecera &cabecera, const QString &fecha, const QString &hora);
 void ImprimirCabecera(Superficie &papel, const Cabecera &cabecera, const QDateTime &momento);
+
+// A rule across the body, and an amount that ends flush with it.
+void Raya(Superficie &papel);
+void AlFinal(Superficie &papel, const QString &importe);
 
 // The ticket of a sale, to the end of the document.
 void ImprimirTicket(Superficie &papel, const Cabecera &cabecera, const Comprobante &venta);
