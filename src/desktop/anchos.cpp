@@ -1,45 +1,70 @@
 #include "desktop/anchos.h"
 
+#include <algorithm>
 #include <cstddef>
-#include <cstdint>
+#include <limits>
 
 namespace tarvo {
 
 namespace {
 
-// Shares out what is left to the columns that aren't held at their minimum; false when it holds one more of
-// them.
-bool Repartir(std::vector<int> &anchos, std::vector<bool> &fijas, std::int64_t resto,
-              const std::vector<int> &pesos, const std::vector<int> &minimos) {
-    std::int64_t peso = 0;
-    for (std::size_t i = 0; i < anchos.size(); ++i) {
-        resto -= fijas[i] ? minimos[i] : 0;
-        peso += fijas[i] ? 0 : pesos[i];
+constexpr int kVueltas = 50; // halvings of the share looked for: far below a pixel
+
+// A weighted share, held between two limits.
+struct Parte {
+    double peso;
+    int minimo;
+    int maximo;
+    int Con(double porPeso) const {
+        return std::clamp(static_cast<int>(std::min(porPeso * peso, 1e6)), minimo, maximo);
     }
-    for (std::size_t i = 0; i < anchos.size(); ++i) {
-        if (fijas[i])
-            continue;
-        anchos[i] = peso > 0 ? static_cast<int>(resto * pesos[i] / peso) : 0;
-        resto -= anchos[i];
-        peso -= pesos[i];
-        if (anchos[i] < minimos[i]) {
-            fijas[i] = true;
-            anchos[i] = minimos[i];
-            return false;
-        }
+};
+
+std::vector<int> Anchos(const std::vector<Parte> &partes, double porPeso) {
+    std::vector<int> anchos;
+    for (const Parte &parte : partes)
+        anchos.push_back(parte.Con(porPeso));
+    return anchos;
+}
+
+int Suma(const std::vector<int> &anchos) {
+    int suma = 0;
+    for (const int ancho : anchos)
+        suma += ancho;
+    return suma;
+}
+
+// The largest common share with which all parts fit; what rounding leaves goes to those that can take it.
+std::vector<int> Repartir(int disponible, const std::vector<Parte> &partes) {
+    double cabe = 0;
+    double sobra = disponible + 1.0;
+    for (int vuelta = 0; vuelta < kVueltas; ++vuelta) {
+        const double medio = (cabe + sobra) / 2;
+        (Suma(Anchos(partes, medio)) <= disponible ? cabe : sobra) = medio;
     }
-    return true;
+    std::vector<int> anchos = Anchos(partes, cabe);
+    int resto = disponible - Suma(anchos);
+    for (std::size_t i = partes.size(); i-- > 0 && resto > 0;) {
+        const int mas = partes[i].peso > 0 && anchos[i] < partes[i].maximo ? 1 : 0;
+        anchos[i] += mas;
+        resto -= mas;
+    }
+    return anchos;
 }
 
 } // namespace
 
-std::vector<int> RepartirAncho(int disponible, const std::vector<int> &pesos,
-                               const std::vector<int> &minimos) {
-    std::vector<int> anchos = minimos;
-    std::vector<bool> fijas(pesos.size(), false);
-    while (!Repartir(anchos, fijas, disponible, pesos, minimos)) {
-    }
-    return anchos;
+std::vector<int> RepartirAncho(int disponible, const std::vector<AnchoColumna> &columnas) {
+    int necesario = 0;
+    for (const AnchoColumna &columna : columnas)
+        necesario += columna.necesario;
+    const bool caben = necesario <= disponible;
+    std::vector<Parte> partes;
+    for (const AnchoColumna &columna : columnas)
+        partes.push_back(caben
+                             ? Parte{double(columna.peso), columna.necesario, std::numeric_limits<int>::max()}
+                             : Parte{double(columna.peso), columna.minimo, columna.necesario});
+    return Repartir(disponible, partes);
 }
 
 } // namespace tarvo

@@ -129,6 +129,14 @@ std::string_view ListaTexto::CeldaUtf8(int fila, int columna) const {
     return d_->Celda(fila, columna);
 }
 
+QStringList ListaTexto::MasLargos(int columna, int cuantos) const {
+    const ColumnaTexto &celdas = d_->Columna(columna);
+    QStringList textos;
+    for (const std::int64_t fila : celdas.MasLargas(static_cast<std::size_t>(cuantos)))
+        textos.append(celdas.Texto(fila));
+    return textos;
+}
+
 void ListaTexto::Asignar(ContenidoLista contenido) {
     Q_ASSERT(contenido.celdas.size() == especificacion_.size());
     beginResetModel();
@@ -316,6 +324,8 @@ QVariant ListaTexto::data(const QModelIndex &indice, int rol) const {
     switch (rol) {
     case Qt::DisplayRole:
         return Celda(indice.row(), indice.column());
+    case Qt::AccessibleTextRole:
+        return indice.column() == 0 ? FilaHablada(indice.row()) : QVariant();
     case Qt::TextAlignmentRole:
         return headerData(indice.column(), Qt::Horizontal, rol);
     case Qt::ForegroundRole: {
@@ -329,6 +339,17 @@ QVariant ListaTexto::data(const QModelIndex &indice, int rol) const {
     default:
         return {};
     }
+}
+
+// A screen reader stands on one cell of a row: the first one speaks for all.
+QString ListaTexto::FilaHablada(int fila) const {
+    QStringList partes;
+    for (int columna = 0; columna < columnCount(); ++columna) {
+        const ColumnaLista &especificacion = especificacion_[static_cast<std::size_t>(columna)];
+        if (!especificacion.oculta)
+            partes.append(especificacion.titulo + QLatin1Char(' ') + Celda(fila, columna));
+    }
+    return partes.join(QStringLiteral(", "));
 }
 
 bool ListaTexto::setData(const QModelIndex &indice, const QVariant &valor, int rol) {

@@ -41,6 +41,9 @@ class ListaTexto : public QAbstractTableModel {
     QString Celda(int fila, int columna) const;
     std::string_view CeldaUtf8(int fila, int columna) const; // valid until the list is next changed
 
+    // The longest texts of a column, at most `cuantos` of them.
+    QStringList MasLargos(int columna, int cuantos) const;
+
     // Replaces all rows, in one reset; they come sorted when the list has a sort column, and the arrow goes
     // where that column says. All check marks are off.
     void Asignar(ContenidoLista contenido);
@@ -93,6 +96,7 @@ class ListaTexto : public QAbstractTableModel {
     void MarcaPulsada(int fila); // the operator has switched the check mark of a row
 
   private:
+    QString FilaHablada(int fila) const;
     void Ordenar(int columna, Qt::SortOrder orden, int flecha);
     void SeguirIndices(const QModelIndexList &antes, const std::vector<std::uint32_t> &guardadas);
     int FlechaDe(int columnaOrden) const;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cassert>
+#include <functional>
 #include <limits>
 
 namespace tarvo {
@@ -123,6 +124,32 @@ void ColumnaTexto::Quitar(std::int64_t fila) {
 void ColumnaTexto::Limpiar() {
     tramos_.clear();
     filas_ = 0;
+}
+
+// A pass over the ends alone, without the texts: lists ask for it at every fill.
+std::vector<std::int64_t> ColumnaTexto::MasLargas(std::size_t cuantas) const {
+    using Larga = std::pair<std::uint32_t, std::int64_t>; // length, minus row: the least is the next to go
+    std::vector<Larga> largas;
+    for (const Tramo &tramo : tramos_) {
+        std::uint32_t inicio = 0;
+        for (std::size_t i = 0; i < tramo.trozo->fin.size(); ++i) {
+            const std::uint32_t fin = tramo.trozo->fin[i];
+            const std::uint32_t largo = fin - inicio;
+            inicio = fin;
+            if (largas.size() == cuantas && largo <= largas.front().first)
+                continue;
+            if (largas.size() == cuantas) {
+                std::pop_heap(largas.begin(), largas.end(), std::greater<>());
+                largas.pop_back();
+            }
+            largas.emplace_back(largo, -(tramo.primera + static_cast<std::int64_t>(i)));
+            std::push_heap(largas.begin(), largas.end(), std::greater<>());
+        }
+    }
+    std::vector<std::int64_t> filas;
+    for (const Larga &larga : largas)
+        filas.push_back(-larga.second);
+    return filas;
 }
 
 std::int64_t ColumnaTexto::Bytes() const {

@@ -40,6 +40,9 @@ class ColumnaTexto {
     // Gives back what the last chunk has reserved and not used; for the end of a load.
     void Ajustar();
 
+    // Rows of the longest cells, at most `cuantas` of them; of equally long ones those that came first.
+    std::vector<std::int64_t> MasLargas(std::size_t cuantas) const;
+
     // Memory taken by the texts and their offsets, in bytes; shared chunks count in full.
     std::int64_t Bytes() const;
 

@@ -69,11 +69,14 @@ TEST(Buscador, AMissLeavesTheStartRow) {
 
 TEST(RepartirAncho, FillsTheWidthInProportionButCutsNoCaption) {
     using V = std::vector<int>;
-    EXPECT_EQ(RepartirAncho(300, {1, 2}, {10, 10}), (V{100, 200}));
-    EXPECT_EQ(RepartirAncho(300, {1, 9, 5}, {60, 10, 10}), (V{60, 154, 86}));
-    EXPECT_EQ(RepartirAncho(100, {1, 1, 1}, {50, 60, 70}), (V{50, 60, 70})) << "no room: the minimums";
-    EXPECT_EQ(RepartirAncho(100, {0, 0}, {30, 20}), (V{30, 20}));
-    const V anchos = RepartirAncho(997, {7, 3, 11, 13}, {5, 200, 5, 5});
+    EXPECT_EQ(RepartirAncho(300, {{1, 10, 10}, {2, 10, 10}}), (V{100, 200}));
+    EXPECT_EQ(RepartirAncho(300, {{1, 10, 60}, {9, 10, 10}, {5, 10, 10}}), (V{60, 154, 86}));
+    EXPECT_EQ(RepartirAncho(100, {{1, 50, 50}, {1, 60, 60}, {1, 70, 70}}), (V{50, 60, 70}))
+        << "no room: the minimums";
+    EXPECT_EQ(RepartirAncho(100, {{0, 30, 30}, {0, 20, 20}}), (V{30, 20}));
+    EXPECT_EQ(RepartirAncho(200, {{5, 20, 30}, {4, 20, 900}, {3, 60, 60}}), (V{30, 110, 60}))
+        << "the widest gives way";
+    const V anchos = RepartirAncho(997, {{7, 5, 5}, {3, 5, 200}, {11, 5, 5}, {13, 5, 5}});
     EXPECT_EQ(std::accumulate(anchos.begin(), anchos.end(), 0), 997) << "no point is lost in rounding";
 }
 

@@ -2,9 +2,11 @@
 #include "testkit/manos.h"
 
 #include <QHeaderView>
+#include <QHelpEvent>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QStyledItemDelegate>
+#include <QToolTip>
 
 #include <gtest/gtest.h>
 
@@ -183,6 +185,75 @@ TEST(ListaVista, ACodeCanBeReadHoweverNarrowTheList) {
     vista.PonerAncho(0, 9000);
     const int hasta = vista.fontMetrics().horizontalAdvance(lista.Celda(0, 0)) + 10;
     EXPECT_EQ(entero.copy(0, 0, hasta, 15), vista.viewport()->grab().toImage().copy(0, 0, hasta, 15));
+}
+
+// What the tooltip of a cell says; empty when there is none.
+QString Ayuda(ListaVista &vista, int fila, int columna) {
+    QToolTip::hideText();
+    const QPoint sitio = vista.visualRect(vista.model()->index(fila, columna)).center();
+    QHelpEvent evento(QEvent::ToolTip, sitio, vista.viewport()->mapToGlobal(sitio));
+    QApplication::sendEvent(vista.viewport(), &evento);
+    return QToolTip::text();
+}
+
+TEST(ListaVista, AmountsAreWholeAndTheNameGivesWay) {
+    ListaTexto lista{{{u"Código"_qs, 2000},
+                      {u"Artículo"_qs, 2000},
+                      {u"P. Venta"_qs, 500, true},
+                      {u"Subtotal"_qs, 500, true}}};
+    const QString nombre = u"Aceite de oliva extra virgen primera prensa 500 ml"_qs;
+    lista.AgregarFila({u"A1"_qs, nombre, u"$ -1,00"_qs, u"$ 1,00"_qs});
+    ListaVista vista;
+    vista.resize(560, 200);
+    vista.Mostrar(&lista);
+    MostrarVentana(vista);
+    const auto letras = [&](int fila, int columna) {
+        return vista.fontMetrics().horizontalAdvance(lista.Celda(fila, columna));
+    };
+    EXPECT_GT(vista.columnWidth(1), letras(0, 1)) << "all fit";
+    EXPECT_EQ(Ayuda(vista, 0, 1), QString());
+    lista.AgregarFila({u"A2"_qs, nombre, u"$ 999999999999999,00"_qs, u"$ -99999999999999,00"_qs});
+    EXPECT_GT(vista.columnWidth(2), letras(1, 2));
+    EXPECT_GT(vista.columnWidth(3), letras(1, 3));
+    EXPECT_GT(vista.columnWidth(0), letras(0, 0));
+    EXPECT_LT(vista.columnWidth(1), letras(0, 1));
+    EXPECT_EQ(vista.horizontalScrollBar()->maximum(), 0);
+    for (const int columna : {0, 2, 3}) // a tip that is shown goes only after a while
+        EXPECT_EQ(Ayuda(vista, 1, columna), QString()) << columna;
+    EXPECT_EQ(Ayuda(vista, 1, 1), nombre);
+    lista.PonerCelda(0, 1, QString(10000, u'W'));
+    EXPECT_LT(Ayuda(vista, 0, 1).size(), 2000);
+    vista.resize(150, 200);
+    EXPECT_GT(vista.columnWidth(2), letras(1, 2)) << "no room at all: the list is scrolled";
+    EXPECT_GT(vista.horizontalScrollBar()->maximum(), 0);
+}
+
+TEST(ListaVista, SortsByKeyAndSpeaksItsRows) {
+    VistaDePrueba v(5);
+    v.vista.setFocus();
+    for (const Qt::SortOrder orden : {Qt::AscendingOrder, Qt::DescendingOrder}) {
+        Tecla(&v.vista, Qt::Key_2, Qt::ControlModifier);
+        EXPECT_EQ(v.lista.ColumnaOrden(), 1);
+        EXPECT_EQ(v.lista.Orden(), orden);
+    }
+    Tecla(&v.vista, Qt::Key_3, Qt::ControlModifier);
+    EXPECT_EQ(v.lista.ColumnaOrden(), 1) << "no third visible header";
+    v.vista.header()->setSectionsClickable(false);
+    Tecla(&v.vista, Qt::Key_1, Qt::ControlModifier);
+    EXPECT_EQ(v.lista.ColumnaOrden(), 1);
+    EXPECT_EQ(v.lista.index(0, 0).data(Qt::AccessibleTextRole), u"Texto fila 00003, Cantidad 4"_qs);
+}
+
+TEST(ListaVista, SaysWhatToDoWhileItIsEmpty) {
+    VistaDePrueba v(0);
+    const QImage nada = v.vista.viewport()->grab().toImage();
+    v.vista.PonerTextoVacio(u"Todavía no hay filas."_qs);
+    EXPECT_NE(v.vista.viewport()->grab().toImage(), nada);
+    EXPECT_EQ(v.vista.accessibleDescription(), u"Todavía no hay filas.");
+    v.lista.AgregarFila({u"a"_qs});
+    EXPECT_TRUE(v.vista.accessibleDescription().isEmpty());
+    v.lista.Limpiar();
+    EXPECT_FALSE(v.vista.accessibleDescription().isEmpty());
 }
 
 TEST(ListaVista, RowsOverflowJustWhenTheScrollBarTakesRoom) {

@@ -1,12 +1,27 @@
 #include "desktop/ventanas/delegadolista.h"
 
+#include "desktop/contraste.h"
 #include "desktop/unalinea.h"
+#include "desktop/ventanas/estilo.h"
+#include "desktop/ventanas/etiquetaelidida.h"
+
+#include <QAbstractItemView>
+#include <QHelpEvent>
+#include <QToolTip>
 
 namespace tarvo {
 
 namespace {
+
 constexpr qsizetype kLetrasALaVista = 400; // no column is wide enough for more
-constexpr int kAireVertical = 5;           // pixels, above and below the text together
+
+QColor FondoDe(const QStyleOptionViewItem &celda) {
+    const bool elegida = celda.state.testFlag(QStyle::State_Selected);
+    if (!celda.state.testFlag(QStyle::State_Enabled))
+        return elegida ? colores::kPresionadoTenue : colores::kDeshabilitado;
+    return elegida ? colores::kPresionado : colores::kSegundaFila;
+}
+
 } // namespace
 
 QString DelegadoLista::displayText(const QVariant &valor, const QLocale &) const {
@@ -14,15 +29,39 @@ QString DelegadoLista::displayText(const QVariant &valor, const QLocale &) const
 }
 
 QSize DelegadoLista::sizeHint(const QStyleOptionViewItem &opcion, const QModelIndex &) const {
-    return {0, opcion.fontMetrics.height() + kAireVertical};
+    const int letra = opcion.fontMetrics.height();
+    return {0, letra + letra * 3 / 10};
 }
 
 void DelegadoLista::initStyleOption(QStyleOptionViewItem *opcion, const QModelIndex &indice) const {
     QStyledItemDelegate::initStyleOption(opcion, indice);
     opcion->state &= ~QStyle::State_HasFocus;
-    const QVariant color = indice.data(Qt::ForegroundRole);
-    if (color.isValid())
-        opcion->palette.setColor(QPalette::HighlightedText, color.value<QColor>());
+    const bool habilitada = opcion->state.testFlag(QStyle::State_Enabled);
+    const QVariant tono = indice.data(Qt::ForegroundRole);
+    const QColor color = tono.isValid() ? tono.value<QColor>()
+                         : habilitada   ? colores::kTexto
+                                        : colores::kTextoTenue;
+    const QColor legible = Legible(color, FondoDe(*opcion));
+    for (const QPalette::ColorRole papel : {QPalette::Text, QPalette::HighlightedText})
+        opcion->palette.setColor(papel, legible);
+}
+
+bool DelegadoLista::Cortada(const QStyleOptionViewItem &celda) const {
+    const QStyle *estilo = celda.widget->style();
+    const QRect sitio = estilo->subElementRect(QStyle::SE_ItemViewItemText, &celda, celda.widget);
+    const int margen = estilo->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, celda.widget) + 1;
+    return celda.fontMetrics.horizontalAdvance(celda.text) > sitio.width() - 2 * margen;
+}
+
+bool DelegadoLista::helpEvent(QHelpEvent *evento, QAbstractItemView *vista,
+                              const QStyleOptionViewItem &opcion, const QModelIndex &indice) {
+    if (evento->type() != QEvent::ToolTip || !indice.isValid())
+        return QStyledItemDelegate::helpEvent(evento, vista, opcion, indice);
+    QStyleOptionViewItem celda = opcion;
+    initStyleOption(&celda, indice);
+    const QString texto = indice.data().toString();
+    QToolTip::showText(evento->globalPos(), Cortada(celda) ? AyudaLlana(texto) : QString(), vista);
+    return true;
 }
 
 } // namespace tarvo

@@ -1,8 +1,10 @@
 #include "desktop/ventanas/encabezadolista.h"
 
+#include <QHelpEvent>
 #include <QIcon>
 #include <QPainter>
 #include <QStyleOptionHeader>
+#include <QToolTip>
 
 namespace tarvo {
 
@@ -34,6 +36,22 @@ QSize EncabezadoLista::sectionSizeFromContents(int seccion) const {
     initStyleOptionForIndex(&opcion, seccion);
     const QSize texto = style()->sizeFromContents(QStyle::CT_HeaderSection, &opcion, QSize(), this);
     return {texto.width() + LadoIcono(), texto.height()};
+}
+
+// Tells the key that does what a click does.
+bool EncabezadoLista::viewportEvent(QEvent *evento) {
+    constexpr int kTeclas = 9;
+    if (evento->type() != QEvent::ToolTip || !sectionsClickable())
+        return QHeaderView::viewportEvent(evento);
+    const auto *ayuda = static_cast<QHelpEvent *>(evento);
+    const int seccion = logicalIndexAt(ayuda->pos());
+    int tecla = 0;
+    for (int i = 0; i <= seccion; ++i)
+        tecla += isSectionHidden(i) ? 0 : 1;
+    if (tecla > 0 && tecla <= kTeclas)
+        QToolTip::showText(ayuda->globalPos(), QStringLiteral("Ordenar (Ctrl+%1 en la lista)").arg(tecla),
+                           this);
+    return true;
 }
 
 // The picture brings its own margins along.

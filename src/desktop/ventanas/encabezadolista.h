@@ -15,6 +15,7 @@ class EncabezadoLista final : public QHeaderView {
     void initStyleOptionForIndex(QStyleOptionHeader *opcion, int seccion) const override;
     void paintSection(QPainter *pintor, const QRect &zona, int seccion) const override;
     QSize sectionSizeFromContents(int seccion) const override;
+    bool viewportEvent(QEvent *evento) override;
 
   private:
     int LadoIcono() const;

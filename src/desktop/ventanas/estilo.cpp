@@ -2,12 +2,14 @@
 
 #include "desktop/ventanas/acceso.h"
 #include "desktop/ventanas/iconos.h"
+#include "desktop/ventanas/marcofoco.h"
 #include "desktop/ventanas/tamano.h"
 
 #include <QApplication>
 #include <QFile>
 #include <QPalette>
 #include <QStyleFactory>
+#include <QWidget>
 
 namespace tarvo {
 
@@ -34,8 +36,10 @@ QPalette PaletaClara() {
              {QPalette::LinkVisited, kTitulo},
          })
         paleta.setColor(papel, color);
-    for (const QPalette::ColorRole papel : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
-        paleta.setColor(QPalette::Disabled, papel, QColor(150, 158, 178));
+    for (const QPalette::ColorRole papel :
+         {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::HighlightedText})
+        paleta.setColor(QPalette::Disabled, papel, kTextoTenue);
+    paleta.setColor(QPalette::Disabled, QPalette::Highlight, kPresionadoTenue);
     return paleta;
 }
 
@@ -44,12 +48,21 @@ QPalette PaletaClara() {
 void AplicarEstilo(QApplication &aplicacion) {
     // The first picture asked for registers the resources, the style sheet among them.
     aplicacion.setWindowIcon(IconoDe(QStringLiteral("tarvo")));
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setStyle(new EstiloConMarco(QStyleFactory::create(QStringLiteral("Fusion"))));
     QApplication::setPalette(PaletaClara());
     QFile hoja(QStringLiteral(":/estilo.qss"));
     hoja.open(QIODevice::ReadOnly); // compiled in
     new Tamano(aplicacion, QString::fromUtf8(hoja.readAll()));
+    new MarcoFoco(aplicacion);
     PrepararAcceso();
+}
+
+void Marcar(QWidget *control, const char *propiedad, bool si) {
+    if (control->property(propiedad).toBool() == si)
+        return;
+    control->setProperty(propiedad, si);
+    control->style()->unpolish(control);
+    control->style()->polish(control);
 }
 
 } // namespace tarvo

@@ -10,8 +10,25 @@
 
 namespace tarvo {
 
+// A tool tip breaks no line by itself and is as wide as it must be.
 QString AyudaLlana(const QString &texto) {
-    return Qt::mightBeRichText(texto) ? texto.toHtmlEscaped() : texto;
+    constexpr qsizetype kLinea = 100;
+    constexpr qsizetype kBastante = 15 * kLinea;
+    QString resto = EnUnaLinea(texto.left(kBastante));
+    if (texto.size() > kBastante)
+        resto += QChar(0x2026);
+    QStringList lineas;
+    while (resto.size() > kLinea) {
+        const qsizetype blanco = resto.lastIndexOf(QLatin1Char(' '), kLinea);
+        const qsizetype corte = blanco > kLinea / 2 ? blanco + 1 : kLinea;
+        lineas.append(resto.left(corte));
+        resto.remove(0, corte);
+    }
+    lineas.append(resto);
+    const QString ayuda = lineas.join(QLatin1Char('\n'));
+    return Qt::mightBeRichText(texto)
+               ? ayuda.toHtmlEscaped().replace(QLatin1Char('\n'), QStringLiteral("<br>"))
+               : ayuda;
 }
 
 void EtiquetaElidida::PonerAncho(int pixeles) {

@@ -25,7 +25,8 @@ class EtiquetaElidida : public QLabel {
     int ancho_ = -1;
 };
 
-// A tool tip that shows `texto` letter by letter, also where it looks like markup.
+// A tool tip that shows `texto` letter by letter, also where it looks like markup; a long one on several
+// lines.
 QString AyudaLlana(const QString &texto);
 
 } // namespace tarvo

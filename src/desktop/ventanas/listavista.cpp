@@ -1,11 +1,12 @@
 #include "desktop/ventanas/listavista.h"
 
-#include "desktop/anchos.h"
 #include "desktop/ventanas/delegadolista.h"
 #include "desktop/ventanas/encabezadolista.h"
+#include "desktop/ventanas/estilo.h"
 
 #include <QHeaderView>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QScopedValueRollback>
 #include <QScrollBar>
 
@@ -14,7 +15,10 @@ namespace tarvo {
 namespace {
 
 constexpr int kTwipsPorPunto = 15;
-constexpr int kBordesCelda = 18; // pixels, beside the text of a cell, and a letter's excess over a digit
+constexpr int kMuestra = 8;          // so many of a column's longest texts are measured
+constexpr int kLetrasMedidas = 200;  // no column is given room for more
+constexpr int kCifrasDeImporte = 24; // what is longer is no amount, and may be cut
+constexpr int kFilasSueltas = 50;    // more new rows than this are measured as a new list
 
 // Brings the chosen row back into view also when it is the last one already.
 bool EsDeMovimiento(const QKeyEvent &evento) {
@@ -64,7 +68,8 @@ void ListaVista::Encabezar() {
 }
 
 void ListaVista::Mostrar(ListaTexto *lista) {
-    disconnect(seguimiento_);
+    for (const QMetaObject::Connection &conexion : seguimiento_)
+        disconnect(conexion);
     lista_ = lista;
     setModel(lista);
     anchos_.clear();
@@ -73,9 +78,29 @@ void ListaVista::Mostrar(ListaTexto *lista) {
         setColumnHidden(static_cast<int>(anchos_.size()), columna.oculta);
         anchos_.push_back(columna.ancho);
     }
-    // A caption changes.
-    seguimiento_ = connect(lista, &QAbstractItemModel::headerDataChanged, this, &ListaVista::RepartirAnchos);
-    RepartirAnchos();
+    Seguir();
+    MedirColumnas();
+    DecirVacia();
+}
+
+// What the columns need changes with captions and texts.
+void ListaVista::Seguir() {
+    const QAbstractItemModel *lista = lista_;
+    const auto cambian = [this](const QModelIndex &primera, const QModelIndex &ultima,
+                                const QList<int> &papeles) {
+        if (papeles.isEmpty() || papeles.contains(Qt::DisplayRole))
+            Ensanchar(primera.row(), ultima.row());
+    };
+    seguimiento_ = {
+        connect(lista, &QAbstractItemModel::headerDataChanged, this, &ListaVista::RepartirAnchos),
+        connect(lista, &QAbstractItemModel::modelReset, this, &ListaVista::MedirColumnas),
+        connect(lista, &QAbstractItemModel::modelReset, this, &ListaVista::DecirVacia),
+        connect(lista, &QAbstractItemModel::rowsInserted, this, &ListaVista::DecirVacia),
+        connect(lista, &QAbstractItemModel::rowsRemoved, this, &ListaVista::DecirVacia),
+        connect(lista, &QAbstractItemModel::rowsInserted, this,
+                [this](const QModelIndex &, int primera, int ultima) { Ensanchar(primera, ultima); }),
+        connect(lista, &QAbstractItemModel::dataChanged, this, cambian),
+    };
 }
 
 int ListaVista::FilaActual() const {
@@ -99,6 +124,17 @@ void ListaVista::SeleccionarFila(int fila) {
 void ListaVista::PonerAncho(int columna, int twips) {
     anchos_[static_cast<std::size_t>(columna)] = twips;
     RepartirAnchos();
+}
+
+void ListaVista::PonerTextoVacio(const QString &texto) {
+    textoVacio_ = texto;
+    DecirVacia();
+    viewport()->update();
+}
+
+void ListaVista::DecirVacia() {
+    const bool vacia = lista_.isNull() || lista_->Filas() == 0;
+    setAccessibleDescription(vacia ? textoVacio_ : QString());
 }
 
 bool ListaVista::DesbordaFilas() const {
@@ -128,12 +164,38 @@ void ListaVista::scrollTo(const QModelIndex &indice, ScrollHint donde) {
         verticalScrollBar()->setValue(fila - caben + 1);
 }
 
+void ListaVista::changeEvent(QEvent *evento) {
+    QTreeView::changeEvent(evento);
+    if (evento->type() == QEvent::FontChange || evento->type() == QEvent::StyleChange)
+        MedirColumnas();
+}
+
+void ListaVista::paintEvent(QPaintEvent *evento) {
+    QTreeView::paintEvent(evento);
+    if (textoVacio_.isEmpty() || lista_.isNull() || lista_->Filas() > 0)
+        return;
+    constexpr int kAire = 16;
+    QPainter pintor(viewport());
+    pintor.setPen(colores::kTextoTenue);
+    pintor.drawText(viewport()->rect().adjusted(kAire, kAire, -kAire, -kAire),
+                    Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, textoVacio_);
+}
+
+// A list that is filled and shown at once is measured once.
+void ListaVista::doItemsLayout() {
+    if (necesarios_.empty())
+        RepartirAnchos();
+    QTreeView::doItemsLayout();
+}
+
 void ListaVista::resizeEvent(QResizeEvent *evento) {
     QTreeView::resizeEvent(evento);
     RepartirAnchos();
 }
 
 void ListaVista::keyPressEvent(QKeyEvent *evento) {
+    if (OrdenarPorTecla(*evento))
+        return;
     const int antes = FilaActual();
     QTreeView::keyPressEvent(evento);
     if (EsDeMovimiento(*evento) || FilaActual() != antes)
@@ -162,29 +224,98 @@ QItemSelectionModel::SelectionFlags ListaVista::selectionCommand(const QModelInd
                             : QItemSelectionModel::SelectionFlags(QItemSelectionModel::NoUpdate);
 }
 
-// The caption with its sort icon, and the characters that the column promises.
-int ListaVista::AnchoMinimo(int columna) const {
+bool ListaVista::OrdenarPorTecla(const QKeyEvent &evento) {
+    const bool cifra = evento.key() >= Qt::Key_1 && evento.key() <= Qt::Key_9;
+    if (!cifra || evento.modifiers() != Qt::ControlModifier || !header()->sectionsClickable())
+        return false;
+    int visibles = evento.key() - Qt::Key_1;
+    for (int columna = 0; columna < header()->count(); ++columna)
+        if (!isColumnHidden(columna) && visibles-- == 0)
+            emit header()->sectionClicked(columna);
+    return true;
+}
+
+// --- widths
+
+// What stands beside the text of a cell: margins, lines, a check mark.
+int ListaVista::Bordes(int columna) const {
+    QStyleOptionViewItem opcion;
+    initViewItemOption(&opcion);
+    opcion.font = font();
+    opcion.text = QStringLiteral("0");
+    opcion.features = QStyleOptionViewItem::HasDisplay;
+    if (lista_->Filas() > 0 && lista_->flags(lista_->index(0, columna)).testFlag(Qt::ItemIsUserCheckable))
+        opcion.features |= QStyleOptionViewItem::HasCheckIndicator;
+    const int celda = style()->sizeFromContents(QStyle::CT_ItemViewItem, &opcion, {}, this).width();
+    return celda - fontMetrics().horizontalAdvance(opcion.text) + 2;
+}
+
+int ListaVista::Medir(int columna, const QStringList &textos) const {
+    const bool derecha = lista_->Columnas()[static_cast<std::size_t>(columna)].derecha;
+    int ancho = 0;
+    for (QString texto : textos) {
+        texto.truncate(derecha ? kCifrasDeImporte : kLetrasMedidas);
+        // Of two amounts with equally many letters the one with more figures is the wider one.
+        if (derecha)
+            texto.replace(QLatin1Char('-'), QLatin1Char('0'));
+        ancho = std::max(ancho, fontMetrics().horizontalAdvance(texto));
+    }
+    return ancho == 0 ? 0 : ancho + Bordes(columna);
+}
+
+void ListaVista::MedirColumnas() {
+    necesarios_.clear();
+    scheduleDelayedItemsLayout();
+}
+
+// New texts can only need more room: what the others need stays.
+void ListaVista::Ensanchar(int desde, int hasta) {
+    if (hasta - desde >= kFilasSueltas)
+        MedirColumnas();
+    if (necesarios_.empty())
+        return;
+    bool crece = false;
+    for (int columna = 0; columna < lista_->columnCount(); ++columna) {
+        if (isColumnHidden(columna))
+            continue;
+        QStringList textos;
+        for (int fila = desde; fila <= hasta; ++fila)
+            textos.append(lista_->Celda(fila, columna));
+        int &necesario = necesarios_[static_cast<std::size_t>(columna)];
+        const int nuevo = Medir(columna, textos);
+        crece = crece || nuevo > necesario;
+        necesario = std::max(necesario, nuevo);
+    }
+    if (crece)
+        RepartirAnchos();
+}
+
+// At least the caption with its sort icon; a number whole, a code as far as it can be read.
+AnchoColumna ListaVista::AnchoDe(int columna) const {
+    const auto i = static_cast<std::size_t>(columna);
+    const ColumnaLista &especificacion = lista_->Columnas()[i];
     const int rotulo = header()->sectionSizeHint(columna);
-    const int legibles = lista_->Columnas()[static_cast<std::size_t>(columna)].legibles;
-    if (legibles == 0)
-        return rotulo;
-    return qMax(rotulo, fontMetrics().horizontalAdvance(QString(legibles, u'0')) + kBordesCelda);
+    const int necesario = std::max(rotulo, necesarios_[i]);
+    const int legible = fontMetrics().horizontalAdvance(QString(especificacion.legibles, u'0'));
+    const int leido = especificacion.legibles > 0 ? std::min(necesario, legible + Bordes(columna)) : rotulo;
+    return {anchos_[i], especificacion.derecha ? necesario : std::max(rotulo, leido), necesario};
 }
 
 void ListaVista::RepartirAnchos() {
     if (lista_.isNull())
         return;
+    if (necesarios_.empty())
+        for (int i = 0; i < lista_->columnCount(); ++i)
+            necesarios_.push_back(isColumnHidden(i) ? 0 : Medir(i, lista_->MasLargos(i, kMuestra)));
     std::vector<int> columnas;
-    std::vector<int> pesos;
-    std::vector<int> minimos;
+    std::vector<AnchoColumna> necesitan;
     for (int i = 0; i < static_cast<int>(anchos_.size()); ++i) {
         if (isColumnHidden(i))
             continue;
         columnas.push_back(i);
-        pesos.push_back(anchos_[static_cast<std::size_t>(i)]);
-        minimos.push_back(AnchoMinimo(i));
+        necesitan.push_back(AnchoDe(i));
     }
-    const std::vector<int> anchos = RepartirAncho(viewport()->width(), pesos, minimos);
+    const std::vector<int> anchos = RepartirAncho(viewport()->width(), necesitan);
     const QScopedValueRollback repartiendo(repartiendo_, true);
     for (std::size_t i = 0; i < columnas.size(); ++i)
         setColumnWidth(columnas[i], anchos[i]);

@@ -1,6 +1,11 @@
 // The one list view: a flat tree view on a ListaTexto, with single selection of whole rows.
+//
+// Columns take what their texts need before the rest is shared out: numbers and amounts are never cut, of the
+// others the widest give way first, and a cell that is cut shows its text in a tooltip. Ctrl+1 to Ctrl+9 sort
+// as a click on that visible header does. A list without rows says what to do.
 #pragma once
 
+#include "desktop/anchos.h"
 #include "desktop/listatexto.h"
 
 #include <QPointer>
@@ -10,11 +15,12 @@ namespace tarvo {
 
 class ListaVista : public QTreeView {
     Q_OBJECT
+    Q_PROPERTY(QString textoVacio MEMBER textoVacio_ WRITE PonerTextoVacio)
   public:
     explicit ListaVista(QWidget *padre = nullptr);
 
-    // Shows `lista`: hidden columns are hidden, the visible ones share the width in proportion to their
-    // twips, a click on a header sorts.
+    // Shows `lista`: hidden columns are hidden, the visible ones share what is to spare of the width in
+    // proportion to their twips, a click on a header sorts.
     void Mostrar(ListaTexto *lista);
     ListaTexto *Lista() const { return lista_.data(); }
 
@@ -23,6 +29,8 @@ class ListaVista : public QTreeView {
     void SeleccionarFila(int fila);
     // Changes the width of a column, in twips, as a resize rule of a window asks.
     void PonerAncho(int columna, int twips);
+    // What stands in the list while it has no rows, and is read aloud: "Todavía no hay ...".
+    void PonerTextoVacio(const QString &texto);
     // True exactly when a scroll bar takes room: the rows exceed Int(height / row - 1.5), where `row` is the
     // height of a row and the 1.5 are header and frame, both as high as font and style make them.
     bool DesbordaFilas() const;
@@ -30,6 +38,7 @@ class ListaVista : public QTreeView {
     // Rows are all of one height, so both are told from the row number, whatever the number of rows.
     QRect visualRect(const QModelIndex &indice) const override;
     void scrollTo(const QModelIndex &indice, ScrollHint donde = EnsureVisible) override;
+    void doItemsLayout() override;
 
   signals:
     void FilaPulsada(int fila); // a click or an arrow key chose a row
@@ -37,6 +46,8 @@ class ListaVista : public QTreeView {
     void Ordenada(); // a header click has sorted
 
   protected:
+    void changeEvent(QEvent *evento) override;
+    void paintEvent(QPaintEvent *evento) override;
     void resizeEvent(QResizeEvent *evento) override;
     void keyPressEvent(QKeyEvent *evento) override;
     void mousePressEvent(QMouseEvent *evento) override;
@@ -46,13 +57,22 @@ class ListaVista : public QTreeView {
 
   private:
     void Encabezar();
+    void Seguir();
     void RepartirAnchos();
-    int AnchoMinimo(int columna) const;
+    AnchoColumna AnchoDe(int columna) const;
+    int Bordes(int columna) const;
+    void MedirColumnas();
+    int Medir(int columna, const QStringList &textos) const;
+    void Ensanchar(int desde, int hasta);
+    bool OrdenarPorTecla(const QKeyEvent &evento);
+    void DecirVacia();
     void Arrastrado();
     QPointer<ListaTexto> lista_;
-    std::vector<int> anchos_; // twips, by column
+    std::vector<int> anchos_;     // twips, by column
+    std::vector<int> necesarios_; // pixels that the texts of each column need; empty: to be measured
+    QString textoVacio_;
     bool repartiendo_ = false;
-    QMetaObject::Connection seguimiento_;
+    QList<QMetaObject::Connection> seguimiento_;
 };
 
 } // namespace tarvo
