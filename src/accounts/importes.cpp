@@ -4,7 +4,6 @@ namespace tarvo {
 
 namespace {
 constexpr qsizetype kCaracteresSimbolo = 2; // of the signed text, whatever the length of sCurrency
-constexpr std::size_t kLargoMayor = 300;    // a double ends soon behind it
 } // namespace
 
 Importes::Importes(const Moneda &moneda) : moneda_(&moneda), simbolo_(moneda.sCurrency().toStdString()) {
@@ -31,7 +30,7 @@ void Importes::AgregarConSigno(std::string &salida, std::string_view monto, std:
 
 std::optional<double> Importes::Leer(std::string_view celda) const {
     const std::string_view numero = SinSimbolo(celda);
-    if (numero.size() > kLargoMayor || !Moneda::EsNumero(numero))
+    if (!Moneda::EsNumero(numero))
         return std::nullopt;
     return moneda_->Numero(numero);
 }

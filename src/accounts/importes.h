@@ -27,8 +27,8 @@ class Importes {
     // The first two characters of a money text, `signo`, and what stands behind its symbol.
     void AgregarConSigno(std::string &salida, std::string_view monto, std::string_view signo) const;
 
-    // A cell less its symbol as a number; empty text counts as 0. Nothing when it is no number, or one of
-    // more than 300 characters: such can't be added up.
+    // A cell less its symbol as a number; empty text counts as 0. Nothing when it is no number, as
+    // one too long to be added up.
     std::optional<double> Leer(std::string_view celda) const;
 
   private:

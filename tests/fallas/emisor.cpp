@@ -5,6 +5,7 @@
 //                            else, and "CONSTA" with the sales and changed stocks that the cursors then show;
 //                            after an error once more on a healed disk, "ANTERIOR" when the first one turns
 //                            out to stand
+//   emisor otra CARPETA      the same, but the second try is another operation: "OTRA"
 //   emisor retener CARPETA   opens the files when a byte comes in, insisting; tells "ABIERTO" or "OCUPADO"
 //   and
 //                            holds them until its input ends
@@ -29,8 +30,8 @@ void Decir(const QString &linea) {
     std::fflush(stdout);
 }
 
-void Vender(FrmBases &bases) {
-    Transaccion transaccion(bases, {QStringLiteral("venta")});
+void Vender(FrmBases &bases, const QString &operacion) {
+    Transaccion transaccion(bases, {operacion});
     bases.datVentas.AddNew();
     bases.camVentTipo = QStringLiteral("Contado");
     bases.camVentTotal = QStringLiteral("$ 12,50");
@@ -53,9 +54,9 @@ int Vendidos(FrmBases &bases) {
     return vendidos;
 }
 
-bool Intentar(FrmBases &bases) {
+bool Intentar(FrmBases &bases, const char *operacion) {
     try {
-        Vender(bases);
+        Vender(bases, QString::fromUtf8(operacion));
         Decir(QStringLiteral("OK"));
         return true;
     } catch (const OperacionAnterior &anterior) {
@@ -95,10 +96,10 @@ int ConBases(const char *orden, FrmBases &bases) {
                   .arg(apertura.archivo, apertura.motivo));
         return 0;
     }
-    const bool hecho = Intentar(bases);
+    const bool hecho = Intentar(bases, "vender");
     SanarDisco();
     Contar(bases);
-    if (!hecho && Intentar(bases))
+    if (!hecho && Intentar(bases, orden))
         Contar(bases);
     return 0;
 }

@@ -23,15 +23,6 @@ ColumnaTexto Llena(int filas) {
     return columna;
 }
 
-TEST(ColumnaTexto, HoldsRowsAcrossChunkBorders) {
-    for (const int filas : {0, 1, 4095, 4096, 4097, 8192, 8193}) {
-        const ColumnaTexto columna = Llena(filas);
-        ASSERT_EQ(columna.Filas(), filas);
-        for (int i = 0; i < filas; ++i)
-            ASSERT_EQ(columna.Celda(i), "fila " + std::to_string(i));
-    }
-}
-
 TEST(ColumnaTexto, FollowsAVectorThroughRandomChanges) {
     ColumnaTexto columna = Llena(3 * 4096 + 7);
     std::vector<std::string> espejo = Celdas(columna);

@@ -202,16 +202,6 @@ TEST_F(PruebaCursor, AWalkFindsRowsOnBothSidesOfAChunkBorder) {
     EXPECT_EQ(marcados[0], T({"1,4095,4096,4097,4098"}));
 }
 
-TEST_F(PruebaCursor, AColumnTakenOutIsNoLongerTouchedByWrites) {
-    ConClientes(5);
-    const ColumnaTexto copia = b.camCliCodigo.Columna();
-    b.camCliCodigo = QStringLiteral("otro");
-    b.datClientes.Refresh();
-    b.datClientes.Delete();
-    EXPECT_EQ(copia.Filas(), 5);
-    EXPECT_EQ(copia.Celda(0), "c1");
-}
-
 TEST_F(PruebaCursor, SeekFindsIdsInATableWithGaps) {
     datos.Ejecutar("INSERT INTO Articulos(id, nombre) VALUES(5,'a'),(6,'b'),(9,'c'),(1000,'d'),(1001,'e')");
     datos.Abrir();

@@ -63,14 +63,14 @@ ResultadoApertura Programa::AbrirDatos() {
 void Programa::MostrarPrincipal(const ResultadoApertura &resultado) {
     const Servicios servicios{*frmBases_, preguntas_, reloj_, *impresoras_, ajustes_, escritorio_};
     frmPrincipal_ = std::make_unique<FrmPrincipal>(servicios, Componer(servicios), carpetaPrograma_);
-    Avisar(AvisoApertura(resultado));
     Avisar(AvisoLugar(frmBases_->CarpetaDatos(), carpetaPrograma_));
+    Avisar(AvisoApertura(resultado));
     QGuiApplication::setQuitOnLastWindowClosed(true);
     frmPrincipal_->Presentar(ATwips(frmPrincipal_->screen()->size().width()));
 }
 
 void Programa::Avisar(const QString &aviso) {
-    avisos_ << aviso;
+    avisos_.prepend(aviso);
     if (frmPrincipal_)
         frmPrincipal_->PonerAviso(UnirAvisos(avisos_));
 }

@@ -33,7 +33,7 @@ class Programa : public QObject {
     void Arrancar();
     ResultadoApertura AbrirDatos();
     void MostrarPrincipal(const ResultadoApertura &resultado);
-    // One more notice for the status bar, behind the ones that stand there; nothing when it is empty.
+    // One more notice for the status bar, before the ones that stand there; nothing when it is empty.
     void Avisar(const QString &aviso);
     void Abandonar(const QString &mensaje, Icono icono);
     void Cerrar();
