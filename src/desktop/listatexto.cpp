@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 namespace tarvo {
 
@@ -52,6 +53,7 @@ struct ListaTexto::Privado {
     std::vector<std::vector<Tono>> tonos; // by column; empty: all normal
     std::vector<bool> marcas;
     bool marcable = false;
+    std::int64_t senalada = -1;
     std::vector<Filas> rangos; // by column, once it was sorted by and until its cells change
     OrdenTexto comparador;
 
@@ -59,6 +61,12 @@ struct ListaTexto::Privado {
 
     std::uint32_t Guardada(int fila) const {
         return orden.empty() ? static_cast<std::uint32_t>(fila) : orden[static_cast<std::size_t>(fila)];
+    }
+    // -1 for a row that isn't there.
+    int EnPantalla(std::int64_t guardada) const {
+        if (guardada < 0 || orden.empty())
+            return static_cast<int>(guardada);
+        return static_cast<int>(std::ranges::find(orden, guardada) - orden.begin());
     }
     const ColumnaTexto &Columna(int columna) const { return celdas[static_cast<std::size_t>(columna)]; }
     std::string_view Celda(int fila, int columna) const { return Columna(columna).Celda(Guardada(fila)); }
@@ -92,6 +100,7 @@ struct ListaTexto::Privado {
             if (!tono.empty())
                 tono = Elegidas(tono, filas);
         marcas = Elegidas(marcas, filas);
+        senalada = -1;
         for (std::uint32_t &fila : orden)
             fila = nuevas[fila];
         std::erase(orden, kSobra);
@@ -145,6 +154,7 @@ void ListaTexto::Asignar(ContenidoLista contenido) {
     for (TonosColumna &columna : contenido.tonos)
         d_->tonos[static_cast<std::size_t>(columna.columna)] = std::move(columna.tonos);
     d_->marcas.assign(static_cast<std::size_t>(Filas()), false);
+    d_->senalada = -1;
     d_->Reordenar(columnaOrden_, orden_);
     columnaFlecha_ = FlechaDe(columnaOrden_);
     endResetModel();
@@ -184,6 +194,8 @@ void ListaTexto::QuitarFila(int fila) {
             d_->tonos[i].erase(d_->tonos[i].begin() + guardada);
     }
     d_->marcas.erase(d_->marcas.begin() + guardada);
+    if (d_->senalada >= guardada)
+        d_->senalada = d_->senalada == guardada ? -1 : d_->senalada - 1;
     if (!d_->orden.empty()) {
         d_->orden.erase(d_->orden.begin() + fila);
         for (std::uint32_t &otra : d_->orden)
@@ -239,6 +251,17 @@ void ListaTexto::Marcar(int fila, bool marcada) {
         return;
     d_->marcas[d_->Guardada(fila)] = marcada;
     emit dataChanged(index(fila, 0), index(fila, 0), {Qt::CheckStateRole});
+}
+
+void ListaTexto::Senalar(int fila) {
+    const std::int64_t nueva = fila < 0 ? -1 : static_cast<std::int64_t>(d_->Guardada(fila));
+    const std::int64_t vieja = std::exchange(d_->senalada, nueva);
+    if (vieja == nueva)
+        return;
+    for (const std::int64_t guardada : {vieja, nueva})
+        if (const int lugar = d_->EnPantalla(guardada); lugar >= 0)
+            emit dataChanged(index(lugar, 0), index(lugar, columnCount() - 1),
+                             {kRolSenalada, Qt::AccessibleDescriptionRole});
 }
 
 int ListaTexto::Buscar(int columna, std::string_view utf8, int desde) const {
@@ -335,6 +358,12 @@ QVariant ListaTexto::data(const QModelIndex &indice, int rol) const {
     case Qt::CheckStateRole:
         if (d_->marcable && indice.column() == 0)
             return Marcada(indice.row()) ? Qt::Checked : Qt::Unchecked;
+        return {};
+    case kRolSenalada:
+        return d_->Guardada(indice.row()) == d_->senalada;
+    case Qt::AccessibleDescriptionRole:
+        if (d_->Guardada(indice.row()) == d_->senalada)
+            return QStringLiteral("Los campos muestran los datos de esta fila");
         return {};
     default:
         return {};

@@ -65,6 +65,11 @@ class ListaTexto : public QAbstractTableModel {
     bool Marcada(int fila) const;
     void Marcar(int fila, bool marcada);
 
+    // One row can be marked as the one whose data the fields hold, while another one is selected; -1: none.
+    // It keeps its mark through sorts and changes, until the next fill.
+    void Senalar(int fila);
+    static constexpr int kRolSenalada = Qt::UserRole; // true for its cells
+
     // First row from `desde` on whose cell in `columna` is exactly `texto`; -1 when there is none.
     int Buscar(int columna, std::string_view utf8, int desde = 0) const;
     // First row from `desde` on with a cell of `columnas` that contains `texto`, case ignored; -1 when none.

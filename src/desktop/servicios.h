@@ -1,4 +1,4 @@
-// The services that windows and rules are given, built once in app/main.cpp.
+// The services that windows and rules are given, built once by the program (shell/ventanas/programa.h).
 #pragma once
 
 class QSettings;

@@ -1,4 +1,4 @@
-// The page machine of all listings, and the three listings of the master data.
+// The page machine of all listings.
 //
 // A page holds 51 counted rows, the first one 50: the counter starts at 1 and grows before each row. Columns
 // are counted from 1 here, as on a typewriter's tabulator. docs/papel.md shows each listing.
@@ -41,17 +41,12 @@ void TextoHasta(Superficie &papel, int columna, const QString &texto);
 // Prints `filas` rows; the printer may fail with ErrorDatos.
 void ImprimirListado(Superficie &papel, const Listado &listado, int filas);
 
-// A listing of the master data with what is asked before and said when it fails.
+// A listing with what is asked before and said when it fails.
 struct ReporteCatalogo {
     QString pregunta;
     QString mensajeError; // when it isn't the printer that fails
     Listado listado;
 };
-
-// The list must outlive the report; its rows are printed as they stand on screen.
-ReporteCatalogo ReporteClientes(const ListaTexto &lista);
-ReporteCatalogo ReporteArticulos(const ListaTexto &lista);
-ReporteCatalogo ReporteProveedores(const ListaTexto &lista);
 
 // Asks, prints `filas` rows on the current printer and tells a failure. True when the listing was printed.
 bool ImprimirReporte(Impresoras &impresoras, Preguntas &preguntas, const ReporteCatalogo &reporte, int filas);

@@ -27,6 +27,7 @@ std::vector<CampoDetalle> CamposDe(FrmBases &bases) {
         {.control = "cboxTipoIVA"},
         {.control = "cboxProveedor"},
         {.control = "txtAux"},
+        {.control = "cboxCategoria2"}, // stands there for its look only
     };
 }
 
@@ -113,17 +114,26 @@ ContenidoLista ArticulosLogica::LeerFilas() {
 
 void ArticulosLogica::Actualizar() {
     ListaDetalle::Actualizar();
+    if (EntradaEnCurso() || Lista().Filas() > 0)
+        return;
+    QuedarSinFila(Estado());
     // A filter that hides everything must stay within reach.
-    if (Lista().Filas() == 0)
-        vistaFiltro_.HabilitarFiltro(true);
+    vistaFiltro_.HabilitarFiltro(Panel() == PanelDetalle::Ninguno);
 }
 
 void ArticulosLogica::AlCambiarEstado() {
     const bool hayArticulos = frmBases().datArticulos.RecordCount() > 0;
-    vistaFiltro_.HabilitarFiltro(!EntradaEnCurso() && hayArticulos);
+    vistaFiltro_.HabilitarFiltro(!EntradaEnCurso() && hayArticulos && Panel() == PanelDetalle::Ninguno);
+}
+
+void ArticulosLogica::AlLlenar() {
+    categorias_.Leer();
+    tipos_.Leer();
+    proveedores_.Leer();
 }
 
 void ArticulosLogica::LlenarFiltroCategorias() {
+    categorias_.Leer();
     filtros_ = categorias_.Todas();
     filtros_.prepend(QStringLiteral("Sin categoría"));
     filtros_.prepend(QStringLiteral("Todas las categorías"));
@@ -132,9 +142,10 @@ void ArticulosLogica::LlenarFiltroCategorias() {
 }
 
 void ArticulosLogica::FiltrarCategoria(int indice) {
+    if (EntradaEnCurso() || Panel() != PanelDetalle::Ninguno)
+        return;
     if (indice == filtros_.size() - 1) {
-        vistaFiltro_.MostrarPanelCategoria(true);
-        vistaFiltro_.EnfocarCatCodigo();
+        AbrirPanel(PanelDetalle::Categoria);
     } else {
         indiceFiltro_ = indice;
         filtro_ = indice == 0 ? kTodas : kSinCategoria;
@@ -142,6 +153,8 @@ void ArticulosLogica::FiltrarCategoria(int indice) {
             filtro_ = categorias_.IdDe(filtros_[indice]).toInt();
     }
     LlenarListaArticulos(filtro_);
+    if (Lista().Filas() == 0)
+        QuedarSinFila(EstadoDetalle::Vacia);
 }
 
 // --- new category
@@ -180,13 +193,13 @@ void ArticulosLogica::GuardarCategoria(const QString &codigo, const QString &nom
     if (!guardada)
         return;
     LlenarFiltroCategorias();
-    vistaFiltro_.MostrarPanelCategoria(false);
+    CerrarPanel();
     vistaFiltro_.ElegirFiltro(0);
     FiltrarCategoria(0);
 }
 
 void ArticulosLogica::CancelarCategoria() {
-    vistaFiltro_.MostrarPanelCategoria(false);
+    CerrarPanel();
     vistaFiltro_.ElegirFiltro(indiceFiltro_);
 }
 

@@ -13,15 +13,13 @@
 
 namespace tarvo {
 
-// The window's part that the pattern doesn't know: filter combo and new category panel.
+// The window's part that the pattern doesn't know: the filter combo and the fields of the new category.
 class VistaFiltro {
   public:
     virtual ~VistaFiltro() = default;
     virtual void PonerFiltros(const QStringList &entradas) = 0;
     virtual void ElegirFiltro(int indice) = 0;
     virtual void HabilitarFiltro(bool habilitado) = 0;
-    // Shows the panel with empty fields over a disabled list, or hides it.
-    virtual void MostrarPanelCategoria(bool visible) = 0;
     virtual void EnfocarCatCodigo() = 0;
     virtual void EnfocarCatCategoria() = 0;
 };
@@ -46,7 +44,8 @@ class ArticulosLogica : public ListaDetalle {
         kCategoria,
         kTipoIVA,
         kProveedor,
-        kAux
+        kAux,
+        kCategoria2
     };
 
     ArticulosLogica(FrmBases &frmBases, Preguntas &preguntas, VistaDetalle &vista, VistaFiltro &vistaFiltro,
@@ -61,7 +60,6 @@ class ArticulosLogica : public ListaDetalle {
     // An entry of the filter was chosen.
     void FiltrarCategoria(int indice);
     int IdFiltro() const { return filtro_; }
-    void LlenarFiltroCategorias();
 
     // --- new category panel
     void GuardarCategoria(const QString &codigo, const QString &nombre);
@@ -84,6 +82,7 @@ class ArticulosLogica : public ListaDetalle {
     void CalcularPVenta();
 
   protected:
+    void AlLlenar() override;
     ContenidoLista LeerFilas() override;
     void AlMostrar() override;
     bool CamposValidos() override;
@@ -94,6 +93,7 @@ class ArticulosLogica : public ListaDetalle {
     QString CeldaGuardada(int columna) const override;
 
   private:
+    void LlenarFiltroCategorias();
     void LlenarCategorias();
     void LlenarTiposIVA();
     void LlenarProveedores();

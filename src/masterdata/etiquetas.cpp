@@ -28,32 +28,17 @@ QString Etiquetas::DeFila(int fila) const {
     return textos.join(QStringLiteral(" - ")) + final_;
 }
 
-QStringList Etiquetas::Todas() const {
-    QStringList todas;
+void Etiquetas::Leer() {
+    todas_.clear();
+    idDe_.clear();
+    deId_.clear();
     const int filas = Filas();
-    todas.reserve(filas);
-    for (int fila = 0; fila < filas; ++fila)
-        todas << DeFila(fila);
-    return todas;
-}
-
-QString Etiquetas::IdDe(const QString &etiqueta) const {
-    const int filas = Filas();
-    for (int fila = 0; fila < filas; ++fila) {
-        if (DeFila(fila) == etiqueta)
-            return id_.Columna().Texto(fila);
+    for (int fila = filas - 1; fila >= 0; --fila) { // so that the first of equal ones is the one that stays
+        const QString id = id_.Columna().Texto(fila);
+        todas_.prepend(DeFila(fila));
+        idDe_.insert(todas_.first(), id);
+        deId_.insert(id, todas_.first());
     }
-    return {};
-}
-
-QString Etiquetas::DeId(const QString &id) const {
-    const std::string buscado = id.toStdString();
-    const int filas = Filas();
-    for (int fila = 0; fila < filas; ++fila) {
-        if (id_.Columna().Celda(fila) == buscado)
-            return DeFila(fila);
-    }
-    return {};
 }
 
 } // namespace tarvo

@@ -7,7 +7,7 @@
 #include "store/store.h"
 
 #include <algorithm>
-#include <cstring>
+#include <utility>
 
 namespace tarvo {
 
@@ -23,8 +23,6 @@ std::vector<ColumnaLista> ColumnasDe(const ReglasDetalle &reglas) {
 std::string_view Vista8(const QByteArray &bytes) {
     return {bytes.constData(), static_cast<std::size_t>(bytes.size())};
 }
-
-constexpr Botones kBotonesViendo{true, true, true, true, false, true, true};
 
 } // namespace
 
@@ -43,14 +41,6 @@ ListaDetalle::ListaDetalle(FrmBases &frmBases, Preguntas &preguntas, VistaDetall
 
 ListaDetalle::~ListaDetalle() = default;
 
-int ListaDetalle::IndiceDe(const char *control) const {
-    for (std::size_t i = 0; i < reglas_.campos.size(); ++i) {
-        if (std::strcmp(reglas_.campos[i].control, control) == 0)
-            return static_cast<int>(i);
-    }
-    return -1;
-}
-
 // --- list and fields
 
 void ListaDetalle::LlenarLista() {
@@ -65,20 +55,22 @@ void ListaDetalle::LlenarLista() {
 void ListaDetalle::Llenar() {
     indice_.Olvidar();
     idMostrado_.clear();
+    AlLlenar();
     CargarColumnas();
     if (reglas_.cursor.RecordCount() == 0) {
         lista_.Limpiar();
-        PasarAVacia();
+        QuedarSinFila(EstadoDetalle::Vacia);
         return;
     }
     lista_.Asignar(LeerFilas());
     Exportar(true);
+    camposGrises_ = false;
+    Pasar(EstadoDetalle::Viendo);
     if (lista_.Filas() == 0) {
-        PasarAVacia();
+        VaciarCampos();
         return;
     }
     vista_.SeleccionarFila(0);
-    PasarAViendo();
     if (reglas_.enfocarAlLlenar)
         vista_.EnfocarLista();
     Mostrar();
@@ -125,6 +117,13 @@ void ListaDetalle::Mostrar() {
     } catch (const ErrorDatos &) {
         // The row can't be read: the fields stay half filled, as the operator has always seen it.
     }
+    SenalarMostrada();
+}
+
+// Marked only while another row is the selected one.
+void ListaDetalle::SenalarMostrada() {
+    const int fila = FilaMostrada();
+    lista_.Senalar(fila == vista_.FilaActual() ? -1 : fila);
 }
 
 QString ListaDetalle::AMostrar(int, const QString &guardado) const {
@@ -146,52 +145,81 @@ QString ListaDetalle::CeldaGuardada(int columna) const {
 
 // --- states
 
-void ListaDetalle::PonerBotones(const Botones &botones) {
-    botones_ = botones;
-    vista_.MostrarBotones(botones_);
+void ListaDetalle::Pasar(EstadoDetalle estado) {
+    estado_ = estado;
+    Habilitar();
+}
+
+void ListaDetalle::Habilitar() {
+    const bool nueva = estado_ == EstadoDetalle::Nueva;
+    Habilitados habilitados;
+    habilitados.controles = panel_ == PanelDetalle::Ninguno;
+    habilitados.lista = !nueva && panel_ != PanelDetalle::Categoria;
+    habilitados.campos = nueva || !camposGrises_;
+    habilitados.botones = BotonesDelEstado();
+    vista_.Habilitar(habilitados);
     AlCambiarEstado();
 }
 
-void ListaDetalle::PasarAVacia() {
-    estado_ = EstadoDetalle::Vacia;
-    for (std::size_t i = 0; i < reglas_.campos.size(); ++i)
-        vista_.Poner(static_cast<int>(i), {});
-    vista_.HabilitarCampos(false);
-    Botones botones{true, false, false, true, false, botones_.buscar, botones_.imprimir};
-    if (reglas_.vaciaApagaBusqueda)
-        botones.buscar = botones.imprimir = false;
-    PonerBotones(botones);
+Botones ListaDetalle::BotonesDelEstado() const {
+    if (panel_ != PanelDetalle::Ninguno)
+        return {};
+    const bool nueva = estado_ == EstadoDetalle::Nueva;
+    const bool viendo = estado_ == EstadoDetalle::Viendo;
+    const bool vacia = estado_ == EstadoDetalle::Vacia || (nueva && desdeVacia_);
+    const bool busca = !(vacia && reglas_.vaciaApagaBusqueda);
+    return {!nueva, nueva || viendo, viendo, !nueva, nueva, busca, busca};
 }
 
-void ListaDetalle::PasarAViendo() {
-    estado_ = EstadoDetalle::Viendo;
-    vista_.HabilitarCampos(true);
-    PonerBotones(kBotonesViendo);
+void ListaDetalle::VaciarCampos() {
+    for (std::size_t i = 0; i < reglas_.campos.size(); ++i)
+        vista_.Poner(static_cast<int>(i), {});
+}
+
+void ListaDetalle::QuedarSinFila(EstadoDetalle estado) {
+    VaciarCampos();
+    camposGrises_ = true;
+    Pasar(estado);
 }
 
 void ListaDetalle::Nuevo() {
-    if (!botones_.nuevo)
+    if (!BotonesDelEstado().nuevo)
         return;
-    estado_ = EstadoDetalle::Nueva;
+    desdeVacia_ = estado_ == EstadoDetalle::Vacia;
     idMostrado_.clear();
-    vista_.HabilitarCampos(true);
+    lista_.Senalar(-1);
     for (std::size_t i = 0; i < reglas_.campos.size(); ++i)
         vista_.Poner(static_cast<int>(i), reglas_.campos[i].inicial);
     AlNuevo();
-    PonerBotones({false, true, false, false, true, botones_.buscar, botones_.imprimir});
-    vista_.HabilitarLista(false);
+    Pasar(EstadoDetalle::Nueva);
     vista_.EnfocarCampo(0);
 }
 
-void ListaDetalle::Cancelar() {
-    if (!botones_.cancelar)
+bool ListaDetalle::AbrirPanel(PanelDetalle panel) {
+    const bool permitido = panel == PanelDetalle::Busqueda ? BotonesDelEstado().buscar : !EntradaEnCurso();
+    if (panel_ != PanelDetalle::Ninguno || !permitido)
+        return false;
+    panel_ = panel;
+    vista_.AbrirPanel(panel);
+    Habilitar();
+    return true;
+}
+
+void ListaDetalle::CerrarPanel() {
+    if (panel_ == PanelDetalle::Ninguno)
         return;
-    vista_.HabilitarLista(true);
-    LlenarLista();
+    const PanelDetalle abierto = std::exchange(panel_, PanelDetalle::Ninguno);
+    Habilitar();
+    vista_.CerrarPanel(abierto);
+}
+
+void ListaDetalle::Cancelar() {
+    if (BotonesDelEstado().cancelar)
+        LlenarLista();
 }
 
 void ListaDetalle::Actualizar() {
-    if (botones_.actualizar)
+    if (BotonesDelEstado().actualizar)
         LlenarLista();
 }
 
@@ -223,9 +251,11 @@ bool ListaDetalle::Buscar(const QString &texto, const std::vector<bool> &marcada
     if (texto.isEmpty())
         return false;
     const int fila = buscador_.Buscar(lista_, columnas, texto);
-    if (fila >= 0)
-        vista_.SeleccionarFila(fila);
-    return fila >= 0;
+    if (fila < 0)
+        return false;
+    vista_.SeleccionarFila(fila);
+    SenalarMostrada();
+    return true;
 }
 
 // --- writing
@@ -256,7 +286,7 @@ bool ListaDetalle::RequeridosLlenos() {
 }
 
 void ListaDetalle::Guardar() {
-    if (!botones_.guardar || !RequeridosLlenos() || !CamposValidos())
+    if (!BotonesDelEstado().guardar || !RequeridosLlenos() || !CamposValidos())
         return;
     const bool nueva = estado_ == EstadoDetalle::Nueva;
     if (!nueva && !preguntas_.Confirma(reglas_.preguntaModificar, Respuesta::No))
@@ -329,20 +359,19 @@ void ListaDetalle::TrasModificar(int fila) {
     if (fila >= 0)
         ActualizarFila(fila);
     Mostrar();
-    vista_.HabilitarLista(true);
     if (reglas_.enfocarTrasModificar)
         vista_.EnfocarLista();
 }
 
 void ListaDetalle::TrasAgregar() {
-    estado_ = EstadoDetalle::Viendo;
-    PonerBotones(kBotonesViendo);
-    vista_.HabilitarLista(true);
+    camposGrises_ = false;
+    Pasar(EstadoDetalle::Viendo);
     if (reglas_.rellenarAlGuardar || lista_.Filas() == 0) {
         LlenarLista();
     } else {
         AgregarFila();
         vista_.SeleccionarFila(lista_.Filas() - 1);
+        SenalarMostrada();
     }
     if (reglas_.nuevoTrasGuardar)
         Nuevo();
@@ -373,7 +402,7 @@ void ListaDetalle::AgregarFila() {
 }
 
 void ListaDetalle::Eliminar() {
-    if (!botones_.eliminar)
+    if (!BotonesDelEstado().eliminar)
         return;
     if (!reglas_.avisoUltimaFila.isEmpty() && lista_.Filas() == 1) {
         preguntas_.Informar(reglas_.avisoUltimaFila);

@@ -5,8 +5,10 @@
 // its exceptions. What is on screen lies behind VistaDetalle, so that everything here runs without a window.
 //
 // The fields belong to the row that was shown last, whatever row of the list a search has selected since:
-// save and delete act on that row. A new row is begun in the table only when it is saved, so nothing that
-// refreshes the table in the meantime can store it half done.
+// save and delete act on that row, and the list marks it while another one is selected. What can be used
+// follows from the state alone: rows or none, a new row or not, a panel above or not. A new row is begun in
+// the table only when it is saved, so nothing that refreshes the table in the meantime can store it half
+// done.
 #pragma once
 
 #include "desktop/buscador.h"
@@ -86,6 +88,11 @@ class ListaDetalle {
     void Eliminar();
     void Cancelar();
     virtual void Actualizar();
+    // Opens a panel above the window; false when one is open already, and for what a new row or an empty list
+    // doesn't allow.
+    bool AbrirPanel(PanelDetalle panel);
+    void CerrarPanel();
+    PanelDetalle Panel() const { return panel_; }
     // Selects the next row in which a marked column contains `texto`, without showing it in the fields. False
     // when there is none, `texto` is empty, or no column is marked (which is told).
     bool Buscar(const QString &texto, const std::vector<bool> &marcadas);
@@ -97,7 +104,7 @@ class ListaDetalle {
     void Mostrar();
 
     EstadoDetalle Estado() const { return estado_; }
-    bool EntradaEnCurso() const { return !botones_.nuevo; }
+    bool EntradaEnCurso() const { return estado_ == EstadoDetalle::Nueva; }
     bool PermiteCerrarPrograma();
     // The window goes: nothing can be exported any longer.
     void AlCerrar();
@@ -105,13 +112,11 @@ class ListaDetalle {
     ListaTexto &Lista() { return lista_; }
     const ListaTexto &Lista() const { return lista_; }
     const ReglasDetalle &Reglas() const { return reglas_; }
-    const Botones &botones() const { return botones_; }
-    Buscador &buscador() { return buscador_; }
-    // Position of the field `control` in the field table; -1 when there is none.
-    int IndiceDe(const char *control) const;
 
   protected:
     // --- exceptions
+    // A fill begins: what else comes from tables is read again.
+    virtual void AlLlenar() {}
     // The rows of the table; each column as it is stored, if nothing else is said.
     virtual ContenidoLista LeerFilas();
     // The fields were filled from the current row of the table.
@@ -120,7 +125,7 @@ class ListaDetalle {
     virtual bool CamposValidos() { return true; }
     // The fields were emptied for a new row; the list is still enabled.
     virtual void AlNuevo() {}
-    // State or buttons have changed.
+    // The state has changed, and with it what can be used.
     virtual void AlCambiarEstado() {}
     // Text of a stored column in its field, and text of a field as it is stored.
     virtual QString AMostrar(int campo, const QString &guardado) const;
@@ -137,14 +142,18 @@ class ListaDetalle {
     // Stores what `escribir` writes (see Almacenar); `accion` and `textos` name the operation.
     bool EnTransaccion(const QString &accion, const QStringList &textos,
                        const std::function<void()> &escribir);
-    void PonerBotones(const Botones &botones);
+    // No row is shown: the fields are emptied and grey. The state says what the buttons do.
+    void QuedarSinFila(EstadoDetalle estado);
 
   private:
     void Llenar();
     void CargarColumnas();
     bool Posicionar(const QString &id);
-    void PasarAVacia();
-    void PasarAViendo();
+    void Pasar(EstadoDetalle estado);
+    void Habilitar();
+    Botones BotonesDelEstado() const;
+    void VaciarCampos();
+    void SenalarMostrada();
     bool RequeridosLlenos();
     int FilaMostrada() const;
     bool HayDuplicado(int filaPropia);
@@ -167,7 +176,9 @@ class ListaDetalle {
     IndiceTextos indice_;
     Buscador buscador_;
     EstadoDetalle estado_ = EstadoDetalle::Vacia;
-    Botones botones_;
+    bool desdeVacia_ = true;   // a new row was begun in the state Vacia
+    bool camposGrises_ = true; // no row is shown, in whatever state
+    PanelDetalle panel_ = PanelDetalle::Ninguno;
     QString idMostrado_; // row whose columns the fields hold; empty when none
     int columnaId_ = -1;
 };

@@ -61,7 +61,7 @@ class OpcionesPrueba : public testing::Test {
         QStringList filas;
         for (const auto &fila : mundo.datos.Filas(sql))
             filas << QStringList(fila.begin(), fila.end()).join(QLatin1Char('|'));
-        return filas.join(QStringLiteral("; "));
+        return filas.join(u"; "_qs);
     }
 };
 

@@ -4,8 +4,7 @@
 
 #include <QLabel>
 
-using namespace tarvo;
-
+namespace tarvo {
 namespace {
 
 class Ventana : public OpcionesPrueba {
@@ -28,7 +27,7 @@ TEST_F(Ventana, TheTreeShowsOnePanelUnderItsTitle) {
         {"Impresión", "Impresión", "frImpresion", "Configuración de impresión"},
     };
     Abrir();
-    EXPECT_EQ(ventana->windowTitle(), QStringLiteral("Opciones"));
+    EXPECT_EQ(ventana->windowTitle(), u"Opciones"_qs);
     auto *arbol = Control<QTreeView>(*ventana, "TVOpciones");
     ASSERT_EQ(arbol->model()->rowCount(), 4);
     arbol->setFocus();
@@ -44,15 +43,15 @@ TEST_F(Ventana, TheTreeShowsOnePanelUnderItsTitle) {
         Tecla(arbol, Qt::Key_Down);
     }
     Abrir(true); // for the invoice designer
-    EXPECT_EQ(PanelesVisibles(), QStringLiteral("frImpresion"));
-    EXPECT_EQ(Titulo(), QStringLiteral("Configuración de impresión"));
+    EXPECT_EQ(PanelesVisibles(), u"frImpresion"_qs);
+    EXPECT_EQ(Titulo(), u"Configuración de impresión"_qs);
 }
 
 TEST_F(Ventana, TheListOfTheFirstPanelHasTheFocusAtTheOpening) {
     Sql("INSERT INTO Iva (codigo, tipo, porcentaje) VALUES ('1', 'Normal', '22')");
     Sql("INSERT INTO Vendedores (codigo, nombre) VALUES ('1', 'Ana')");
     Abrir();
-    EXPECT_EQ(ConFoco(), QStringLiteral("LVIVA"));
+    EXPECT_EQ(ConFoco(), u"LVIVA"_qs);
 }
 
 TEST_F(Ventana, ASellerIsEnteredWithTheKeyboardAlone) {
@@ -64,14 +63,14 @@ TEST_F(Ventana, ASellerIsEnteredWithTheKeyboardAlone) {
         tarvo::Teclear(QApplication::focusWidget(), QString::fromUtf8(texto));
         Tecla(QApplication::focusWidget(), Qt::Key_Return);
     }
-    EXPECT_EQ(ConFoco(), QStringLiteral("cmdVenGuardar"));
+    EXPECT_EQ(ConFoco(), u"cmdVenGuardar"_qs);
     Tecla(QApplication::focusWidget(), Qt::Key_Return);
     EXPECT_EQ(Filas("SELECT codigo, nombre, documento, direccion, telefono, mail, otros FROM Vendedores"),
-              QStringLiteral("1|Ñandú|30-1|Calle 2|555|a@b|ninguno"));
-    EXPECT_EQ(ConFoco(), QStringLiteral("LVVendedores"));
+              u"1|Ñandú|30-1|Calle 2|555|a@b|ninguno"_qs);
+    EXPECT_EQ(ConFoco(), u"LVVendedores"_qs);
     Boton("cmdVenNuevo")->click();
     Boton("cmdVenCancelar")->click();
-    EXPECT_EQ(Texto("txtVenEmail") + Texto("txtVenOtros"), QStringLiteral("a@bninguno"));
+    EXPECT_EQ(Texto("txtVenEmail") + Texto("txtVenOtros"), u"a@bninguno"_qs);
 }
 
 TEST_F(Ventana, EnterInTheCategoryNameSavesAndInAListPressesNothing) {
@@ -80,9 +79,9 @@ TEST_F(Ventana, EnterInTheCategoryNameSavesAndInAListPressesNothing) {
     Pulsar("cmdCatNuevo");
     Teclear("txtCatCodigo", "1x2");
     Tecla(Campo("txtCatCodigo"), Qt::Key_Return);
-    tarvo::Teclear(QApplication::focusWidget(), QStringLiteral("Bebidas"));
+    tarvo::Teclear(QApplication::focusWidget(), u"Bebidas"_qs);
     Tecla(QApplication::focusWidget(), Qt::Key_Return);
-    EXPECT_EQ(Filas("SELECT codigo, categoria FROM Categorias"), QStringLiteral("12|Bebidas"));
+    EXPECT_EQ(Filas("SELECT codigo, categoria FROM Categorias"), u"12|Bebidas"_qs);
     Tecla(Lista("LVCategorias"), Qt::Key_Return);
     EXPECT_TRUE(Boton("cmdCatNuevo")->isEnabled());
 }
@@ -98,7 +97,7 @@ TEST_F(Ventana, ClosedTablesAreToldAndNotWritten) {
     MostrarVentana(*ventana);
     EsperaMensaje("No se pudo guardar: la tabla Factura no está abierta.", Icono::Critico);
     Teclear("txtLinDetalle", "5");
-    EXPECT_EQ(Texto("txtLinDetalle"), QStringLiteral("5"));
+    EXPECT_EQ(Texto("txtLinDetalle"), u"5"_qs);
     Pulsar("cmdLineasTicket");
     EsperaMensaje("No se pudo guardar: la tabla Ticket no está abierta.", Icono::Critico);
     Pulsar("cmdGuardarTicket");
@@ -111,3 +110,4 @@ TEST_F(Ventana, ClosedTablesAreToldAndNotWritten) {
 }
 
 } // namespace
+} // namespace tarvo

@@ -8,8 +8,7 @@
 #include <QFile>
 #include <QToolBar>
 
-using namespace tarvo;
-
+namespace tarvo {
 namespace {
 
 class Impresion : public OpcionesPrueba {
@@ -26,9 +25,9 @@ class Impresion : public OpcionesPrueba {
     QString CantLineas() { return Filas("SELECT cantlineas FROM Factura"); }
     // What the file itself holds, as another program would find it after a crash.
     QString EnDisco(const char *consulta) {
-        const QString copia = mundo.datos.Carpeta() + QStringLiteral("/copia.db");
+        const QString copia = mundo.datos.Carpeta() + u"/copia.db"_qs;
         QFile::remove(copia);
-        EXPECT_TRUE(QFile::copy(mundo.datos.Carpeta() + QStringLiteral("/config.mdb"), copia));
+        EXPECT_TRUE(QFile::copy(mundo.datos.Carpeta() + u"/config.mdb"_qs, copia));
         SQLite::Database base(copia.toStdString());
         return QString::fromStdString(base.execAndGet(consulta).getString());
     }
@@ -41,21 +40,21 @@ class Impresion : public OpcionesPrueba {
 TEST_F(Impresion, EveryChangeOfTheDetailLinesIsOnDiskAtOnce) {
     Sql("UPDATE Factura SET cantlineas = '9', rutafactura = '/f.kzd'");
     AbrirPanel();
-    EXPECT_EQ(Texto("txtLinDetalle"), QStringLiteral("9"));
+    EXPECT_EQ(Texto("txtLinDetalle"), u"9"_qs);
     Teclear("txtLinDetalle", "2");
-    EXPECT_EQ(EnDisco("SELECT cantlineas FROM Factura"), QStringLiteral("2"));
+    EXPECT_EQ(EnDisco("SELECT cantlineas FROM Factura"), u"2"_qs);
     Teclear("txtLinDetalle", "1a-5");
-    EXPECT_EQ(CantLineas(), QStringLiteral("15"));
+    EXPECT_EQ(CantLineas(), u"15"_qs);
     Control<QAbstractSlider>(*ventana, "FSBLinDetalle")->setValue(-29);
-    EXPECT_EQ(EnDisco("SELECT cantlineas FROM Factura"), QStringLiteral("29"));
+    EXPECT_EQ(EnDisco("SELECT cantlineas FROM Factura"), u"29"_qs);
     Tecla(Campo("txtLinDetalle"), Qt::Key_Up);
-    EXPECT_EQ(CantLineas(), QStringLiteral("30"));
+    EXPECT_EQ(CantLineas(), u"30"_qs);
     Campo("txtLinDetalle")->selectAll();
     Tecla(Campo("txtLinDetalle"), Qt::Key_Backspace);
-    EXPECT_EQ(CantLineas(), QStringLiteral("0"));
+    EXPECT_EQ(CantLineas(), u"0"_qs);
     Teclear("txtLinDetalle", "007");
-    EXPECT_EQ(CantLineas(), QStringLiteral("7"));
-    EXPECT_EQ(Filas("SELECT rutafactura FROM Factura"), QStringLiteral("/f.kzd"));
+    EXPECT_EQ(CantLineas(), u"7"_qs);
+    EXPECT_EQ(Filas("SELECT rutafactura FROM Factura"), u"/f.kzd"_qs);
 }
 
 TEST_F(Impresion, MoreThanThirtyLinesAreRefusedOnLeavingTheField) {
@@ -63,26 +62,26 @@ TEST_F(Impresion, MoreThanThirtyLinesAreRefusedOnLeavingTheField) {
     const char *mensaje = "La cantidad de lineas de detalle debe ser menor o igual a 30.";
     Teclear("txtLinDetalle", "45");
     Tecla(Campo("txtLinDetalle"), Qt::Key_Up);
-    EXPECT_EQ(CantLineas(), QStringLiteral("46")); // written while it is typed
+    EXPECT_EQ(CantLineas(), u"46"_qs); // written while it is typed
     EsperaMensaje(mensaje);
     Tecla(Campo("txtLinDetalle"), Qt::Key_Return);
-    EXPECT_EQ(Texto("txtLinDetalle"), QStringLiteral("30"));
-    EXPECT_EQ(CantLineas(), QStringLiteral("30"));
-    EXPECT_EQ(ConFoco(), QStringLiteral("txtLinDetalle"));
+    EXPECT_EQ(Texto("txtLinDetalle"), u"30"_qs);
+    EXPECT_EQ(CantLineas(), u"30"_qs);
+    EXPECT_EQ(ConFoco(), u"txtLinDetalle"_qs);
 
     Teclear("txtLinDetalle", "300");
     EsperaMensaje(mensaje);
     Tecla(Campo("txtLinDetalle"), Qt::Key_Escape); // closing the window leaves the field too
     EXPECT_TRUE(ventana->isVisible());
-    EXPECT_EQ(CantLineas(), QStringLiteral("30"));
-    EXPECT_EQ(Campo("txtLinDetalle")->selectedText(), QStringLiteral("30"));
+    EXPECT_EQ(CantLineas(), u"30"_qs);
+    EXPECT_EQ(Campo("txtLinDetalle")->selectedText(), u"30"_qs);
 
     Teclear("txtLinDetalle", "31");
     EsperaMensaje(mensaje);
     PulsarNodo(0);
-    EXPECT_EQ(CantLineas(), QStringLiteral("30"));
-    EXPECT_EQ(ConFoco(), QStringLiteral("txtLinDetalle"));
-    EXPECT_EQ(Campo("txtLinDetalle")->selectedText(), QStringLiteral("30"));
+    EXPECT_EQ(CantLineas(), u"30"_qs);
+    EXPECT_EQ(ConFoco(), u"txtLinDetalle"_qs);
+    EXPECT_EQ(Campo("txtLinDetalle")->selectedText(), u"30"_qs);
     PulsarNodo(0);
     EXPECT_TRUE(Control<QWidget>(*ventana, "frImpuestos")->isVisible());
     PulsarNodo(kNodoImpresion);
@@ -94,7 +93,7 @@ TEST_F(Impresion, MoreThanThirtyLinesAreRefusedOnLeavingTheField) {
 // --- printers
 
 TEST_F(Impresion, OnePrinterIsCheckedPerPurposeAndStoredAtOnce) {
-    mundo.ajustes.setValue(QStringLiteral("ImpTick"), QStringLiteral("Láser"));
+    mundo.ajustes.setValue(u"ImpTick"_qs, u"Láser"_qs);
     AbrirPanel();
     ListaVista *ticket = Lista("LVImpTick");
     ListaVista *listado = Lista("LVImpList");
@@ -104,34 +103,34 @@ TEST_F(Impresion, OnePrinterIsCheckedPerPurposeAndStoredAtOnce) {
             texto += lista->Lista()->Marcada(fila) ? QLatin1Char('x') : QLatin1Char('-');
         return texto;
     };
-    EXPECT_EQ(marcas(ticket), QStringLiteral("-x-"));
-    EXPECT_EQ(marcas(listado), QStringLiteral("---"));
+    EXPECT_EQ(marcas(ticket), u"-x-"_qs);
+    EXPECT_EQ(marcas(listado), u"---"_qs);
     EXPECT_EQ(ticket->FilaActual(), 0);
-    EXPECT_FALSE(mundo.ajustes.contains(QStringLiteral("ImpList"))); // filling chooses nothing
+    EXPECT_FALSE(mundo.ajustes.contains(u"ImpList"_qs)); // filling chooses nothing
 
     const auto clic = [](ListaVista *lista, int fila, int x) {
         const QRect celda = lista->visualRect(lista->model()->index(fila, 0));
         QTest::mouseClick(lista->viewport(), Qt::LeftButton, {}, QPoint(x, celda.center().y()));
     };
     clic(ticket, 0, 120);
-    EXPECT_EQ(marcas(ticket), QStringLiteral("x--"));
+    EXPECT_EQ(marcas(ticket), u"x--"_qs);
     clic(ticket, 0, 12); // the check box of the checked row: it can't be emptied
-    EXPECT_EQ(marcas(ticket), QStringLiteral("x--"));
+    EXPECT_EQ(marcas(ticket), u"x--"_qs);
     clic(ticket, 2, 12);
-    EXPECT_EQ(marcas(ticket), QStringLiteral("--x"));
+    EXPECT_EQ(marcas(ticket), u"--x"_qs);
     EXPECT_EQ(ticket->FilaActual(), 2);
     ASSERT_TRUE(listado->model()->setData(listado->model()->index(1, 0), Qt::Checked, Qt::CheckStateRole));
-    EXPECT_EQ(marcas(listado), QStringLiteral("-x-"));
+    EXPECT_EQ(marcas(listado), u"-x-"_qs);
 
     const QSettings otra(mundo.ajustes.fileName(), QSettings::IniFormat);
-    EXPECT_EQ(otra.value(QStringLiteral("ImpTick")).toString(), QStringLiteral("PDF"));
-    EXPECT_EQ(otra.value(QStringLiteral("ImpList")).toString(), QStringLiteral("Láser"));
+    EXPECT_EQ(otra.value(u"ImpTick"_qs).toString(), u"PDF"_qs);
+    EXPECT_EQ(otra.value(u"ImpList"_qs).toString(), u"Láser"_qs);
 
-    mundo.impresoras.nombres = {QStringLiteral("Nueva"), QStringLiteral("Láser")};
+    mundo.impresoras.nombres = {u"Nueva"_qs, u"Láser"_qs};
     Pulsar("cmdImpActualizar");
-    EXPECT_EQ(marcas(ticket), QStringLiteral("--")); // the stored one is switched off
-    EXPECT_EQ(marcas(listado), QStringLiteral("-x"));
-    EXPECT_EQ(mundo.ajustes.value(QStringLiteral("ImpTick")).toString(), QStringLiteral("PDF"));
+    EXPECT_EQ(marcas(ticket), u"--"_qs); // the stored one is switched off
+    EXPECT_EQ(marcas(listado), u"-x"_qs);
+    EXPECT_EQ(mundo.ajustes.value(u"ImpTick"_qs).toString(), u"PDF"_qs);
     mundo.impresoras.nombres.clear();
     Pulsar("cmdImpActualizar");
     EXPECT_EQ(ticket->FilaActual(), -1);
@@ -154,8 +153,8 @@ TEST_F(Impresion, TheTicketLinesAreEditedAboveTheWindow) {
     Pulsar("cmdLineasTicket");
     EXPECT_TRUE(picTicket()->isVisible());
     EXPECT_FALSE(Control<QWidget>(*ventana, "frFondo")->isEnabled());
-    EXPECT_EQ(ConFoco(), QStringLiteral("txtLinea1"));
-    EXPECT_EQ(Texto("txtLinea1"), QStringLiteral("Tarvo"));
+    EXPECT_EQ(ConFoco(), u"txtLinea1"_qs);
+    EXPECT_EQ(Texto("txtLinea1"), u"Tarvo"_qs);
     EXPECT_TRUE(Campo("txtLinea1")->font().bold());
     EXPECT_FALSE(Negrita("tbrNegrita5")->isChecked());
 
@@ -167,18 +166,18 @@ TEST_F(Impresion, TheTicketLinesAreEditedAboveTheWindow) {
     EXPECT_EQ(Filas("SELECT linea4 FROM Ticket"), QString());
     Pulsar("cmdGuardarTicket");
     EXPECT_EQ(Filas("SELECT * FROM Ticket").section(QLatin1Char('|'), 1),
-              QStringLiteral("Tarvo|||Ñandú|Gracias|N|N|N|S|N"));
+              u"Tarvo|||Ñandú|Gracias|N|N|N|S|N"_qs);
 
     Tecla(Campo("txtLinea4"), Qt::Key_Escape);
     EXPECT_FALSE(picTicket()->isVisible());
     EXPECT_TRUE(Control<QWidget>(*ventana, "frFondo")->isEnabled());
-    EXPECT_EQ(ConFoco(), QStringLiteral("cmdLineasTicket"));
+    EXPECT_EQ(ConFoco(), u"cmdLineasTicket"_qs);
     Tecla(ventana.get(), Qt::Key_Escape);
     EXPECT_FALSE(ventana->isVisible());
 }
 
 TEST_F(Impresion, TheTestTicketShowsTheLinesAsTyped) {
-    mundo.ajustes.setValue(QStringLiteral("ImpTick"), QStringLiteral("Tickets"));
+    mundo.ajustes.setValue(u"ImpTick"_qs, u"Tickets"_qs);
     AbrirPanel();
     Pulsar("cmdLineasTicket");
     Teclear("txtLinea1", "Tarvo");
@@ -192,12 +191,10 @@ TEST_F(Impresion, TheTestTicketShowsTheLinesAsTyped) {
     EsperaPregunta("Desea imprimir un ticket de prueba?", Respuesta::Si, Respuesta::Si);
     prueba->trigger();
     ASSERT_EQ(mundo.impresoras.documentos.size(), 1U);
-    EXPECT_EQ(mundo.impresoras.actual, QStringLiteral("Tickets"));
+    EXPECT_EQ(mundo.impresoras.actual, u"Tickets"_qs);
     EXPECT_TRUE(mundo.impresoras.documentos[0]->Terminado());
-    EXPECT_EQ(
-        mundo.impresoras.documentos[0]->Volcado(),
-        QStringLiteral(
-            "\n            [11][n]Tarvo\n[/n]Avenida Siempreviva 742, Ñuñoa\n\n\n          Gracias!\n"));
+    EXPECT_EQ(mundo.impresoras.documentos[0]->Volcado(),
+              u"\n            [11][n]Tarvo\n[/n]Avenida Siempreviva 742, Ñuñoa\n\n\n          Gracias!\n"_qs);
 
     mundo.impresoras.fallar = true;
     EsperaPregunta("Desea imprimir un ticket de prueba?", Respuesta::Si, Respuesta::Si);
@@ -206,3 +203,4 @@ TEST_F(Impresion, TheTestTicketShowsTheLinesAsTyped) {
 }
 
 } // namespace
+} // namespace tarvo

@@ -3,8 +3,7 @@
 
 #include <QCheckBox>
 
-using namespace tarvo;
-
+namespace tarvo {
 namespace {
 
 class Personalizado : public OpcionesPrueba {
@@ -25,8 +24,8 @@ TEST_F(Personalizado, ATaxInUseIsLoadedAndStoredInItsOneRow) {
     EnTabla("Si");
     Abrir();
     EXPECT_TRUE(Marca("chkUtilizar")->isChecked());
-    EXPECT_EQ(Texto("txtNomImp"), QStringLiteral("Percepción"));
-    EXPECT_EQ(Texto("txtPersPorcentaje"), QStringLiteral("3"));
+    EXPECT_EQ(Texto("txtNomImp"), u"Percepción"_qs);
+    EXPECT_EQ(Texto("txtPersPorcentaje"), u"3"_qs);
     EXPECT_TRUE(Marca("chkGravarSobre")->isChecked());
     EXPECT_FALSE(Marca("chkGravarIFiscal")->isChecked());
 
@@ -35,7 +34,7 @@ TEST_F(Personalizado, ATaxInUseIsLoadedAndStoredInItsOneRow) {
     Marca("chkGravarSobre")->click();
     Marca("chkGravarIFiscal")->click();
     Pulsar("cmdGuardarPersonalizado");
-    EXPECT_EQ(EnTabla(), QStringLiteral("Si|Percepción|5|No|Si"));
+    EXPECT_EQ(EnTabla(), u"Si|Percepción|5|No|Si"_qs);
 }
 
 TEST_F(Personalizado, ATaxNotInUseIsNotLoadedAndSavingStoresTheEmptyFields) {
@@ -53,7 +52,7 @@ TEST_F(Personalizado, ATaxNotInUseIsNotLoadedAndSavingStoresTheEmptyFields) {
     }
     Abrir();
     Pulsar("cmdGuardarPersonalizado");
-    EXPECT_EQ(EnTabla(), QStringLiteral("No|||No|No"));
+    EXPECT_EQ(EnTabla(), u"No|||No|No"_qs);
 }
 
 TEST_F(Personalizado, ATaxInUseNeedsAName) {
@@ -64,13 +63,13 @@ TEST_F(Personalizado, ATaxInUseNeedsAName) {
     EsperaMensaje("Debe ingresar un nombre para el impuesto personalizado.");
     Pulsar("cmdGuardarPersonalizado");
     EXPECT_TRUE(Campo("txtNomImp")->hasFocus());
-    EXPECT_EQ(EnTabla(), QStringLiteral("No|Percepción|3|Si|No"));
+    EXPECT_EQ(EnTabla(), u"No|Percepción|3|Si|No"_qs);
 
     Teclear("txtNomImp", "Ganancias");
     Marca("chkUtilizar")->click(); // off again: the fields are stored as they stand
     EXPECT_FALSE(Campo("txtNomImp")->isEnabled());
     Pulsar("cmdGuardarPersonalizado");
-    EXPECT_EQ(EnTabla(), QStringLiteral("No|Ganancias||No|No"));
+    EXPECT_EQ(EnTabla(), u"No|Ganancias||No|No"_qs);
 }
 
 TEST_F(Personalizado, AWriteThatFailsIsToldOnceAndLeavesTheFields) {
@@ -88,10 +87,11 @@ TEST_F(Personalizado, AWriteThatFailsIsToldOnceAndLeavesTheFields) {
         Escribir("txtNomImp", "Otro");
         EsperaMensaje(caso.mensaje, Icono::Critico);
         Pulsar("cmdGuardarPersonalizado");
-        EXPECT_EQ(Texto("txtNomImp"), QStringLiteral("Otro"));
+        EXPECT_EQ(Texto("txtNomImp"), u"Otro"_qs);
         CerrarTodo();
-        EXPECT_FALSE(Filas("SELECT nombre FROM Impuesto").contains(QStringLiteral("Otro")));
+        EXPECT_FALSE(Filas("SELECT nombre FROM Impuesto").contains(u"Otro"_qs));
     }
 }
 
 } // namespace
+} // namespace tarvo

@@ -1,4 +1,4 @@
-// The page machine and the listings of the master data.
+// The page machine of the listings.
 #include "documents/listado.h"
 
 #include "testkit/impresorasprueba.h"
@@ -32,20 +32,6 @@ std::vector<QStringList> FilasPorPagina(const PapelPrueba &papel) {
         if (trozo.texto.startsWith(QStringLiteral("fila ")))
             paginas[static_cast<std::size_t>(trozo.pagina)] << trozo.texto.mid(5);
     return paginas;
-}
-
-ListaTexto *Lista(QObject &padre, const std::vector<QStringList> &filas) {
-    auto *lista = new ListaTexto(std::vector<ColumnaLista>(6), &padre);
-    for (const QStringList &fila : filas)
-        lista->AgregarFila(fila);
-    return lista;
-}
-
-PapelPrueba *Imprimir(ImpresorasPrueba &impresoras, const ReporteCatalogo &reporte, int filas) {
-    PreguntasGuion preguntas;
-    preguntas.Espera(reporte.pregunta, Respuesta::Si, Respuesta::Si);
-    EXPECT_TRUE(ImprimirReporte(impresoras, preguntas, reporte, filas));
-    return impresoras.documentos.back().get();
 }
 
 } // namespace
@@ -106,102 +92,29 @@ TEST(Listado, EachPageHasItsHeadAndOnlyTheLastItsFoot) {
         << texto.toStdString();
 }
 
-TEST(Listado, Customers) {
-    QObject padre;
-    const ListaTexto *lista = Lista(
-        padre, {{QStringLiteral("1"), QStringLiteral("Panadería La Espiga"), QStringLiteral("Espiga S.A."),
-                 QStringLiteral("211234560018"), QStringLiteral("24001234"), QStringLiteral("7")},
-                {QStringLiteral("00000002"), QString(30, u'n'), QString(30, u'f'), QString(20, u'i'),
-                 QStringLiteral("12345678901234567890"), QStringLiteral("8")}});
+TEST(Listado, AReportIsAskedForAndTellsWhatFails) {
+    int contadas = 0;
+    ReporteCatalogo reporte{.pregunta = QStringLiteral("Imprimir?"),
+                            .mensajeError = QStringLiteral("No salió"),
+                            .listado = ListadoNumerado(contadas)};
     ImpresorasPrueba impresoras;
-    const PapelPrueba *papel = Imprimir(impresoras, ReporteClientes(*lista), lista->Filas());
-    EXPECT_EQ(papel->Volcado().toStdString(), R"(
-                           [13][n]LISTADO DE CLIENTES
-                           -------------------
-
-[/n]Hoja    [n] 1 de 1 
-
-[10][/n]-----------------------------------------------------------------------------------------------
-  Código   Nombre                    Nombre Fiscal             Id. Fiscal            Teléfono
-
-  1        Panadería La Espiga       Espiga S.A.               211234560018         24001234
-  00000002 nnnnnnnnnnnnnnnnnnnnnnnnn fffffffffffffffffffffffff iiiiiiiiiiiiii
-                                                                        123456789012345
-
-
-                                               [13][n]Cantidad de clientes: 2
-)");
-}
-
-// The price is the purchase price, and a long name pushes the stock to the next line.
-TEST(Listado, Articles) {
-    QObject padre;
-    const ListaTexto *lista =
-        Lista(padre, {{QStringLiteral("A1"), QStringLiteral("Yerba 1 kg"), QStringLiteral("12,5"),
-                       QStringLiteral("$ 80,00"), QStringLiteral("$ 99,00"), QStringLiteral("7")},
-                      {QStringLiteral("A2"), QString(53, u'n'), QStringLiteral("1"), QStringLiteral("$ 1,00"),
-                       QStringLiteral("$ 2,00"), QStringLiteral("8")}});
-    ImpresorasPrueba impresoras;
-    const PapelPrueba *papel = Imprimir(impresoras, ReporteArticulos(*lista), lista->Filas());
-    EXPECT_EQ(papel->Volcado().toStdString(), R"(
-                           [13][n]LISTADO DE ARTICULOS
-                           --------------------
-
-[/n]Hoja    [n] 1 de 1 
-
-[10][/n]-----------------------------------------------------------------------------------------------
-  Código       Artículo                                        Stock                   Precio
-
-  A1           Yerba 1 kg                                       12,5                  $ 80,00
-  A2           nnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnn
-                                                                   1                   $ 1,00
-
-
-                                              [13][n]Cantidad de artículos: 2
-)");
-}
-
-// Suppliers print as customers do, under their own title. Only the articles' message has a full stop.
-TEST(Listado, EachReportAsksAndTellsItsFailures) {
-    QObject padre;
-    const ListaTexto &lista = *Lista(padre, {});
-    const struct {
-        ReporteCatalogo reporte;
-        QString pregunta;
-        QString mensaje;
-    } casos[] = {
-        {ReporteClientes(lista), QStringLiteral("Desea imprimir el listado de clientes?"),
-         QStringLiteral("Ha ocurrido un error en la impresión")},
-        {ReporteArticulos(lista), QStringLiteral("Desea imprimir el listado de artículos?"),
-         QStringLiteral("Ha ocurrido un error en la impresión.")},
-        {ReporteProveedores(lista), QStringLiteral("Desea imprimir el listado de proveedores?"),
-         QStringLiteral("Ha ocurrido un error en la impresión")},
+    PreguntasGuion preguntas;
+    const auto imprimir = [&](Respuesta respuesta) {
+        preguntas.Espera(reporte.pregunta, Respuesta::Si, respuesta);
+        return ImprimirReporte(impresoras, preguntas, reporte, 1);
     };
-    for (const auto &caso : casos) {
-        ImpresorasPrueba impresoras;
-        impresoras.fallar = true;
-        PreguntasGuion preguntas;
-        preguntas.Espera(caso.pregunta, Respuesta::Si, Respuesta::Si);
-        preguntas.EsperaMensaje(QStringLiteral("No se han encontrado impresoras instaladas."),
-                                Icono::Informacion);
-        EXPECT_FALSE(ImprimirReporte(impresoras, preguntas, caso.reporte, 0));
-
-        impresoras.fallar = false;
-        ReporteCatalogo roto = caso.reporte;
-        roto.listado.imprimirFila = [](Superficie &, int) {
-            throw ErrorDatos(errores::kEscritura, QStringLiteral("Disco lleno."));
-        };
-        preguntas.Espera(caso.pregunta, Respuesta::Si, Respuesta::Si);
-        preguntas.EsperaMensaje(caso.mensaje, Icono::Informacion);
-        EXPECT_FALSE(ImprimirReporte(impresoras, preguntas, roto, 1));
-        const std::size_t antes = impresoras.documentos.size();
-        preguntas.Espera(caso.pregunta, Respuesta::Si, Respuesta::No);
-        EXPECT_FALSE(ImprimirReporte(impresoras, preguntas, caso.reporte, 0));
-        EXPECT_EQ(impresoras.documentos.size(), antes);
-    }
-    ImpresorasPrueba impresoras;
-    const QString papel = Imprimir(impresoras, ReporteProveedores(lista), 0)->Lineas().join(u'\n');
-    EXPECT_TRUE(
-        papel.startsWith(QString(26, u' ').prepend(u'\n') + QStringLiteral("LISTADO DE PROVEEDORES")));
-    EXPECT_TRUE(papel.endsWith(QStringLiteral("Cantidad de proveedores: 0")));
+    EXPECT_FALSE(imprimir(Respuesta::No));
+    EXPECT_TRUE(impresoras.documentos.empty());
+    EXPECT_TRUE(imprimir(Respuesta::Si));
+    EXPECT_EQ(impresoras.documentos.size(), 1U);
+    impresoras.fallar = true;
+    preguntas.EsperaMensaje(QStringLiteral("No se han encontrado impresoras instaladas."),
+                            Icono::Informacion);
+    EXPECT_FALSE(imprimir(Respuesta::Si));
+    impresoras.fallar = false;
+    reporte.listado.imprimirFila = [](Superficie &, int) {
+        throw ErrorDatos(errores::kEscritura, QStringLiteral("Disco lleno."));
+    };
+    preguntas.EsperaMensaje(reporte.mensajeError, Icono::Informacion);
+    EXPECT_FALSE(imprimir(Respuesta::Si));
 }

@@ -265,10 +265,11 @@ TEST(Pdf, ListingHasThePagesThatItSays) {
     const std::pair<int, int> casos[] = {{0, 1}, {50, 1}, {51, 2}, {101, 2}};
     for (const auto &[filas, paginas] : casos) {
         QTemporaryDir carpeta;
-        ListaTexto lista(std::vector<ColumnaLista>(6));
-        for (int i = 0; i < filas; ++i)
-            lista.AgregarFila({QString::number(i), {}, {}, {}, {}, {}});
-        Listado listado = ReporteClientes(lista).listado;
+        Listado listado{.titulo = QStringLiteral("LISTADO DE CLIENTES"),
+                        .subrayado = QStringLiteral("-------------------"),
+                        .encabezado = QStringLiteral("Código")};
+        listado.imprimirFila = [](Superficie &papel, int fila) { papel.Texto(QString::number(fila)); };
+        listado.pie = [](int contadas) { return QString::number(contadas); };
         listado.trasTitulo = [](Superficie &papel) { papel.Linea(QStringLiteral("Cliente: Ana\n")); };
         ImprimirListado(*NuevoDocumentoPdf(carpeta.path(), ClasePapel::Hoja, listado.titulo, kMomento),
                         listado, filas);

@@ -115,7 +115,7 @@ TEST_F(Articulos, FiltersByNumberAndCountsDanglingCategoriesAsNone) {
     EXPECT_EQ(logica_->IdFiltro(), -1);
     EXPECT_EQ(Columna(col::kCodigo), QStringList({u"A3"_qs, u"A4"_qs, u"A5"_qs}));
     logica_->FiltrarCategoria(4); // the panel; the filter stays
-    EXPECT_TRUE(filtro.panel);
+    EXPECT_EQ(logica_->Panel(), PanelDetalle::Categoria);
     EXPECT_EQ(logica_->IdFiltro(), -1);
     logica_->CancelarCategoria();
     EXPECT_EQ(filtro.elegido, 1);
@@ -139,14 +139,83 @@ TEST_F(Articulos, AFilterWithoutArticlesIsEmptyButWithinReach) {
     Abrir();
     logica_->FiltrarCategoria(3);
     EXPECT_EQ(logica_->Estado(), EstadoDetalle::Vacia);
-    EXPECT_EQ(vista.botones, (Botones{true, false, false, true, false, false, false}));
-    EXPECT_FALSE(vista.conDatos);
+    EXPECT_EQ(vista.habilitados.botones, (Botones{true, false, false, true, false, false, false}));
+    EXPECT_FALSE(vista.habilitados.campos);
     EXPECT_TRUE(filtro.habilitado);
     logica_->Nuevo();
     EXPECT_FALSE(filtro.habilitado);
     EXPECT_EQ(vista.textos[A::kIdCategoria], u"4"_qs);
     logica_->Cancelar();
     EXPECT_TRUE(filtro.habilitado);
+}
+
+TEST_F(Articulos, DeletingTheLastRowOfAFilterKeepsTheButtonsOfBrowsing) {
+    Abrir();
+    logica_->FiltrarCategoria(2); // A1 alone
+    mundo_.preguntas.Espera(kEliminar, Respuesta::No, Respuesta::Si);
+    logica_->Eliminar();
+    EXPECT_EQ(logica_->Lista().Filas(), 0);
+    const Botones viendo{true, true, true, true, false, true, true};
+    EXPECT_EQ(vista.habilitados.botones, viendo);
+    EXPECT_TRUE(vista.habilitados.campos);
+    EXPECT_EQ(vista.textos[A::kNombre], QString());
+    EXPECT_TRUE(filtro.habilitado);
+    vista.textos[A::kCodigo] = vista.textos[A::kNombre] = u"x"_qs; // of no row: nothing is written
+    vista.textos[A::kPCompra] = vista.textos[A::kSubtotal] = u"1"_qs;
+    mundo_.preguntas.Espera(kModificar, Respuesta::No, Respuesta::Si);
+    mundo_.preguntas.EsperaMensaje(u"El registro ya no existe."_qs, Icono::Critico);
+    logica_->Guardar();
+    logica_->Actualizar(); // turns the fields off, and only them
+    EXPECT_EQ(vista.habilitados.botones, viendo);
+    EXPECT_FALSE(vista.habilitados.campos);
+    EXPECT_TRUE(filtro.habilitado);
+}
+
+// Whatever opens a panel does nothing while another one is open, nor does anything below it.
+TEST_F(Articulos, OnePanelAtATime) {
+    Abrir();
+    ASSERT_TRUE(logica_->AbrirPanel(PanelDetalle::Busqueda));
+    EXPECT_EQ(vista.habilitados.botones, Botones{});
+    EXPECT_TRUE(vista.habilitados.lista && !vista.habilitados.controles && !filtro.habilitado);
+    logica_->FiltrarCategoria(4);
+    logica_->FiltrarCategoria(2);
+    logica_->Nuevo();
+    logica_->Eliminar();
+    EXPECT_EQ(logica_->Panel(), PanelDetalle::Busqueda);
+    EXPECT_EQ(logica_->Lista().Filas(), 4);
+    logica_->CerrarPanel();
+    EXPECT_TRUE(vista.habilitados.controles && filtro.habilitado);
+
+    logica_->FiltrarCategoria(4);
+    EXPECT_FALSE(logica_->AbrirPanel(PanelDetalle::Busqueda));
+    EXPECT_FALSE(vista.habilitados.lista || filtro.habilitado);
+    logica_->CancelarCategoria();
+    logica_->Nuevo();
+    logica_->FiltrarCategoria(4);
+    EXPECT_EQ(logica_->Panel(), PanelDetalle::Ninguno);
+    ASSERT_TRUE(logica_->AbrirPanel(PanelDetalle::Busqueda));
+    logica_->CerrarPanel();
+    EXPECT_FALSE(vista.habilitados.lista || filtro.habilitado) << "a new article keeps the list shut";
+}
+
+TEST_F(Articulos, MarksTheRowOfTheFieldsWhileAnotherOneIsSelected) {
+    ListaTexto &lista = Abrir().Lista();
+    const auto marcadas = [&] {
+        QString filas;
+        for (int fila = 0; fila < lista.Filas(); ++fila)
+            if (lista.index(fila, 0).data(ListaTexto::kRolSenalada).toBool())
+                filas += lista.Celda(fila, 0);
+        return filas;
+    };
+    EXPECT_EQ(marcadas(), QString());
+    logica_->Buscar(u"café"_qs, {false, true});
+    EXPECT_EQ(marcadas(), u"A1");
+    EXPECT_EQ(lista.index(0, 3).data(Qt::AccessibleDescriptionRole).toString(),
+              u"Los campos muestran los datos de esta fila");
+    lista.Ordenar(col::kCodigo, Qt::DescendingOrder);
+    EXPECT_EQ(marcadas(), u"A1") << "it goes where its row goes";
+    logica_->Mostrar();
+    EXPECT_EQ(marcadas(), QString());
 }
 
 TEST_F(Articulos, StoresPlainNumbersWithoutTrailingZeros) {
@@ -269,9 +338,9 @@ TEST_F(Articulos, RefusesANewCategoryWhoseCodeBeginsAnother) {
     logica_->GuardarCategoria(u"1"_qs, {});
     mundo_.preguntas.EsperaMensaje(kCodigoRepetido, Icono::Informacion);
     logica_->GuardarCategoria(u"1"_qs, u"Bebidas"_qs); // 12 exists
-    EXPECT_TRUE(filtro.panel);
+    EXPECT_EQ(logica_->Panel(), PanelDetalle::Categoria);
     logica_->GuardarCategoria(u"2"_qs, u"Bebidas"_qs); // though 12 ends in it
-    EXPECT_FALSE(filtro.panel);
+    EXPECT_EQ(logica_->Panel(), PanelDetalle::Ninguno);
     EXPECT_EQ(filtro.filtros[4], u"2 - Bebidas"_qs);
     EXPECT_EQ(logica_->IdFiltro(), 0);
     EXPECT_EQ(mundo_.datos.Filas("SELECT id FROM main.Categorias").size(), 3U);

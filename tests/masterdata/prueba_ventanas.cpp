@@ -107,6 +107,7 @@ TEST_F(VentanaArticulos, TheNewCategoryPanelCoversTheWindowUntilItIsSavedOrEscap
               (std::vector<QString>{u"2"_qs, u"Bebidas"_qs}));
     EXPECT_EQ(filtro->currentIndex(), 0);
     EXPECT_EQ(C("txtIdCategoriaFiltro")->text(), u"0"_qs);
+    EXPECT_EQ(ConFoco(), u"LVArticulos"_qs) << "not the button that is hidden now";
 }
 
 TEST_F(VentanaArticulos, ARefusedCategoryLeavesThePanelAsTyped) {
@@ -118,6 +119,19 @@ TEST_F(VentanaArticulos, ARefusedCategoryLeavesThePanelAsTyped) {
     Click("cmdCatGuardar");
     EXPECT_TRUE(C<QFrame>("picNuevaCategoria")->isVisible());
     EXPECT_EQ(C("txtCatCategoria")->text(), u"Otra"_qs);
+}
+
+TEST_F(VentanaArticulos, TheSearchPanelShutsTheFilterAndLeavesTheFocusInTheEntry) {
+    Click("cmdNuevo");
+    Teclear(C("txtCodigo"), u"A2"_qs);
+    Click("cmdBuscar");
+    EXPECT_FALSE(C<QComboBox>("cboxFiltrarCategoria")->isEnabled());
+    emit C<QComboBox>("cboxFiltrarCategoria")->activated(3);
+    EXPECT_FALSE(C<QFrame>("picNuevaCategoria")->isVisible());
+    Tecla(C("txtArtBuscar"), Qt::Key_Escape);
+    EXPECT_EQ(ConFoco(), u"txtCodigo"_qs);
+    EXPECT_EQ(C("txtCodigo")->text(), u"A2"_qs);
+    EXPECT_FALSE(C<ListaVista>("LVArticulos")->isEnabled());
 }
 
 TEST_F(VentanaArticulos, TheSecondCategoryStaysInert) {

@@ -12,9 +12,7 @@ class VistaPrueba : public VistaDetalle {
   public:
     std::map<int, QString> textos;
     std::map<int, QStringList> entradas;
-    Botones botones;
-    bool conDatos = false;
-    bool listaHabilitada = true;
+    Habilitados habilitados;
     int foco = -1;
     int fila = -1;
 
@@ -27,13 +25,13 @@ class VistaPrueba : public VistaDetalle {
         entradas[campo] = nuevas;
         textos[campo].clear();
     }
-    void HabilitarCampos(bool si) override { conDatos = si; }
     void EnfocarCampo(int campo) override { foco = campo; }
     int FilaActual() const override { return fila; }
     void SeleccionarFila(int nueva) override { fila = nueva; }
-    void HabilitarLista(bool si) override { listaHabilitada = si; }
     void EnfocarLista() override {}
-    void MostrarBotones(const Botones &nuevos) override { botones = nuevos; }
+    void Habilitar(const Habilitados &nuevos) override { habilitados = nuevos; }
+    void AbrirPanel(PanelDetalle) override {}
+    void CerrarPanel(PanelDetalle) override {}
 };
 
 class FiltroPrueba : public VistaFiltro {
@@ -41,12 +39,10 @@ class FiltroPrueba : public VistaFiltro {
     QStringList filtros;
     int elegido = -1;
     bool habilitado = false;
-    bool panel = false;
 
     void PonerFiltros(const QStringList &nuevos) override { filtros = nuevos; }
     void ElegirFiltro(int indice) override { elegido = indice; }
     void HabilitarFiltro(bool si) override { habilitado = si; }
-    void MostrarPanelCategoria(bool visible) override { panel = visible; }
     void EnfocarCatCodigo() override {}
     void EnfocarCatCategoria() override {}
 };

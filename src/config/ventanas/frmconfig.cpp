@@ -9,6 +9,7 @@
 #include "config/ventanas/panelvendedores.h"
 #include "desktop/ventanas/filtrocampos.h"
 #include "desktop/ventanas/iconos.h"
+#include "desktop/ventanas/paneles.h"
 #include "ui_frmconfig.h"
 
 #include <QKeyEvent>
@@ -37,7 +38,8 @@ void FrmConfig::CrearPaneles(const Servicios &servicios) {
          std::initializer_list<QWidget *>{frImpuestos, frCategorias, frVendedores, frImpresion})
         ui_->paneles->addWidget(panel);
     for (PanelLista *lista : {&frImpuestos->Lista(), &frCategorias->Lista(), &frVendedores->Lista()})
-        connect(lista, &PanelLista::ListaHabilitada, ui_->TVOpciones, &QWidget::setEnabled);
+        connect(&lista->Controles(), &ControlesDetalle::ListaHabilitada, ui_->TVOpciones,
+                &QWidget::setEnabled);
     picTicket = new PanelTicket(servicios, frImpresion->ImpresoraTicket(), this);
     ui_->rejilla->addWidget(picTicket, 0, 0, Qt::AlignCenter);
     picTicket->hide();
@@ -93,11 +95,11 @@ void FrmConfig::MostrarPanel(int nodo) {
 
 void FrmConfig::MostrarTicket(bool visible) {
     ui_->frFondo->setEnabled(!visible);
-    picTicket->setVisible(visible);
     if (!visible) {
-        frImpresion->EnfocarLineasTicket();
+        CerrarPanel(*picTicket, {frImpresion->BotonLineasTicket()});
         return;
     }
+    picTicket->show();
     picTicket->raise();
     picTicket->setFocus();
 }

@@ -18,7 +18,7 @@ PanelCategorias::PanelCategorias(const Servicios &servicios, QWidget *padre)
 PanelCategorias::~PanelCategorias() = default;
 
 void PanelCategorias::ConectarTeclas(FiltroCampos &filtro) {
-    lista_->ConectarTeclas(filtro);
+    lista_->Controles().ConectarTeclas(filtro);
     filtro.AlEntrar(ui_->txtCatCategoria, [this] { lista_->Logica().Guardar(); });
 }
 

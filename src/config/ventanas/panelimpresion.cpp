@@ -82,8 +82,8 @@ bool PanelImpresion::EnDetalle() const {
     return window()->focusWidget() == ui_->txtLinDetalle;
 }
 
-void PanelImpresion::EnfocarLineasTicket() {
-    ui_->cmdLineasTicket->setFocus();
+QWidget *PanelImpresion::BotonLineasTicket() const {
+    return ui_->cmdLineasTicket;
 }
 
 void PanelImpresion::AgregarImpresora() {

@@ -32,8 +32,8 @@ class PanelImpresion : public QWidget {
     bool PermiteSalirDeDetalle();
     // The operator is in that field.
     bool EnDetalle() const;
-    // The button that opens the ticket lines gets the focus.
-    void EnfocarLineasTicket();
+    // The button that opens the ticket lines.
+    QWidget *BotonLineasTicket() const;
 
   signals:
     void LineasTicketPedidas();

@@ -32,7 +32,7 @@ PanelImpuestos::PanelImpuestos(const Servicios &servicios, QWidget *padre)
 PanelImpuestos::~PanelImpuestos() = default;
 
 void PanelImpuestos::ConectarTeclas(FiltroCampos &filtro) {
-    lista_->ConectarTeclas(filtro);
+    lista_->Controles().ConectarTeclas(filtro);
     filtro.AlEntrar(ui_->txtIVAPorcentaje, [this] { ui_->cmdIVAGuardar->setFocus(); });
     filtro.AlFlecha(ui_->txtIVAPorcentaje, [this](int paso) { ui_->FSB1->Paso(paso); });
     filtro.AlFlecha(ui_->txtPersPorcentaje, [this](int paso) { ui_->FSB2->Paso(paso); });
@@ -50,8 +50,8 @@ void PanelImpuestos::CargarPersonalizado() {
 
 void PanelImpuestos::HabilitarPersonalizado(bool utilizar) {
     const std::initializer_list<QWidget *> controles{
-        ui_->lblNomImp, ui_->txtNomImp,      ui_->lblPersPorcentaje, ui_->txtPersPorcentaje,
-        ui_->FSB2,      ui_->chkGravarSobre, ui_->chkGravarIFiscal,  ui_->lblSignoFSB2};
+        ui_->lblNomImp,      ui_->txtNomImp,        ui_->lblPersPorcentaje, ui_->txtPersPorcentaje,
+        ui_->chkGravarSobre, ui_->chkGravarIFiscal, ui_->lblSignoFSB2};
     for (QWidget *control : controles)
         control->setEnabled(utilizar);
 }

@@ -15,7 +15,7 @@ PanelVendedores::PanelVendedores(const Servicios &servicios, QWidget *padre)
 PanelVendedores::~PanelVendedores() = default;
 
 void PanelVendedores::ConectarTeclas(FiltroCampos &filtro) {
-    lista_->ConectarTeclas(filtro);
+    lista_->Controles().ConectarTeclas(filtro);
 }
 
 } // namespace tarvo

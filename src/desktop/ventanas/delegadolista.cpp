@@ -1,12 +1,14 @@
 #include "desktop/ventanas/delegadolista.h"
 
 #include "desktop/contraste.h"
+#include "desktop/listatexto.h"
 #include "desktop/unalinea.h"
 #include "desktop/ventanas/estilo.h"
 #include "desktop/ventanas/etiquetaelidida.h"
 
 #include <QAbstractItemView>
 #include <QHelpEvent>
+#include <QPainter>
 #include <QToolTip>
 
 namespace tarvo {
@@ -14,6 +16,7 @@ namespace tarvo {
 namespace {
 
 constexpr qsizetype kLetrasALaVista = 400; // no column is wide enough for more
+constexpr int kAnchoBarra = 4;              // pixels
 
 QColor FondoDe(const QStyleOptionViewItem &celda) {
     const bool elegida = celda.state.testFlag(QStyle::State_Selected);
@@ -26,6 +29,14 @@ QColor FondoDe(const QStyleOptionViewItem &celda) {
 
 QString DelegadoLista::displayText(const QVariant &valor, const QLocale &) const {
     return EnUnaLinea(valor.toString().left(kLetrasALaVista));
+}
+
+void DelegadoLista::paint(QPainter *pintor, const QStyleOptionViewItem &opcion,
+                          const QModelIndex &indice) const {
+    QStyledItemDelegate::paint(pintor, opcion, indice);
+    if (indice.column() == 0 && indice.data(ListaTexto::kRolSenalada).toBool())
+        pintor->fillRect(QRect(opcion.rect.topLeft(), QSize(kAnchoBarra, opcion.rect.height())),
+                         colores::kTitulo);
 }
 
 QSize DelegadoLista::sizeHint(const QStyleOptionViewItem &opcion, const QModelIndex &) const {

@@ -3,6 +3,7 @@
 #include "desktop/ventanas/filtrocampos.h"
 #include "desktop/ventanas/listavista.h"
 #include "desktop/ventanas/solocaracteres.h"
+#include "masterdata/ventanas/controlesdetalle.h"
 #include "masterdata/ventanas/panelcategoria.h"
 #include "ui_fichaarticulos.h"
 
@@ -21,8 +22,8 @@ FrmArticulos::FrmArticulos(const Servicios &servicios, Anfitrion &anfitrion, QWi
       ficha_(std::make_unique<Ui::FichaArticulos>()) {
     ficha_->setupUi(Ficha());
     CrearFiltro();
-    auto logica =
-        std::make_unique<ArticulosLogica>(servicios.frmBases, servicios.preguntas, *this, *this, &anfitrion);
+    auto logica = std::make_unique<ArticulosLogica>(servicios.frmBases, servicios.preguntas, Controles(),
+                                                    *this, &anfitrion);
     logica_ = logica.get();
     Montar(std::move(logica));
     ConectarFicha();
@@ -93,6 +94,16 @@ void FrmArticulos::ConectarCategoria() {
     });
     connect(picNuevaCategoria_->cmdCatCancelar, &QPushButton::clicked, this,
             [this] { logica_->CancelarCategoria(); });
+    connect(&Controles(), &ControlesDetalle::PanelAbierto, this, [this](PanelDetalle cual) {
+        if (cual != PanelDetalle::Categoria)
+            return;
+        picNuevaCategoria_->Vaciar();
+        MostrarPanel(picNuevaCategoria_, picNuevaCategoria_->txtCatCodigo);
+    });
+    connect(&Controles(), &ControlesDetalle::PanelCerrado, this, [this](PanelDetalle cual) {
+        if (cual == PanelDetalle::Categoria)
+            OcultarPanel(picNuevaCategoria_);
+    });
 }
 
 void FrmArticulos::MostrarIdFiltro() {
@@ -100,15 +111,14 @@ void FrmArticulos::MostrarIdFiltro() {
 }
 
 bool FrmArticulos::Escapar() {
-    // With no row in the list a new article isn't given up by Escape.
-    if (EntradaEnCurso() && Lista().Filas() == 0 && Controles()->isEnabled())
-        return false;
-    if (VentanaCatalogo::Escapar())
+    if (logica_->Panel() == PanelDetalle::Categoria) {
+        logica_->CancelarCategoria();
         return true;
-    if (!picNuevaCategoria_->isVisible())
-        return false;
-    logica_->CancelarCategoria();
-    return true;
+    }
+    // With no row in the list a new article isn't given up by Escape.
+    const bool primero =
+        EntradaEnCurso() && Lista().Filas() == 0 && logica_->Panel() == PanelDetalle::Ninguno;
+    return !primero && VentanaCatalogo::Escapar();
 }
 
 // The name takes what the amounts leave; the code makes room for the scroll bar.
@@ -133,14 +143,6 @@ void FrmArticulos::ElegirFiltro(int indice) {
 void FrmArticulos::HabilitarFiltro(bool habilitado) {
     cboxFiltrarCategoria_->setEnabled(habilitado);
     MarcarSinDatos(cboxFiltrarCategoria_, !habilitado);
-}
-
-void FrmArticulos::MostrarPanelCategoria(bool visible) {
-    picNuevaCategoria_->txtCatCodigo->clear();
-    picNuevaCategoria_->txtCatCategoria->clear();
-    picNuevaCategoria_->setVisible(visible);
-    LV().setEnabled(!visible);
-    Controles()->setEnabled(!visible);
 }
 
 void FrmArticulos::EnfocarCatCodigo() {

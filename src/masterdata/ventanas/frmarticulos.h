@@ -5,6 +5,7 @@
 #include "masterdata/ventanas/ventanacatalogo.h"
 
 class QComboBox;
+class QLineEdit;
 
 namespace tarvo {
 
@@ -35,7 +36,6 @@ class FrmArticulos : public VentanaCatalogo, public VistaFiltro {
     void PonerFiltros(const QStringList &entradas) override;
     void ElegirFiltro(int indice) override;
     void HabilitarFiltro(bool habilitado) override;
-    void MostrarPanelCategoria(bool visible) override;
     void EnfocarCatCodigo() override;
     void EnfocarCatCategoria() override;
 

@@ -18,4 +18,9 @@ PanelCategoria::PanelCategoria(QWidget *padre) : QFrame(padre), ui_(std::make_un
 
 PanelCategoria::~PanelCategoria() = default;
 
+void PanelCategoria::Vaciar() {
+    txtCatCodigo->clear();
+    txtCatCategoria->clear();
+}
+
 } // namespace tarvo

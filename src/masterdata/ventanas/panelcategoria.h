@@ -20,6 +20,7 @@ class PanelCategoria : public QFrame {
     explicit PanelCategoria(QWidget *padre);
     ~PanelCategoria() override;
 
+    void Vaciar();
     QLineEdit *txtCatCodigo = nullptr;
     QLineEdit *txtCatCategoria = nullptr;
     QPushButton *cmdCatGuardar = nullptr;

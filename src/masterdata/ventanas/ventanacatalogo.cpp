@@ -2,15 +2,16 @@
 
 #include "desktop/ventanas/filtrocampos.h"
 #include "desktop/ventanas/iconos.h"
+#include "desktop/ventanas/listavista.h"
+#include "desktop/ventanas/paneles.h"
 #include "documents/impresoras.h"
+#include "masterdata/ventanas/controlesdetalle.h"
 #include "masterdata/ventanas/panelbusqueda.h"
 #include "ui_ventanacatalogo.h"
 
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QLineEdit>
-#include <QRegularExpression>
-#include <QStyle>
 
 namespace tarvo {
 
@@ -20,14 +21,6 @@ constexpr int kTwipsPorPunto = 15;
 constexpr int kBajoControles = 300 / kTwipsPorPunto; // panels stand so far below the top of the fields
 
 } // namespace
-
-void MarcarSinDatos(QWidget *campo, bool sinDatos) {
-    if (campo->property("sinDatos").toBool() == sinDatos)
-        return;
-    campo->setProperty("sinDatos", sinDatos);
-    campo->style()->unpolish(campo);
-    campo->style()->polish(campo);
-}
 
 VentanaCatalogo::VentanaCatalogo(const Servicios &servicios, const Aspecto &aspecto, QWidget *padre)
     : VentanaModulo(padre),
@@ -42,6 +35,7 @@ VentanaCatalogo::VentanaCatalogo(const Servicios &servicios, const Aspecto &aspe
     ui_->lblTitulo->setText(aspecto.titulo);
     ui_->lista->setObjectName(aspecto.nombreLista);
     ui_->lista->setAccessibleName(aspecto.titulo);
+    controles_ = new ControlesDetalle(this, ui_->lista, QString(), ui_->frControles);
     picBuscarClientes_ = new PanelBusqueda(aspecto.criterios, this);
     Flotar(picBuscarClientes_);
     filtro_ = new FiltroCampos(this);
@@ -51,28 +45,21 @@ VentanaCatalogo::~VentanaCatalogo() = default;
 
 void VentanaCatalogo::Montar(std::unique_ptr<ListaDetalle> logica) {
     logica_ = std::move(logica);
-    ReunirCampos();
-    ListaTexto &lista = logica_->Lista();
-    lista.Ordenar(0, Qt::AscendingOrder);
-    LV().Mostrar(&lista);
-    connect(&lista, &QAbstractItemModel::modelReset, this, [this] { AjustarColumnas(); });
-    connect(&lista, &QAbstractItemModel::rowsInserted, this, [this] { AjustarColumnas(); });
+    logica_->Lista().Ordenar(0, Qt::AscendingOrder);
+    controles_->Montar(*logica_);
+    controles_->ConectarTeclas(*filtro_);
+    connect(controles_, &ControlesDetalle::FilasCambiadas, this, [this] { AjustarColumnas(); });
     LV().viewport()->installEventFilter(this);
-    connect(&LV(), &ListaVista::FilaPulsada, this, [this] { logica_->Mostrar(); });
-    filtro_->AlSuprimir(&LV(), [this] {
-        if (logica_->Lista().Filas() > 0)
-            logica_->Eliminar();
-    });
     filtro_->AlEscapar([this] { return Escapar(); });
     OrdenarTabulacion();
     ConectarBotones();
     ConectarBusqueda();
-    EnfocarLista();
+    controles_->EnfocarLista();
 }
 
 void VentanaCatalogo::Montar(const ReglasDetalle &reglas, Anfitrion &anfitrion) {
-    Montar(
-        std::make_unique<ListaDetalle>(servicios_.frmBases, servicios_.preguntas, *this, reglas, &anfitrion));
+    Montar(std::make_unique<ListaDetalle>(servicios_.frmBases, servicios_.preguntas, *controles_, reglas,
+                                          &anfitrion));
     logica_->LlenarLista();
 }
 
@@ -96,10 +83,6 @@ QWidget *VentanaCatalogo::Ficha() const {
     return ui_->frCampos;
 }
 
-QWidget *VentanaCatalogo::Controles() const {
-    return ui_->frControles;
-}
-
 ListaVista &VentanaCatalogo::LV() const {
     return *ui_->lista;
 }
@@ -115,16 +98,6 @@ void VentanaCatalogo::PonerSobreLista(QWidget *control) {
 
 // --- setting up
 
-void VentanaCatalogo::ReunirCampos() {
-    for (const CampoDetalle &campo : logica_->Reglas().campos)
-        campos_.push_back(Ficha()->findChild<QWidget *>(QString::fromUtf8(campo.control)));
-    for (QWidget *control : Ficha()->findChildren<QWidget *>()) {
-        const bool esCampo = qobject_cast<QLineEdit *>(control) || qobject_cast<QComboBox *>(control);
-        if (esCampo && control->isEnabled())
-            habilitables_.push_back(control);
-    }
-}
-
 // List, fields as the card has them, buttons.
 void VentanaCatalogo::OrdenarTabulacion() {
     std::vector<QWidget *> cadena{&LV()};
@@ -139,35 +112,34 @@ void VentanaCatalogo::OrdenarTabulacion() {
         setTabOrder(cadena[i - 1], cadena[i]);
 }
 
-void VentanaCatalogo::ConectarBoton(QPushButton *boton, void (ListaDetalle::*accion)()) {
-    connect(boton, &QPushButton::clicked, this, [this, boton, accion] {
-        boton->setFocus(); // whatever field is being typed in is left first
-        (logica_.get()->*accion)();
-    });
-}
-
 void VentanaCatalogo::ConectarBotones() {
     const std::initializer_list<std::pair<QPushButton *, const char *>> iconos = {
         {ui_->cmdNuevo, "nuevo"},       {ui_->cmdEliminar, "eliminar"}, {ui_->cmdActualizar, "actualizar"},
         {ui_->cmdCancelar, "cancelar"}, {ui_->cmdBuscar, "buscar"},     {ui_->cmdImprimir, "imprimir"}};
     for (const auto &[boton, icono] : iconos)
         boton->setIcon(IconoDe(QString::fromUtf8(icono)));
-    ConectarBoton(ui_->cmdNuevo, &ListaDetalle::Nuevo);
-    ConectarBoton(ui_->cmdGuardar, &ListaDetalle::Guardar);
-    ConectarBoton(ui_->cmdEliminar, &ListaDetalle::Eliminar);
-    ConectarBoton(ui_->cmdActualizar, &ListaDetalle::Actualizar);
-    ConectarBoton(ui_->cmdCancelar, &ListaDetalle::Cancelar);
-    connect(ui_->cmdBuscar, &QPushButton::clicked, this, &VentanaCatalogo::AbrirBusqueda);
+    connect(ui_->cmdBuscar, &QPushButton::clicked, this,
+            [this] { logica_->AbrirPanel(PanelDetalle::Busqueda); });
     connect(ui_->cmdImprimir, &QPushButton::clicked, this, [this] {
         ImprimirReporte(servicios_.impresoras, servicios_.preguntas, reporte_(Lista()), Lista().Filas());
     });
 }
 
 void VentanaCatalogo::ConectarBusqueda() {
-    connect(picBuscarClientes_->cmdBuscarArt, &QPushButton::clicked, this, &VentanaCatalogo::Buscar);
-    connect(picBuscarClientes_->cmdCancelarArt, &QPushButton::clicked, this,
-            &VentanaCatalogo::CerrarBusqueda);
-    filtro_->AlEntrar(picBuscarClientes_->txtArtBuscar, [this] { Buscar(); });
+    PanelBusqueda *panel = picBuscarClientes_;
+    connect(panel->cmdBuscarArt, &QPushButton::clicked, this, &VentanaCatalogo::Buscar);
+    connect(panel->cmdCancelarArt, &QPushButton::clicked, this, [this] { logica_->CerrarPanel(); });
+    filtro_->AlEntrar(panel->txtArtBuscar, [this] { Buscar(); });
+    connect(controles_, &ControlesDetalle::PanelAbierto, this, [this, panel](PanelDetalle cual) {
+        if (cual != PanelDetalle::Busqueda)
+            return;
+        panel->txtArtBuscar->clear();
+        MostrarPanel(panel, panel->txtArtBuscar);
+    });
+    connect(controles_, &ControlesDetalle::PanelCerrado, this, [this, panel](PanelDetalle cual) {
+        if (cual == PanelDetalle::Busqueda)
+            OcultarPanel(panel);
+    });
 }
 
 // --- panels
@@ -177,7 +149,7 @@ void VentanaCatalogo::Flotar(QWidget *panel) {
 }
 
 void VentanaCatalogo::ColocarPaneles() {
-    const int arriba = Controles()->mapTo(this, QPoint(0, kBajoControles)).y();
+    const int arriba = ui_->frControles->mapTo(this, QPoint(0, kBajoControles)).y();
     for (QWidget *panel : flotantes_) {
         panel->adjustSize();
         panel->move((width() - panel->width()) / 2, qMin(arriba, height() - panel->height()));
@@ -185,12 +157,14 @@ void VentanaCatalogo::ColocarPaneles() {
     }
 }
 
-void VentanaCatalogo::AbrirBusqueda() {
-    picBuscarClientes_->txtArtBuscar->clear();
+void VentanaCatalogo::MostrarPanel(QWidget *panel, QWidget *campo) {
     ColocarPaneles();
-    picBuscarClientes_->show();
-    picBuscarClientes_->txtArtBuscar->setFocus();
-    Controles()->setEnabled(false);
+    panel->show();
+    campo->setFocus();
+}
+
+void VentanaCatalogo::OcultarPanel(QWidget *panel) {
+    CerrarPanel(*panel, {&LV(), controles_->Campo(0)});
 }
 
 void VentanaCatalogo::Buscar() {
@@ -201,27 +175,18 @@ void VentanaCatalogo::Buscar() {
         texto->selectAll();
 }
 
-void VentanaCatalogo::CerrarBusqueda() {
-    Controles()->setEnabled(true);
-    if (LV().isEnabled())
-        EnfocarLista();
-    else
-        EnfocarCampo(0);
-    picBuscarClientes_->hide();
-}
-
 bool VentanaCatalogo::CancelarConFoco() {
     if (!EntradaEnCurso())
         return false;
     logica_->Cancelar();
-    EnfocarLista();
+    controles_->EnfocarLista();
     return true;
 }
 
 bool VentanaCatalogo::Escapar() {
-    if (!picBuscarClientes_->isVisible())
+    if (logica_->Panel() == PanelDetalle::Ninguno)
         return CancelarConFoco();
-    CerrarBusqueda();
+    logica_->CerrarPanel();
     return true;
 }
 
@@ -244,76 +209,6 @@ void VentanaCatalogo::resizeEvent(QResizeEvent *evento) {
 void VentanaCatalogo::closeEvent(QCloseEvent *evento) {
     logica_->AlCerrar();
     VentanaModulo::closeEvent(evento);
-}
-
-// --- VistaDetalle
-
-QString VentanaCatalogo::Texto(int campo) const {
-    QWidget *control = campos_[static_cast<std::size_t>(campo)];
-    if (auto *combo = qobject_cast<QComboBox *>(control))
-        return combo->currentText();
-    return static_cast<QLineEdit *>(control)->text();
-}
-
-void VentanaCatalogo::Poner(int campo, const QString &texto) {
-    QWidget *control = campos_[static_cast<std::size_t>(campo)];
-    auto *combo = qobject_cast<QComboBox *>(control);
-    if (combo == nullptr) {
-        static_cast<QLineEdit *>(control)->setText(texto);
-        return;
-    }
-    const int entrada = texto.isEmpty() ? -1 : static_cast<int>(entradas_.value(campo).indexOf(texto));
-    combo->setPlaceholderText(entrada < 0 ? texto : QString());
-    combo->setCurrentIndex(entrada);
-}
-
-void VentanaCatalogo::PonerEntradas(int campo, const QStringList &entradas) {
-    auto *combo = static_cast<QComboBox *>(campos_[static_cast<std::size_t>(campo)]);
-    if (entradas_.value(campo) != entradas) {
-        entradas_.insert(campo, entradas);
-        combo->clear();
-        combo->addItems(entradas);
-    }
-    combo->setPlaceholderText({});
-    combo->setCurrentIndex(-1);
-}
-
-void VentanaCatalogo::HabilitarCampos(bool conDatos) {
-    for (QWidget *campo : habilitables_)
-        campo->setEnabled(conDatos);
-    for (QWidget *campo : Ficha()->findChildren<QWidget *>(QRegularExpression(QStringLiteral("^(txt|cbox)"))))
-        MarcarSinDatos(campo, !conDatos);
-}
-
-void VentanaCatalogo::EnfocarCampo(int campo) {
-    campos_[static_cast<std::size_t>(campo)]->setFocus();
-}
-
-int VentanaCatalogo::FilaActual() const {
-    return LV().FilaActual();
-}
-
-void VentanaCatalogo::SeleccionarFila(int fila) {
-    LV().SeleccionarFila(fila);
-}
-
-void VentanaCatalogo::HabilitarLista(bool habilitada) {
-    LV().setEnabled(habilitada);
-}
-
-void VentanaCatalogo::EnfocarLista() {
-    if (LV().isEnabled())
-        LV().setFocus();
-}
-
-void VentanaCatalogo::MostrarBotones(const Botones &botones) {
-    ui_->cmdNuevo->setEnabled(botones.nuevo);
-    ui_->cmdGuardar->setEnabled(botones.guardar);
-    ui_->cmdEliminar->setEnabled(botones.eliminar);
-    ui_->cmdActualizar->setEnabled(botones.actualizar);
-    ui_->cmdCancelar->setEnabled(botones.cancelar);
-    ui_->cmdBuscar->setEnabled(botones.buscar);
-    ui_->cmdImprimir->setEnabled(botones.imprimir);
 }
 
 } // namespace tarvo

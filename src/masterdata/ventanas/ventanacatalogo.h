@@ -4,18 +4,14 @@
 
 #include "desktop/servicios.h"
 #include "desktop/ventanas/ventanamodulo.h"
-#include "documents/listado.h"
 #include "masterdata/listadetalle.h"
-
-#include <QHash>
+#include "masterdata/listadoscatalogo.h"
 
 #include <memory>
 
-class QLineEdit;
-class QPushButton;
-
 namespace tarvo {
 
+class ControlesDetalle;
 class FiltroCampos;
 class ListaVista;
 class PanelBusqueda;
@@ -23,7 +19,7 @@ namespace Ui {
 class VentanaCatalogo;
 }
 
-class VentanaCatalogo : public VentanaModulo, public VistaDetalle {
+class VentanaCatalogo : public VentanaModulo {
     Q_OBJECT
   public:
     ~VentanaCatalogo() override;
@@ -60,55 +56,38 @@ class VentanaCatalogo : public VentanaModulo, public VistaDetalle {
     virtual void AjustarColumnas() = 0;
     // A search panel and the like: centred above the fields.
     void Flotar(QWidget *panel);
+    // Shows a panel in its place with the focus in `campo`; closes it with the focus in the list or, while
+    // that is disabled, in the first field.
+    void MostrarPanel(QWidget *panel, QWidget *campo);
+    void OcultarPanel(QWidget *panel);
 
     ListaVista &LV() const;
-    QWidget *Controles() const;
+    ControlesDetalle &Controles() { return *controles_; }
     // Enter in the last field leads to the save button.
     void TrasCampo(QWidget *ultimo);
     FiltroCampos &Filtro() { return *filtro_; }
     int AnchoListaTwips() const;
-    bool CancelarConFoco();
-
-    // --- VistaDetalle
-    QString Texto(int campo) const override;
-    void Poner(int campo, const QString &texto) override;
-    void PonerEntradas(int campo, const QStringList &entradas) override;
-    void HabilitarCampos(bool conDatos) override;
-    void EnfocarCampo(int campo) override;
-    int FilaActual() const override;
-    void SeleccionarFila(int fila) override;
-    void HabilitarLista(bool habilitada) override;
-    void EnfocarLista() override;
-    void MostrarBotones(const Botones &botones) override;
 
     bool eventFilter(QObject *objeto, QEvent *evento) override;
     void resizeEvent(QResizeEvent *evento) override;
     void closeEvent(QCloseEvent *evento) override;
 
   private:
-    void ReunirCampos();
     void OrdenarTabulacion();
     void ConectarBotones();
-    void ConectarBoton(QPushButton *boton, void (ListaDetalle::*accion)());
     void ConectarBusqueda();
-    void AbrirBusqueda();
     void Buscar();
-    void CerrarBusqueda();
     void ColocarPaneles();
+    bool CancelarConFoco();
 
     Servicios servicios_;
     std::unique_ptr<Ui::VentanaCatalogo> ui_;
+    ControlesDetalle *controles_ = nullptr;
     PanelBusqueda *picBuscarClientes_;
     FiltroCampos *filtro_;
     std::unique_ptr<ListaDetalle> logica_;
     ReporteCatalogo (*reporte_)(const ListaTexto &);
-    std::vector<QWidget *> campos_;       // controls in the order of the field table
-    std::vector<QWidget *> habilitables_; // fields of the card, but those that are never enabled
-    QHash<int, QStringList> entradas_;    // what the combos hold
     std::vector<QWidget *> flotantes_;
 };
-
-// Grey for lack of data, or the field's own colours.
-void MarcarSinDatos(QWidget *campo, bool sinDatos);
 
 } // namespace tarvo

@@ -1,5 +1,4 @@
-// What the listings of customers, suppliers and articles say, and where their cells stand.
-#include "documents/listado.h"
+#include "masterdata/listadoscatalogo.h"
 
 namespace tarvo {
 
