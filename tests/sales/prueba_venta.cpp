@@ -173,6 +173,40 @@ TEST_F(VentaPrueba, TheDiscountIsAPercentageBetween0And100) {
     EXPECT_EQ(venta().CalcularTotales().conDescuento, QStringLiteral("$ 0,00"));
 }
 
+// A price that is no amount is not sold at what a reading of it leaves, and a stock that can't be computed is
+// not rewritten; one with decimals is computed exactly.
+TEST_F(VentaPrueba, WhatIsNoNumberIsRefusedAndNamed) {
+    const std::array<const char *, 4> casos[] = {
+        // price, stock, stock after 3, what the refusal names
+        {"1.234,50", "1", "1", "\"1.234,50\""},
+        {"12 €", "1", "1", "\"12 €\""},
+        {"1e3", "1", "1", "\"1e3\""},
+        {"12.5", "12.50", "9,5", nullptr},
+        {"", "", "-3", nullptr},
+        {"1", "0,00001", "-2,99999", nullptr},
+        {"1", "muchos", "muchos", "\"muchos\""},
+        {"1", "1.234,5", "1.234,5", "\"1.234,5\""},
+        {"1", "1234567890123", "1234567890123", "\"1234567890123\""},
+    };
+    for (const auto &[precio, stock, despues, nombra] : casos)
+        datos.Ejecutar(("INSERT INTO articulos.Articulos(codigo,nombre,subtotal,stock) VALUES('X','Raro','" +
+                        std::string(precio) + "','" + stock + "')")
+                           .c_str());
+    int fila = 3;
+    for (const auto &[precio, stock, despues, nombra] : casos) {
+        const QString impedimento = venta().Impedimento(fila);
+        EXPECT_EQ(impedimento.isEmpty(), nombra == nullptr) << precio << " " << stock;
+        EXPECT_EQ(venta().Agregar(fila, 3) < 0, nombra != nullptr) << precio << " " << stock;
+        EXPECT_EQ(Stock(fila), QString::fromUtf8(despues));
+        for (const QString &nombrado : {QStringLiteral("\"Raro\""), QString::fromUtf8(nombra)})
+            EXPECT_TRUE(nombra == nullptr || impedimento.contains(nombrado)) << impedimento.toStdString();
+        ++fila;
+    }
+    venta().Quitar(0); // given back as it was, but for zeros at its end
+    EXPECT_EQ(Stock(6), QStringLiteral("12,5"));
+    EXPECT_EQ(venta().Detalle().Filas(), 2);
+}
+
 // --- totals
 
 struct CasoTotales {

@@ -255,6 +255,14 @@ TEST_F(VentanaVentas, AFullListNarrowsItsColumn) {
 TEST_F(VentanaVentas, ClosingTheProgramAsksWithASaleInProgress) {
     Abrir();
     EXPECT_TRUE(ventana->PermiteCerrarPrograma());
+    Clic("cmdCliente");
+    Clic("cmdAgregarCliente");
+    EXPECT_FALSE(ventana->EntradaEnCurso());
+    Teclas(QStringLiteral("C"));
+    EXPECT_TRUE(ventana->EntradaEnCurso()) << "a half-typed customer";
+    for (int i = 0; i < 2; ++i)
+        Tecla(QApplication::focusWidget(), Qt::Key_Escape);
+    EXPECT_FALSE(ventana->EntradaEnCurso());
     Escanear("000011");
     for (const Respuesta respuesta : {Respuesta::No, Respuesta::Si}) {
         mundo.preguntas.Espera(QStringLiteral("Desea cerrar el programa sin completar la venta?"),

@@ -76,10 +76,16 @@ bool BarraBusqueda::EnUso() const {
     return buscar_->isChecked();
 }
 
-void BarraBusqueda::Empezar() {
-    c_.campo->clear();
+void BarraBusqueda::Empezar(const QString &texto) {
     buscar_->setChecked(true);
     c_.campo->setFocus();
+    c_.campo->setText(texto);
+}
+
+void BarraBusqueda::BuscarEn(const QString &clave, const QString &texto) {
+    ElegirModo(*std::ranges::find(modos_, clave, &ModoBusqueda::clave));
+    c_.campo->setText(texto);
+    Buscar();
 }
 
 void BarraBusqueda::Buscar() {

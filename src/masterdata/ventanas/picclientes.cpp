@@ -2,6 +2,7 @@
 
 #include "desktop/ventanas/barrabusqueda.h"
 #include "desktop/ventanas/filtrocampos.h"
+#include "desktop/ventanas/foco.h"
 #include "desktop/ventanas/iconos.h"
 #include "masterdata/ventanas/picnuevocliente.h"
 #include "ui_picclientes.h"
@@ -52,7 +53,7 @@ void PicClientes::PrepararAlta() {
     connect(picNuevoCliente_, &PicNuevoCliente::Guardado, this, &PicClientes::CargarClientes);
     connect(picNuevoCliente_, &PicNuevoCliente::Cerrado, this, [this] {
         HabilitarPanel(true);
-        (busqueda_->EnUso() ? static_cast<QWidget *>(ui_->txtBuscarClientes) : ui_->LVClientes)->setFocus();
+        EnfocarPrimero({ui_->txtBuscarClientes, ui_->LVClientes});
     });
 }
 
@@ -90,6 +91,10 @@ bool PicClientes::Escapar() {
     else
         Cerrar();
     return true;
+}
+
+bool PicClientes::EntradaEnCurso() const {
+    return picNuevoCliente_ != nullptr && picNuevoCliente_->EntradaEnCurso();
 }
 
 void PicClientes::Aceptar() {

@@ -39,6 +39,8 @@ class PicClientes : public QFrame {
     void Cerrar();
     // Escape closes the topmost panel; false when none is open.
     bool Escapar();
+    // A new customer is half typed.
+    bool EntradaEnCurso() const;
     // Takes its place in the middle of `sitio`, a part of the window.
     void Colocar(const QRect &sitio);
 

@@ -4,6 +4,7 @@
 #include "desktop/reloj.h"
 #include "desktop/ventanas/barrabusqueda.h"
 #include "desktop/ventanas/filtrocampos.h"
+#include "desktop/ventanas/foco.h"
 #include "desktop/ventanas/iconos.h"
 #include "desktop/ventanas/solocaracteres.h"
 #include "documents/impresoras.h"
@@ -39,7 +40,9 @@ std::vector<ModoBusqueda> ModosArticulos() {
 FrmVentas::FrmVentas(Servicios servicios, Anfitrion &, QWidget *padre)
     : VentanaModulo(padre),
       ui_(std::make_unique<Ui::FrmVentas>()),
-      servicios_(servicios),
+      escaner_(servicios.preguntas),
+      servicios_{servicios.frmBases,   escaner_,          servicios.reloj,
+                 servicios.impresoras, servicios.ajustes, servicios.escritorio},
       venta_(servicios.frmBases) {
     ui_->setupUi(this);
     filtro_ = new FiltroCampos(this);
@@ -50,6 +53,7 @@ FrmVentas::FrmVentas(Servicios servicios, Anfitrion &, QWidget *padre)
     ConectarDetalle();
     ConectarCliente();
     ConectarDocumento();
+    PrepararEscaner();
     Abrir();
 }
 
@@ -69,6 +73,7 @@ void FrmVentas::Abrir() {
     picClientes_->CargarClientes();
     MostrarCliente();
     MostrarPago();
+    MostrarEstado();
     MostrarHora();
     ui_->txtBuscar->setFocus();
 }
@@ -109,6 +114,46 @@ void FrmVentas::FiltrarCampos() {
         if (entra && !venta_.EnCurso())
             focusNextPrevChild(true);
     });
+}
+
+void FrmVentas::PrepararEscaner() {
+    const auto esBarras = [this](const QString &texto) {
+        const QByteArray utf8 = texto.toUtf8();
+        return RachaTeclas::EsCodigo(texto) &&
+               venta_.Articulos().Buscar(articulo::CodBarras, {utf8.constData(), std::size_t(utf8.size())}) >=
+                   0;
+    };
+    const auto larga = [](const QString &racha, const QString &texto) {
+        return RachaTeclas::EsCodigo(racha) ? racha : RachaTeclas::EsCodigo(texto) ? texto : QString();
+    };
+    escaner_.Montar(
+        {ui_->frArticulos, ui_->frDetalle, ui_->frDatos},
+        [this](const QString &codigo) { BuscarBarras(codigo); },
+        [this](const QString &texto) { busqueda_->Empezar(texto); });
+    const auto leer = [](const QLineEdit *campo) { return [campo] { return campo->text(); }; };
+    escaner_.Vigilar({ui_->txtCantidad, leer(ui_->txtCantidad),
+                      [this](const QString &) { ui_->txtCantidad->setText(QStringLiteral("1")); }, larga});
+    escaner_.Vigilar(
+        {ui_->txtDescuento, leer(ui_->txtDescuento),
+         [this](const QString &) { ui_->txtDescuento->setText(QString::number(venta_.Descuento())); },
+         larga});
+    // Any text may be a number: only a code that an article has can't be meant.
+    escaner_.Vigilar(
+        {ui_->txtNumComp, leer(ui_->txtNumComp),
+         [this](const QString &antes) { ui_->txtNumComp->setText(antes); },
+         [esBarras](const QString &racha, const QString &) { return esBarras(racha) ? racha : QString(); }});
+    QComboBox *const combo = ui_->cboxVendedores;
+    escaner_.Vigilar({combo, [combo] { return QString::number(combo->currentIndex()); },
+                      [combo](const QString &antes) { combo->setCurrentIndex(antes.toInt()); },
+                      [combo, esBarras](const QString &racha, const QString &) {
+                          const bool nadie = combo->findText(racha, Qt::MatchStartsWith) < 0;
+                          return esBarras(racha) || (RachaTeclas::EsCodigo(racha) && nadie) ? racha
+                                                                                            : QString();
+                      }});
+}
+
+void FrmVentas::BuscarBarras(const QString &codigo) {
+    busqueda_->BuscarEn(QStringLiteral("barras"), codigo);
 }
 
 void FrmVentas::ConectarArticulos() {
@@ -154,6 +199,10 @@ void FrmVentas::ConectarDocumento() {
         MostrarPago();
     });
     connect(ui_->cmdVCredito, &QPushButton::clicked, this, &FrmVentas::Credito);
+    connect(ui_->txtNumComp, &QLineEdit::textChanged, this,
+            [this](const QString &numero) { venta_.PonerNumComp(numero); });
+    connect(ui_->cboxVendedores, &QComboBox::currentTextChanged, this,
+            [this](const QString &vendedor) { venta_.PonerVendedor(vendedor); });
     connect(ui_->cmdEmitir, &QPushButton::clicked, this, &FrmVentas::Emitir);
     connect(ui_->cmdNuevo, &QPushButton::clicked, this, &FrmVentas::Nueva);
 }
@@ -161,13 +210,12 @@ void FrmVentas::ConectarDocumento() {
 // --- what the controls show
 
 void FrmVentas::MostrarHora() {
-    const QDateTime ahora = servicios_.reloj.Ahora();
-    ui_->lblFecha->setText(TextoFecha(ahora));
-    ui_->lblHora->setText(TextoHora(ahora));
+    venta_.PonerMomento(servicios_.reloj.Ahora());
+    ui_->lblFecha->setText(venta_.Fecha());
+    ui_->lblHora->setText(venta_.Hora());
 }
 
 void FrmVentas::MostrarTotales(const Totales &totales) {
-    totales_ = totales;
     ui_->lblSubtotal->setText(totales.subtotal);
     ui_->lblIVA->setText(totales.iva);
     ui_->lblImpPersonalizado->setText(totales.impuesto);
@@ -193,6 +241,14 @@ void FrmVentas::MostrarPago() {
         boton->style()->polish(boton);
 }
 
+// What can be used follows from the state of the sale, here and nowhere else.
+void FrmVentas::MostrarEstado() {
+    const bool libre = venta_.Estado() != EstadoVenta::EligiendoCliente;
+    for (QWidget *marco : {ui_->frArticulos, ui_->frDetalle, ui_->frDatos})
+        marco->setEnabled(libre);
+    ui_->cmdQuitar->setEnabled(venta_.EnCurso());
+}
+
 void FrmVentas::CargarArticulos() {
     venta_.CargarArticulos();
     if (venta_.Articulos().Filas() > 0)
@@ -206,7 +262,7 @@ void FrmVentas::MostrarVentaNueva() {
     if (venta_.Articulos().Filas() > 0)
         ui_->LVArticulos->SeleccionarFila(0);
     ui_->txtCantidad->setText(QStringLiteral("1"));
-    ui_->cmdQuitar->setEnabled(false);
+    MostrarEstado();
     MostrarCliente();
     MostrarPago();
     AjustarColumnas();
@@ -242,15 +298,27 @@ void FrmVentas::CompletarCantidad() {
 
 void FrmVentas::Agregar() {
     CompletarCantidad();
-    const int fila = venta_.Agregar(ui_->LVArticulos->FilaActual(), ui_->txtCantidad->text().toLongLong());
-    if (fila < 0)
+    const QString cantidad = ui_->txtCantidad->text();
+    const int articulo = ui_->LVArticulos->FilaActual();
+    if (RachaTeclas::EsCodigo(cantidad)) {
+        ui_->txtCantidad->setText(QStringLiteral("1"));
+        BuscarBarras(cantidad);
+    } else if (articulo >= 0) {
+        AgregarArticulo(articulo, cantidad.toLongLong());
+    }
+}
+
+void FrmVentas::AgregarArticulo(int articulo, qint64 cantidad) {
+    if (const QString impedimento = venta_.Impedimento(articulo); !impedimento.isEmpty()) {
+        servicios_.preguntas.Informar(impedimento);
         return;
-    ui_->LVDetalle->SeleccionarFila(fila);
+    }
+    ui_->LVDetalle->SeleccionarFila(venta_.Agregar(articulo, cantidad));
     ui_->txtCantidad->setText(QStringLiteral("1"));
     ui_->txtBuscar->clear();
     ui_->txtBuscar->setFocus();
     CalcularTotales();
-    ui_->cmdQuitar->setEnabled(true);
+    MostrarEstado();
     AjustarColumnas();
 }
 
@@ -264,7 +332,7 @@ void FrmVentas::Quitar() {
         ui_->LVDetalle->SeleccionarFila(std::min(fila, venta_.Detalle().Filas() - 1));
     CalcularTotales();
     ui_->LVArticulos->setFocus();
-    ui_->cmdQuitar->setEnabled(venta_.EnCurso());
+    MostrarEstado();
     AjustarColumnas();
 }
 
@@ -285,17 +353,17 @@ void FrmVentas::Credito() {
 }
 
 void FrmVentas::AbrirClientes() {
-    for (QWidget *marco : {ui_->frArticulos, ui_->frDetalle, ui_->frDatos})
-        marco->setEnabled(false);
+    venta_.PonerEligiendo(true);
+    MostrarEstado();
     picClientes_->Abrir();
 }
 
 void FrmVentas::CerrarClientes() {
-    for (QWidget *marco : {ui_->frArticulos, ui_->frDetalle, ui_->frDatos})
-        marco->setEnabled(true);
+    venta_.PonerEligiendo(false);
+    MostrarEstado();
     buscador_.Reiniciar();
     CalcularTotales();
-    ui_->txtBuscar->setFocus();
+    EnfocarPrimero({ui_->txtBuscar, ui_->LVArticulos});
 }
 
 void FrmVentas::FocoDescuento(bool entra) {
@@ -309,19 +377,10 @@ void FrmVentas::FocoDescuento(bool entra) {
     CalcularTotales();
 }
 
-DatosComprobante FrmVentas::Comprobante() const {
-    return {ui_->lblFecha->text(),
-            ui_->lblHora->text(),
-            ui_->txtNumComp->text(),
-            ui_->cboxVendedores->currentText(),
-            totales_,
-            impresora_};
-}
-
 void FrmVentas::Emitir() {
-    switch (tarvo::Emitir(servicios_, venta_, [this] { return Comprobante(); })) {
+    switch (tarvo::Emitir(servicios_, venta_, impresora_)) {
     case ResultadoEmision::SinLineas:
-        ui_->txtBuscar->setFocus();
+        EnfocarPrimero({ui_->txtBuscar, ui_->LVArticulos});
         break;
     case ResultadoEmision::SinVendedor:
         ui_->cboxVendedores->setFocus();
@@ -329,7 +388,7 @@ void FrmVentas::Emitir() {
     case ResultadoEmision::Emitida:
         MostrarVentaNueva();
         ui_->cboxVendedores->setCurrentIndex(0);
-        ui_->txtBuscar->setFocus();
+        EnfocarPrimero({ui_->txtBuscar, ui_->LVArticulos});
         break;
     case ResultadoEmision::NoConfirmada:
     case ResultadoEmision::NoGuardada:
@@ -340,7 +399,7 @@ void FrmVentas::Emitir() {
 // --- leaving
 
 bool FrmVentas::EntradaEnCurso() const {
-    return venta_.EnCurso();
+    return venta_.EnCurso() || picClientes_->EntradaEnCurso();
 }
 
 bool FrmVentas::PermiteCerrarPrograma() {

@@ -5,6 +5,7 @@
 #include "desktop/servicios.h"
 #include "desktop/ventanas/ventanamodulo.h"
 #include "sales/emision.h"
+#include "sales/ventanas/rutaescaner.h"
 
 #include <memory>
 
@@ -41,18 +42,22 @@ class FrmVentas : public VentanaModulo {
     void ConectarCliente();
     void ConectarDocumento();
     void FiltrarCampos();
+    void PrepararEscaner();
 
     void MostrarHora();
     void MostrarTotales(const Totales &totales);
     void CalcularTotales() { MostrarTotales(venta_.CalcularTotales()); }
     void MostrarCliente();
     void MostrarPago();
+    void MostrarEstado();
     void MostrarVentaNueva();
     void CargarArticulos();
     void AjustarColumnas();
 
     void CompletarCantidad();
+    void BuscarBarras(const QString &codigo);
     void Agregar();
+    void AgregarArticulo(int articulo, qint64 cantidad);
     void Quitar();
     void Nueva();
     void Credito();
@@ -60,17 +65,16 @@ class FrmVentas : public VentanaModulo {
     void CerrarClientes();
     void FocoDescuento(bool entra);
     void Emitir();
-    DatosComprobante Comprobante() const;
 
     std::unique_ptr<Ui::FrmVentas> ui_;
-    Servicios servicios_;
+    RutaEscaner escaner_;
+    Servicios servicios_; // whose questions go through the scanner's road
     Venta venta_;
     Buscador buscador_;
     FiltroCampos *filtro_;
     BarraBusqueda *busqueda_;
     PicClientes *picClientes_;
     QString impresora_; // name of the ticket printer
-    Totales totales_;
 };
 
 } // namespace tarvo
