@@ -39,6 +39,18 @@ EstadoVenta Venta::Estado() const {
     return EnCurso() ? EstadoVenta::EnCurso : EstadoVenta::Vacia;
 }
 
+ResumenArticulo Venta::Resumen(int fila) const {
+    if (fila < 0 || fila >= articulos_.Filas())
+        return {};
+    const Moneda &moneda = frmBases_.moneda();
+    const QString precio = articulos_.Celda(fila, articulo::Precio);
+    ResumenArticulo resumen{
+        articulos_.Celda(fila, articulo::Nombre), {}, articulos_.Celda(fila, articulo::Stock)};
+    if (EsImporte(precio, moneda))
+        resumen.conIva = moneda.FormatoMoneda(moneda.Importe(precio) + moneda.Importe(IvaDe(fila, 1)), true);
+    return resumen;
+}
+
 QString Venta::Impedimento(int fila) const {
     const QString nombre = NombreCorto(articulos_.Celda(fila, articulo::Nombre));
     const QString precio = articulos_.Celda(fila, articulo::Precio);
@@ -75,16 +87,27 @@ int Venta::Agregar(int fila, qint64 cantidad) {
     return renglon;
 }
 
-void Venta::CompletarLinea(int fila, qint64 cantidad, int filaArticulo) {
+QString Venta::IvaDe(int filaArticulo, qint64 cantidad) const {
     const Moneda &moneda = frmBases_.moneda();
-    const auto unidades = static_cast<double>(cantidad);
-    const double precioLinea = moneda.Importe(detalle_.Celda(fila, linea::Precio));
     const double precio = moneda.Importe(articulos_.Celda(filaArticulo, articulo::Precio));
     // The neutral reading stops at a comma: 10,5% is charged as 10.
     const double porcentaje = Moneda::NumeroNeutro(articulos_.CeldaUtf8(filaArticulo, articulo::Iva));
+    return moneda.FormatoMoneda(precio * (porcentaje / 100) * static_cast<double>(cantidad), true);
+}
+
+void Venta::CompletarLinea(int fila, qint64 cantidad, int filaArticulo) {
+    const Moneda &moneda = frmBases_.moneda();
+    const double precio = moneda.Importe(detalle_.Celda(fila, linea::Precio));
     detalle_.PonerCelda(fila, linea::Cantidad, QString::number(cantidad));
-    detalle_.PonerCelda(fila, linea::Subtotal, moneda.FormatoMoneda(unidades * precioLinea, true));
-    detalle_.PonerCelda(fila, linea::Iva, moneda.FormatoMoneda(precio * (porcentaje / 100) * unidades, true));
+    detalle_.PonerCelda(fila, linea::Subtotal,
+                        moneda.FormatoMoneda(static_cast<double>(cantidad) * precio, true));
+    detalle_.PonerCelda(fila, linea::Iva, IvaDe(filaArticulo, cantidad));
+}
+
+QString Venta::TextoLinea(int fila) const {
+    return QStringLiteral("%1: %2 x %3 = %4")
+        .arg(detalle_.Celda(fila, linea::Nombre), detalle_.Celda(fila, linea::Cantidad),
+             detalle_.Celda(fila, linea::Precio), detalle_.Celda(fila, linea::Subtotal));
 }
 
 std::optional<QString> Venta::StockMenos(int fila, qint64 cantidad) const {
@@ -151,6 +174,14 @@ void Venta::PonerDescuento(const QString &tecleado) {
 Totales Venta::CalcularTotales() const {
     return tarvo::CalcularTotales(detalle_, Impuesto(), !cliente_.ruc.isEmpty(), descuento_,
                                   frmBases_.moneda());
+}
+
+std::optional<double> Venta::Vuelto(const QString &entregado) const {
+    if (entregado.trimmed().isEmpty() || !Moneda::EsNumero(entregado))
+        return std::nullopt;
+    const Moneda &moneda = frmBases_.moneda();
+    return moneda.Importe(moneda.FormatoMoneda(entregado, true)) -
+           moneda.Importe(CalcularTotales().conDescuento);
 }
 
 int Venta::FilaArticulo(const QString &id) const {

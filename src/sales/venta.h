@@ -22,6 +22,13 @@ enum class Pago { Contado, Credito };
 // While a customer is being picked nothing else of the sale changes.
 enum class EstadoVenta { Vacia, EnCurso, EligiendoCliente };
 
+// What is said of an article before it is added.
+struct ResumenArticulo {
+    QString nombre;
+    QString conIva; // price of a unit, as a line of one would be charged; empty when the price is no amount
+    QString stock;  // what is left
+};
+
 struct ClienteVenta {
     QString nombre;
     QString ruc; // fiscal id
@@ -46,6 +53,8 @@ class Venta {
     // Fills the article list anew from the store.
     void CargarArticulos();
 
+    // Empty without such a row.
+    ResumenArticulo Resumen(int fila) const;
     // Why the article in row `fila` can't be sold, for the operator: a price that is no amount, a stock that
     // can't be computed. Empty when it can.
     QString Impedimento(int fila) const;
@@ -53,6 +62,8 @@ class Venta {
     // no check against the stock, which may fall below zero. Returns the line; -1, and nothing changes,
     // without such a row or with an impediment.
     int Agregar(int fila, qint64 cantidad);
+    // "Yerba mate: 2 x $ 100,00 = $ 200,00".
+    QString TextoLinea(int fila) const;
     // Removes the whole line and gives its quantity back to the working stock.
     void Quitar(int fila);
 
@@ -92,6 +103,9 @@ class Venta {
 
     ImpuestoPersonalizado Impuesto() const { return LeerImpuesto(frmBases_); }
     Totales CalcularTotales() const;
+    // What the customer gets back of what he hands over (a number with either separator) on the amount of the
+    // document; negative while it is too little. Nothing for a text that is no number, or empty.
+    std::optional<double> Vuelto(const QString &entregado) const;
 
     // Row of LVArticulos of that article, -1 when the list does not have it.
     int FilaArticulo(const QString &id) const;
@@ -100,6 +114,7 @@ class Venta {
     void QuitarCliente();
     std::optional<QString> StockMenos(int fila, qint64 cantidad) const;
     void DescontarStock(int fila, qint64 cantidad);
+    QString IvaDe(int filaArticulo, qint64 cantidad) const;
     void CompletarLinea(int fila, qint64 cantidad, int filaArticulo);
 
     FrmBases &frmBases_;

@@ -26,7 +26,9 @@ inline const QString kFinal = QStringLiteral("La búsqueda ha finalizado.");
 class AnfitrionMudo final : public Anfitrion {
   public:
     void PonerExportable(bool) override {}
-    void Sugerencia(const QString &) override {}
+    void Sugerencia(const QString &texto) override { sugerencia = texto; }
+
+    QString sugerencia;
 };
 
 class VentanaVentas : public ::testing::Test {

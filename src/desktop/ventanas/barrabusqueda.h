@@ -1,7 +1,8 @@
 // The search bar of a list: a toolbar with the check button `buscar` and its menu of search modes, a field,
 // and a button whose caption is the current mode.
 //
-// The check button gives or takes the use of field and button; a mode of the menu gives it and moves the
+// The buttons of the bar come before the field in the tab order; the down arrow opens the menu. The check
+// button gives or takes the use of field and button; a mode of the menu gives it and moves the
 // focus to the field. The start row lies in a Buscador that several bars of one window may share.
 #pragma once
 
@@ -52,6 +53,7 @@ class BarraBusqueda : public QObject {
   private:
     const ModoBusqueda &Modo() const;
     void PonerMenu();
+    void PonerTeclas(FiltroCampos &filtro);
     void ElegirModo(const ModoBusqueda &modo);
     void Usar(bool si);
 

@@ -35,6 +35,8 @@ class PicClientes : public QFrame {
     void CargarClientes();
 
     void Abrir();
+    // Begins a new search.
+    void Buscar();
     // As "Cancelar".
     void Cerrar();
     // Escape closes the topmost panel; false when none is open.
@@ -52,6 +54,7 @@ class PicClientes : public QFrame {
     void resizeEvent(QResizeEvent *evento) override;
 
   private:
+    bool EntradaNueva() const;
     void PrepararBarra(Buscador &buscador, FiltroCampos &filtro);
     void PrepararAlta();
     void Aceptar();

@@ -1,20 +1,20 @@
 #include "sales/ventanas/frmventas.h"
 
+#include "desktop/anfitrion.h"
 #include "desktop/preguntas.h"
-#include "desktop/reloj.h"
 #include "desktop/ventanas/barrabusqueda.h"
 #include "desktop/ventanas/filtrocampos.h"
-#include "desktop/ventanas/foco.h"
 #include "desktop/ventanas/iconos.h"
+#include "desktop/ventanas/paneles.h"
 #include "desktop/ventanas/solocaracteres.h"
 #include "documents/impresoras.h"
 #include "masterdata/ventanas/picclientes.h"
+#include "sales/ventanas/camposescaner.h"
 #include "store/store.h"
 #include "ui_frmventas.h"
 
+#include <QAction>
 #include <QHeaderView>
-#include <QSignalBlocker>
-#include <QStyle>
 #include <QTimer>
 
 #include <algorithm>
@@ -37,10 +37,11 @@ std::vector<ModoBusqueda> ModosArticulos() {
 
 } // namespace
 
-FrmVentas::FrmVentas(Servicios servicios, Anfitrion &, QWidget *padre)
+FrmVentas::FrmVentas(Servicios servicios, Anfitrion &anfitrion, QWidget *padre)
     : VentanaModulo(padre),
       ui_(std::make_unique<Ui::FrmVentas>()),
       escaner_(servicios.preguntas),
+      anfitrion_(anfitrion),
       servicios_{servicios.frmBases,   escaner_,          servicios.reloj,
                  servicios.impresoras, servicios.ajustes, servicios.escritorio},
       venta_(servicios.frmBases) {
@@ -54,6 +55,7 @@ FrmVentas::FrmVentas(Servicios servicios, Anfitrion &, QWidget *padre)
     ConectarCliente();
     ConectarDocumento();
     PrepararEscaner();
+    PrepararAtajos();
     Abrir();
 }
 
@@ -101,6 +103,8 @@ void FrmVentas::FiltrarCampos() {
     const QString digitos = QStringLiteral("0123456789");
     SoloCaracteres(ui_->txtCantidad, digitos);
     SoloCaracteres(ui_->txtDescuento, digitos);
+    SoloCaracteres(ui_->txtEntregado, digitos + QStringLiteral(".,"));
+    connect(ui_->txtEntregado, &QLineEdit::textChanged, this, &FrmVentas::MostrarVuelto);
     filtro_->AlEntrar(ui_->txtCantidad, [this] { Agregar(); });
     filtro_->AlFlecha(ui_->txtCantidad, [this](int paso) { ui_->FSB1->Paso(paso); });
     filtro_->AlFoco(ui_->txtCantidad, [this](bool entra) {
@@ -108,6 +112,9 @@ void FrmVentas::FiltrarCampos() {
             CompletarCantidad();
     });
     filtro_->AlFoco(ui_->txtDescuento, [this](bool entra) { FocoDescuento(entra); });
+    filtro_->AlFoco(ui_->txtNumComp, [this](bool) { Conservado(ui_->txtNumComp, false); });
+    for (QPushButton *boton : {ui_->cmdVContado, ui_->cmdVCredito})
+        filtro_->AlEntrar(boton, [boton] { boton->click(); });
     filtro_->AlEntrar(ui_->LVArticulos, [this] { ui_->txtCantidad->setFocus(); });
     filtro_->AlSuprimir(ui_->LVDetalle, [this] { Quitar(); });
     filtro_->AlFoco(ui_->LVDetalle, [this](bool entra) {
@@ -116,40 +123,47 @@ void FrmVentas::FiltrarCampos() {
     });
 }
 
+void FrmVentas::PrepararAtajos() {
+    Atajo(ui_->txtBuscar, QStringLiteral("Buscar un artículo"), {QKeySequence(Qt::CTRL | Qt::Key_B)},
+          &FrmVentas::Buscar);
+    Atajo(ui_->cmdEmitir, QStringLiteral("Emitir el comprobante"),
+          {QKeySequence(Qt::CTRL | Qt::Key_Return), QKeySequence(Qt::CTRL | Qt::Key_Enter)},
+          &FrmVentas::Emitir);
+    Atajo(ui_->cmdNuevo, QStringLiteral("Comenzar una nueva venta"), {QKeySequence(Qt::CTRL | Qt::Key_N)},
+          &FrmVentas::Nueva);
+}
+
+// What is half typed in a field counts: the focus leaves it first.
+void FrmVentas::Atajo(QWidget *control, const QString &ayuda, const QList<QKeySequence> &teclas,
+                      void (FrmVentas::*accion)()) {
+    auto *orden = new QAction(this);
+    orden->setShortcuts(teclas);
+    addAction(orden);
+    control->setToolTip(
+        QStringLiteral("%1 (%2)").arg(ayuda, teclas.first().toString(QKeySequence::NativeText)));
+    connect(orden, &QAction::triggered, this, [this, control, accion] {
+        control->setFocus();
+        (this->*accion)();
+    });
+}
+
 void FrmVentas::PrepararEscaner() {
-    const auto esBarras = [this](const QString &texto) {
+    const EsBarras esBarras = [this](const QString &texto) {
         const QByteArray utf8 = texto.toUtf8();
-        return RachaTeclas::EsCodigo(texto) &&
-               venta_.Articulos().Buscar(articulo::CodBarras, {utf8.constData(), std::size_t(utf8.size())}) >=
-                   0;
-    };
-    const auto larga = [](const QString &racha, const QString &texto) {
-        return RachaTeclas::EsCodigo(racha) ? racha : RachaTeclas::EsCodigo(texto) ? texto : QString();
+        return venta_.Articulos().Buscar(articulo::CodBarras,
+                                         {utf8.constData(), static_cast<std::size_t>(utf8.size())}) >= 0;
     };
     escaner_.Montar(
         {ui_->frArticulos, ui_->frDetalle, ui_->frDatos},
         [this](const QString &codigo) { BuscarBarras(codigo); },
         [this](const QString &texto) { busqueda_->Empezar(texto); });
-    const auto leer = [](const QLineEdit *campo) { return [campo] { return campo->text(); }; };
-    escaner_.Vigilar({ui_->txtCantidad, leer(ui_->txtCantidad),
-                      [this](const QString &) { ui_->txtCantidad->setText(QStringLiteral("1")); }, larga});
     escaner_.Vigilar(
-        {ui_->txtDescuento, leer(ui_->txtDescuento),
-         [this](const QString &) { ui_->txtDescuento->setText(QString::number(venta_.Descuento())); },
-         larga});
-    // Any text may be a number: only a code that an article has can't be meant.
-    escaner_.Vigilar(
-        {ui_->txtNumComp, leer(ui_->txtNumComp),
-         [this](const QString &antes) { ui_->txtNumComp->setText(antes); },
-         [esBarras](const QString &racha, const QString &) { return esBarras(racha) ? racha : QString(); }});
-    QComboBox *const combo = ui_->cboxVendedores;
-    escaner_.Vigilar({combo, [combo] { return QString::number(combo->currentIndex()); },
-                      [combo](const QString &antes) { combo->setCurrentIndex(antes.toInt()); },
-                      [combo, esBarras](const QString &racha, const QString &) {
-                          const bool nadie = combo->findText(racha, Qt::MatchStartsWith) < 0;
-                          return esBarras(racha) || (RachaTeclas::EsCodigo(racha) && nadie) ? racha
-                                                                                            : QString();
-                      }});
+        CampoNumerico(ui_->txtCantidad, [this] { ui_->txtCantidad->setText(QStringLiteral("1")); }));
+    escaner_.Vigilar(CampoNumerico(
+        ui_->txtDescuento, [this] { ui_->txtDescuento->setText(QString::number(venta_.Descuento())); }));
+    escaner_.Vigilar(CampoLibre(ui_->txtNumComp, esBarras));
+    escaner_.Vigilar(CampoLibre(ui_->txtEntregado, esBarras));
+    escaner_.Vigilar(CampoCombo(ui_->cboxVendedores, esBarras));
 }
 
 void FrmVentas::BuscarBarras(const QString &codigo) {
@@ -167,6 +181,8 @@ void FrmVentas::ConectarArticulos() {
     });
     connect(ui_->LVArticulos, &ListaVista::FilaDobleClic, this, &FrmVentas::Agregar);
     connect(ui_->cmdAgregar, &QPushButton::clicked, this, &FrmVentas::Agregar);
+    connect(ui_->LVArticulos->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            &FrmVentas::MostrarSeleccionado);
 }
 
 void FrmVentas::ConectarDetalle() {
@@ -207,88 +223,6 @@ void FrmVentas::ConectarDocumento() {
     connect(ui_->cmdNuevo, &QPushButton::clicked, this, &FrmVentas::Nueva);
 }
 
-// --- what the controls show
-
-void FrmVentas::MostrarHora() {
-    venta_.PonerMomento(servicios_.reloj.Ahora());
-    ui_->lblFecha->setText(venta_.Fecha());
-    ui_->lblHora->setText(venta_.Hora());
-}
-
-void FrmVentas::MostrarTotales(const Totales &totales) {
-    ui_->lblSubtotal->setText(totales.subtotal);
-    ui_->lblIVA->setText(totales.iva);
-    ui_->lblImpPersonalizado->setText(totales.impuesto);
-    ui_->lblTotal->setText(totales.total);
-    ui_->lblDescuento->setText(totales.conDescuento);
-}
-
-void FrmVentas::MostrarCliente() {
-    const QSignalBlocker sinEventos(ui_->chkFinal);
-    ui_->lblCliente->setText(venta_.Cliente().nombre);
-    ui_->lblRUC->setText(venta_.Cliente().ruc);
-    ui_->lblIdCliente->setText(venta_.Cliente().id);
-    ui_->chkFinal->setChecked(venta_.ConsumidorFinal());
-}
-
-void FrmVentas::MostrarPago() {
-    const bool contado = venta_.pago() == Pago::Contado;
-    ui_->shVContado->setVisible(contado);
-    ui_->shVCredito->setVisible(!contado);
-    ui_->cmdVContado->setProperty("marcado", contado);
-    ui_->cmdVCredito->setProperty("marcado", !contado);
-    for (QPushButton *boton : {ui_->cmdVContado, ui_->cmdVCredito})
-        boton->style()->polish(boton);
-}
-
-// What can be used follows from the state of the sale, here and nowhere else.
-void FrmVentas::MostrarEstado() {
-    const bool libre = venta_.Estado() != EstadoVenta::EligiendoCliente;
-    for (QWidget *marco : {ui_->frArticulos, ui_->frDetalle, ui_->frDatos})
-        marco->setEnabled(libre);
-    ui_->cmdQuitar->setEnabled(venta_.EnCurso());
-}
-
-void FrmVentas::CargarArticulos() {
-    venta_.CargarArticulos();
-    if (venta_.Articulos().Filas() > 0)
-        ui_->LVArticulos->SeleccionarFila(0);
-    AjustarColumnas();
-}
-
-// Number and discount stay: the next document goes on from them.
-void FrmVentas::MostrarVentaNueva() {
-    venta_.Reiniciar();
-    if (venta_.Articulos().Filas() > 0)
-        ui_->LVArticulos->SeleccionarFila(0);
-    ui_->txtCantidad->setText(QStringLiteral("1"));
-    MostrarEstado();
-    MostrarCliente();
-    MostrarPago();
-    AjustarColumnas();
-    CalcularTotales();
-}
-
-void FrmVentas::AjustarColumnas() {
-    const auto ancho = [](const ListaVista *lista) { return lista->DesbordaFilas() ? 700 : 945; };
-    ui_->LVArticulos->PonerAncho(articulo::Precio, ancho(ui_->LVArticulos));
-    ui_->LVDetalle->PonerAncho(linea::Cantidad, ancho(ui_->LVDetalle));
-    venta_.Detalle().PonerTitulo(linea::Cantidad, ui_->LVDetalle->DesbordaFilas()
-                                                      ? QStringLiteral("Cant.")
-                                                      : QStringLiteral("Cantidad"));
-}
-
-void FrmVentas::resizeEvent(QResizeEvent *evento) {
-    VentanaModulo::resizeEvent(evento);
-    picClientes_->Colocar(rect().adjusted(0, ui_->lblTitulo->height(), 0, 0));
-    AjustarColumnas();
-}
-
-void FrmVentas::showEvent(QShowEvent *evento) {
-    VentanaModulo::showEvent(evento);
-    AjustarColumnas();
-}
-
 // --- the sale
 
 void FrmVentas::CompletarCantidad() {
@@ -313,7 +247,9 @@ void FrmVentas::AgregarArticulo(int articulo, qint64 cantidad) {
         servicios_.preguntas.Informar(impedimento);
         return;
     }
-    ui_->LVDetalle->SeleccionarFila(venta_.Agregar(articulo, cantidad));
+    const int renglon = venta_.Agregar(articulo, cantidad);
+    ui_->LVDetalle->SeleccionarFila(renglon);
+    anfitrion_.Sugerencia(venta_.TextoLinea(renglon));
     ui_->txtCantidad->setText(QStringLiteral("1"));
     ui_->txtBuscar->clear();
     ui_->txtBuscar->setFocus();
@@ -345,9 +281,9 @@ void FrmVentas::Nueva() {
 }
 
 void FrmVentas::Credito() {
-    if (venta_.PonerPago(Pago::Credito))
-        MostrarPago();
-    else
+    const bool puesto = venta_.PonerPago(Pago::Credito);
+    MostrarPago();
+    if (!puesto)
         servicios_.preguntas.Informar(QStringLiteral("Debe seleccionar un cliente."));
     ui_->cmdCliente->setFocus();
 }
@@ -363,7 +299,12 @@ void FrmVentas::CerrarClientes() {
     MostrarEstado();
     buscador_.Reiniciar();
     CalcularTotales();
-    EnfocarPrimero({ui_->txtBuscar, ui_->LVArticulos});
+    EnfocarBusqueda();
+}
+
+// The search field, or the articles while the search is switched off.
+void FrmVentas::EnfocarBusqueda() {
+    EnfocarFuera(*picClientes_, {ui_->txtBuscar, ui_->LVArticulos});
 }
 
 void FrmVentas::FocoDescuento(bool entra) {
@@ -372,23 +313,29 @@ void FrmVentas::FocoDescuento(bool entra) {
         ui_->txtDescuento->selectAll();
         return;
     }
+    Conservado(ui_->txtDescuento, false);
     venta_.PonerDescuento(ui_->txtDescuento->text());
     ui_->txtDescuento->setText(venta_.TextoDescuento());
     CalcularTotales();
 }
 
+void FrmVentas::Buscar() {
+    busqueda_->Empezar();
+}
+
 void FrmVentas::Emitir() {
     switch (tarvo::Emitir(servicios_, venta_, impresora_)) {
     case ResultadoEmision::SinLineas:
-        EnfocarPrimero({ui_->txtBuscar, ui_->LVArticulos});
+        EnfocarBusqueda();
         break;
     case ResultadoEmision::SinVendedor:
         ui_->cboxVendedores->setFocus();
         break;
     case ResultadoEmision::Emitida:
         MostrarVentaNueva();
+        MarcarConservados();
         ui_->cboxVendedores->setCurrentIndex(0);
-        EnfocarPrimero({ui_->txtBuscar, ui_->LVArticulos});
+        EnfocarBusqueda();
         break;
     case ResultadoEmision::NoConfirmada:
     case ResultadoEmision::NoGuardada:

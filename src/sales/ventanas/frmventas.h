@@ -9,6 +9,8 @@
 
 #include <memory>
 
+class QLineEdit;
+
 namespace tarvo {
 
 namespace Ui {
@@ -42,6 +44,9 @@ class FrmVentas : public VentanaModulo {
     void ConectarCliente();
     void ConectarDocumento();
     void FiltrarCampos();
+    void PrepararAtajos();
+    void Atajo(QWidget *control, const QString &ayuda, const QList<QKeySequence> &teclas,
+               void (FrmVentas::*accion)());
     void PrepararEscaner();
 
     void MostrarHora();
@@ -50,6 +55,10 @@ class FrmVentas : public VentanaModulo {
     void MostrarCliente();
     void MostrarPago();
     void MostrarEstado();
+    void MostrarSeleccionado();
+    void MostrarVuelto();
+    void MarcarConservados();
+    static void Conservado(QLineEdit *campo, bool si);
     void MostrarVentaNueva();
     void CargarArticulos();
     void AjustarColumnas();
@@ -63,11 +72,14 @@ class FrmVentas : public VentanaModulo {
     void Credito();
     void AbrirClientes();
     void CerrarClientes();
+    void EnfocarBusqueda();
     void FocoDescuento(bool entra);
+    void Buscar();
     void Emitir();
 
     std::unique_ptr<Ui::FrmVentas> ui_;
     RutaEscaner escaner_;
+    Anfitrion &anfitrion_;
     Servicios servicios_; // whose questions go through the scanner's road
     Venta venta_;
     Buscador buscador_;

@@ -15,7 +15,8 @@ namespace tarvo {
 namespace {
 
 bool EsEntrar(const QKeyEvent &evento) {
-    return evento.key() == Qt::Key_Return || evento.key() == Qt::Key_Enter;
+    return (evento.modifiers() & ~Qt::KeypadModifier) == 0 &&
+           (evento.key() == Qt::Key_Return || evento.key() == Qt::Key_Enter);
 }
 
 // The character that this key types, empty when it types none.
@@ -69,12 +70,13 @@ bool RutaEscaner::eventFilter(QObject *objeto, QEvent *evento) {
         return false;
     auto *const recibe = static_cast<QWidget *>(objeto);
     const auto &tecla = *static_cast<QKeyEvent *>(evento);
-    if (preguntando_ && recibe->window() != marcos_.front()->window())
-        return EnCuadro(recibe->window(), tecla);
     // A key that its control leaves alone comes by again on the way to the window.
     const QWidget *const foco = QApplication::focusWidget();
-    return (foco == nullptr || recibe == foco || QApplication::activePopupWidget() != nullptr) &&
-           Tecla(recibe, tecla);
+    if (foco != nullptr && recibe != foco && QApplication::activePopupWidget() == nullptr)
+        return false;
+    if (preguntando_ && recibe->window() != marcos_.front()->window())
+        return EnCuadro(recibe->window(), tecla);
+    return Tecla(recibe, tecla);
 }
 
 bool RutaEscaner::EnCuadro(QWidget *cuadro, const QKeyEvent &evento) {
@@ -138,8 +140,6 @@ bool RutaEscaner::Entrar(CampoVenta &campo) {
     const QString codigo = campo.codigo(racha, campo.leer());
     if (codigo.isEmpty())
         return false;
-    if (auto *combo = qobject_cast<QComboBox *>(campo.control))
-        combo->hidePopup();
     campo.poner(antes_);
     buscar_(codigo);
     return true;
