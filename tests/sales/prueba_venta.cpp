@@ -82,21 +82,13 @@ TEST_F(VentaPrueba, StockFallsBelowZeroAndComesBack) {
     EXPECT_EQ(venta().Detalle().Celda(0, linea::Codigo), QStringLiteral("A3"));
 }
 
-TEST_F(VentaPrueba, BrokenStockAndNoRowAreTolerated) {
-    datos.Ejecutar("UPDATE articulos.Articulos SET stock='2,5' WHERE id=1;"
-                   "UPDATE articulos.Articulos SET stock='pocos' WHERE id=2");
+TEST_F(VentaPrueba, NoRowAddsNothingAndQuantitiesOutgrowFourBytes) {
     EXPECT_EQ(venta().Agregar(-1, 1), -1);
     EXPECT_EQ(venta().Agregar(3, 1), -1);
     EXPECT_FALSE(venta().EnCurso());
-    venta().Agregar(0, 1);
-    venta().Agregar(1, 1);
-    EXPECT_EQ(Stock(0), QStringLiteral("1,5"));
-    EXPECT_EQ(Stock(1), QStringLiteral("-1"));
-    // More units than four bytes hold.
-    venta().Agregar(2, 999999999);
-    venta().Agregar(2, 999999999);
-    venta().Agregar(2, 999999999);
-    EXPECT_EQ(venta().Detalle().Celda(2, linea::Cantidad), QStringLiteral("2999999997"));
+    for (int i = 0; i < 3; ++i)
+        venta().Agregar(2, 999999999);
+    EXPECT_EQ(venta().Detalle().Celda(0, linea::Cantidad), QStringLiteral("2999999997"));
     EXPECT_EQ(Stock(2), QStringLiteral("-2999999994"));
 }
 
@@ -204,7 +196,6 @@ TEST_F(VentaPrueba, WhatIsNoNumberIsRefusedAndNamed) {
     }
     venta().Quitar(0); // given back as it was, but for zeros at its end
     EXPECT_EQ(Stock(6), QStringLiteral("12,5"));
-    EXPECT_EQ(venta().Detalle().Filas(), 2);
 }
 
 // --- totals
