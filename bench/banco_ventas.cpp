@@ -59,7 +59,8 @@ class NuestraEmision {
   public:
     explicit NuestraEmision(const QString &carpeta) : bases_(carpeta), venta_(bases_) {
         venta_.CargarArticulos();
-        vendedor_ = CargarVendedores(bases_).value(1);
+        venta_.PonerVendedor(CargarVendedores(bases_).value(1));
+        venta_.PonerMomento({{2026, 11, 22}, {10, 42}});
         Agregar();
     }
     // Other quantities for every issue, so that each one writes.
@@ -68,17 +69,15 @@ class NuestraEmision {
             venta_.Agregar(linea * kPaso, 1);
     }
     void Emitir(int numero) {
+        venta_.PonerNumComp(QString::number(numero));
         Transaccion transaccion(bases_);
-        EscribirVenta(bases_, venta_,
-                      {QStringLiteral("22/11/2026"), QStringLiteral("10:42"), QString::number(numero),
-                       vendedor_, venta_.CalcularTotales(), QString()});
+        EscribirVenta(bases_, venta_, HacerComprobante(venta_));
         transaccion.Confirmar();
     }
 
   private:
     BasesAbiertas bases_;
     Venta venta_;
-    QString vendedor_;
 };
 
 QString Copia(const QString &carpeta, const QTemporaryDir &destino) {

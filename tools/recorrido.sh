@@ -66,8 +66,7 @@ Escribir "$NUMERO"
 Tecla shift+Tab space
 Foto "$SALIDA/08-completa.png"
 
-# From the discount on to the button that issues.
-Tecla alt+d Tab space
+Tecla ctrl+Return
 EsperarCuadro "la confirmación"
 Foto "$SALIDA/09-confirma.png"
 Tecla Return

@@ -12,18 +12,18 @@ namespace tarvo {
 
 namespace {
 
-void EscribirDocumento(FrmBases &bases, const Venta &venta, const DatosComprobante &comprobante) {
+void EscribirDocumento(FrmBases &bases, const Venta &venta, const Comprobante &comprobante) {
     const ClienteVenta &cliente = venta.Cliente();
     bases.datVentas.AddNew();
     bases.camVentFecha = comprobante.fecha;
     bases.camVentHora = comprobante.hora;
     bases.camVentIdCliente = cliente.nombre.isEmpty() ? QStringLiteral("0") : cliente.id;
     bases.camVentTipo = venta.pago() == Pago::Contado ? QStringLiteral("Contado") : QStringLiteral("Credito");
-    bases.camVentDescripcion = DescripcionFactura(venta.pago());
-    bases.camVentSubtotal = comprobante.totales.subtotal;
-    bases.camVentIVA = comprobante.totales.iva;
-    bases.camVentTotal = comprobante.totales.conDescuento;
-    bases.camVentNumComp = comprobante.numComp;
+    bases.camVentDescripcion = comprobante.tipo;
+    bases.camVentSubtotal = comprobante.subtotal;
+    bases.camVentIVA = comprobante.iva;
+    bases.camVentTotal = comprobante.totalConDescuento;
+    bases.camVentNumComp = comprobante.numero;
     bases.camVentIdOperador = IdVendedor(bases, comprobante.vendedor);
     bases.datVentas.Refresh();
 }
@@ -46,10 +46,9 @@ void EscribirStock(FrmBases &bases, const Venta &venta) {
 }
 
 // The sale without its time, which goes on between two tries.
-Operacion OperacionDe(const Venta &venta, const DatosComprobante &comprobante) {
-    Operacion operacion{QStringLiteral("Venta"), DescripcionFactura(venta.pago()),
-                        venta.Cliente().id,      comprobante.numComp,
-                        comprobante.vendedor,    comprobante.totales.conDescuento};
+Operacion OperacionDe(const Venta &venta, const Comprobante &comprobante) {
+    Operacion operacion{QStringLiteral("Venta"), comprobante.tipo,     venta.Cliente().id,
+                        comprobante.numero,      comprobante.vendedor, comprobante.totalConDescuento};
     const ListaTexto &detalle = venta.Detalle();
     for (int fila = 0; fila < detalle.Filas(); ++fila)
         operacion << detalle.Celda(fila, linea::IdArticulo) << detalle.Celda(fila, linea::Cantidad)
@@ -57,21 +56,20 @@ Operacion OperacionDe(const Venta &venta, const DatosComprobante &comprobante) {
     return operacion;
 }
 
-bool IntentarGuardar(const Servicios &servicios, const Venta &venta, const DatosComprobante &comprobante) {
+bool IntentarGuardar(const Servicios &servicios, const Venta &venta, const Comprobante &comprobante) {
     return Almacenar(
         servicios.frmBases, servicios.preguntas, OperacionDe(venta, comprobante),
         [&] { EscribirVenta(servicios.frmBases, venta, comprobante); },
         QStringLiteral("La venta sigue en pantalla, sin cambios."));
 }
 
-void OfrecerTicket(const Servicios &servicios, const Venta &venta, const DatosComprobante &comprobante) {
+void OfrecerTicket(const Servicios &servicios, const Comprobante &comprobante, const QString &impresora) {
     if (!servicios.preguntas.Confirma(QStringLiteral("Desea imprimir el ticket?"), Respuesta::Si))
         return;
     try {
-        servicios.impresoras.HacerActual(comprobante.impresora);
-        const auto papel =
-            servicios.impresoras.NuevoDocumento(ClasePapel::Rollo, DescripcionFactura(venta.pago()));
-        ImprimirTicket(*papel, LeerCabecera(servicios.frmBases), HacerComprobante(venta, comprobante));
+        servicios.impresoras.HacerActual(impresora);
+        const auto papel = servicios.impresoras.NuevoDocumento(ClasePapel::Rollo, comprobante.tipo);
+        ImprimirTicket(*papel, LeerCabecera(servicios.frmBases), comprobante);
     } catch (const std::exception &error) { // whatever it is, a sale that is stored must not stay on screen
         servicios.preguntas.Mostrar(
             QStringLiteral("No se pudo imprimir el ticket. %1\n\nLa venta quedó guardada.")
@@ -86,58 +84,58 @@ QString DescripcionFactura(Pago pago) {
     return pago == Pago::Contado ? QStringLiteral("Factura contado") : QStringLiteral("Factura crédito");
 }
 
-void EscribirVenta(FrmBases &frmBases, const Venta &venta, const DatosComprobante &comprobante) {
+void EscribirVenta(FrmBases &frmBases, const Venta &venta, const Comprobante &comprobante) {
     EscribirDocumento(frmBases, venta, comprobante);
     EscribirStock(frmBases, venta);
 }
 
-Comprobante HacerComprobante(const Venta &venta, const DatosComprobante &datos) {
+Comprobante HacerComprobante(const Venta &venta) {
+    const Totales totales = venta.CalcularTotales();
     Comprobante comprobante;
     comprobante.tipo = DescripcionFactura(venta.pago());
-    comprobante.numero = datos.numComp;
-    comprobante.fecha = datos.fecha;
-    comprobante.hora = datos.hora;
+    comprobante.numero = venta.NumComp();
+    comprobante.fecha = venta.Fecha();
+    comprobante.hora = venta.Hora();
     comprobante.codigoCliente = venta.Cliente().codigo;
     comprobante.cliente = venta.Cliente().nombre;
     comprobante.idFiscal = venta.Cliente().ruc;
     comprobante.consumidorFinal = venta.ConsumidorFinal();
-    comprobante.vendedor = datos.vendedor;
+    comprobante.vendedor = venta.Vendedor();
     const ListaTexto &detalle = venta.Detalle();
     for (int fila = 0; fila < detalle.Filas(); ++fila)
         comprobante.lineas.push_back({detalle.Celda(fila, linea::Codigo), detalle.Celda(fila, linea::Nombre),
                                       detalle.Celda(fila, linea::Cantidad),
                                       detalle.Celda(fila, linea::Precio),
                                       detalle.Celda(fila, linea::Subtotal)});
-    comprobante.subtotal = datos.totales.subtotal;
-    comprobante.iva = datos.totales.iva;
+    comprobante.subtotal = totales.subtotal;
+    comprobante.iva = totales.iva;
     if (const ImpuestoPersonalizado impuesto = venta.Impuesto(); impuesto.utilizar) {
         comprobante.nombreImpuesto =
             impuesto.nombre.trimmed().isEmpty() ? QStringLiteral("Impuesto") : impuesto.nombre;
-        comprobante.impuesto = datos.totales.impuesto;
+        comprobante.impuesto = totales.impuesto;
     }
-    comprobante.total = datos.totales.total;
+    comprobante.total = totales.total;
     comprobante.descuento = venta.TextoDescuento();
-    comprobante.totalConDescuento = datos.totales.conDescuento;
+    comprobante.totalConDescuento = totales.conDescuento;
     return comprobante;
 }
 
-ResultadoEmision Emitir(const Servicios &servicios, const Venta &venta,
-                        const std::function<DatosComprobante()> &leer) {
+ResultadoEmision Emitir(const Servicios &servicios, const Venta &venta, const QString &impresora) {
     Preguntas &preguntas = servicios.preguntas;
     if (!venta.EnCurso()) {
         preguntas.Informar(QStringLiteral("Debe agregar al menos un artículo a la lista."));
         return ResultadoEmision::SinLineas;
     }
-    if (leer().vendedor == SinVendedor()) {
+    if (venta.Vendedor() == SinVendedor()) {
         preguntas.Mostrar(QStringLiteral("Debe seleccionar un vendedor."), Icono::Ninguno);
         return ResultadoEmision::SinVendedor;
     }
     if (!preguntas.Confirma(QStringLiteral("Confirma la emisión de la factura?"), Respuesta::Si))
         return ResultadoEmision::NoConfirmada;
-    const DatosComprobante comprobante = leer();
+    const Comprobante comprobante = HacerComprobante(venta);
     if (!IntentarGuardar(servicios, venta, comprobante))
         return ResultadoEmision::NoGuardada;
-    OfrecerTicket(servicios, venta, comprobante);
+    OfrecerTicket(servicios, comprobante, impresora);
     preguntas.Informar(QStringLiteral("La venta se realizó con exito."));
     return ResultadoEmision::Emitida;
 }

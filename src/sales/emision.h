@@ -9,19 +9,7 @@
 #include "documents/ticket.h"
 #include "sales/venta.h"
 
-#include <functional>
-
 namespace tarvo {
-
-// What the window's fields and labels hold when the sale is issued.
-struct DatosComprobante {
-    QString fecha;
-    QString hora;
-    QString numComp;
-    QString vendedor; // text of the combo
-    Totales totales;
-    QString impresora; // name of the ticket printer
-};
 
 enum class ResultadoEmision {
     SinLineas,
@@ -31,17 +19,16 @@ enum class ResultadoEmision {
     Emitida,
 };
 
-// Validates, asks, writes, offers the ticket and tells the success. The sale stays as it is: starting over
-// after Emitida is the caller's. `leer` reads the window: once to validate, and again behind the question,
-// since its clock goes on meanwhile.
-ResultadoEmision Emitir(const Servicios &servicios, const Venta &venta,
-                        const std::function<DatosComprobante()> &leer);
+// Validates, asks, writes, offers the ticket on `impresora` and tells the success. The sale stays as it is:
+// starting over after Emitida is the caller's. The document is what the sale holds when the operator has
+// confirmed, since the clock goes on while the question is up; table and ticket get the same one.
+ResultadoEmision Emitir(const Servicios &servicios, const Venta &venta, const QString &impresora);
+
+// The document as paper shows it. A custom tax in use that has no name is called "Impuesto".
+Comprobante HacerComprobante(const Venta &venta);
 
 // The writing alone, inside the transaction that is open.
-void EscribirVenta(FrmBases &frmBases, const Venta &venta, const DatosComprobante &comprobante);
-
-// What paper shows of the sale. A custom tax in use that has no name is called "Impuesto".
-Comprobante HacerComprobante(const Venta &venta, const DatosComprobante &datos);
+void EscribirVenta(FrmBases &frmBases, const Venta &venta, const Comprobante &comprobante);
 
 // "Factura contado" or "Factura crédito".
 QString DescripcionFactura(Pago pago);

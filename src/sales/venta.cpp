@@ -1,6 +1,8 @@
 #include "sales/venta.h"
 
+#include "desktop/unalinea.h"
 #include "masterdata/selectorclientes.h"
+#include "sales/existencias.h"
 #include "store/store.h"
 
 #include <algorithm>
@@ -9,8 +11,16 @@ namespace tarvo {
 
 namespace {
 
-QString TextoNumero(double valor, const Moneda &moneda) {
-    return QString::number(valor, 'g', 15).replace(QLatin1Char('.'), moneda.sDecimal());
+constexpr qsizetype kNombreMayor = 80; // of an article, in a message
+
+QString NombreCorto(const QString &nombre) {
+    const QString linea = EnUnaLinea(nombre.left(kNombreMayor));
+    return nombre.size() > kNombreMayor ? linea + QStringLiteral("…") : linea;
+}
+
+// The list shows an amount only for a price that is one; any other text stands there as it is.
+bool EsImporte(const QString &celda, const Moneda &moneda) {
+    return celda == moneda.FormatoMoneda(moneda.SinSimbolo(celda), true);
 }
 
 } // namespace
@@ -23,8 +33,40 @@ void Venta::CargarArticulos() {
     tarvo::CargarArticulos(frmBases_, articulos_);
 }
 
-int Venta::Agregar(int fila, qint64 cantidad) {
+EstadoVenta Venta::Estado() const {
+    if (eligiendo_)
+        return EstadoVenta::EligiendoCliente;
+    return EnCurso() ? EstadoVenta::EnCurso : EstadoVenta::Vacia;
+}
+
+ResumenArticulo Venta::Resumen(int fila) const {
     if (fila < 0 || fila >= articulos_.Filas())
+        return {};
+    const Moneda &moneda = frmBases_.moneda();
+    const QString precio = articulos_.Celda(fila, articulo::Precio);
+    ResumenArticulo resumen{
+        articulos_.Celda(fila, articulo::Nombre), {}, articulos_.Celda(fila, articulo::Stock)};
+    if (EsImporte(precio, moneda))
+        resumen.conIva = moneda.FormatoMoneda(moneda.Importe(precio) + moneda.Importe(IvaDe(fila, 1)), true);
+    return resumen;
+}
+
+QString Venta::Impedimento(int fila) const {
+    const QString nombre = NombreCorto(articulos_.Celda(fila, articulo::Nombre));
+    const QString precio = articulos_.Celda(fila, articulo::Precio);
+    if (!EsImporte(precio, frmBases_.moneda()))
+        return QStringLiteral("El precio del artículo \"%1\" no es un número: \"%2\".\n\n"
+                              "Corríjalo en Artículos para poder venderlo.")
+            .arg(nombre, NombreCorto(precio));
+    if (!StockMenos(fila, 1))
+        return QStringLiteral("El stock del artículo \"%1\" no es un número: \"%2\".\n\n"
+                              "Corríjalo en Artículos para poder venderlo.")
+            .arg(nombre, NombreCorto(articulos_.Celda(fila, articulo::Stock)));
+    return {};
+}
+
+int Venta::Agregar(int fila, qint64 cantidad) {
+    if (fila < 0 || fila >= articulos_.Filas() || !Impedimento(fila).isEmpty())
         return -1;
     const QString id = articulos_.Celda(fila, articulo::Id);
     filasConocidas_.insert(id, fila);
@@ -45,24 +87,39 @@ int Venta::Agregar(int fila, qint64 cantidad) {
     return renglon;
 }
 
-void Venta::CompletarLinea(int fila, qint64 cantidad, int filaArticulo) {
+QString Venta::IvaDe(int filaArticulo, qint64 cantidad) const {
     const Moneda &moneda = frmBases_.moneda();
-    const auto unidades = static_cast<double>(cantidad);
-    const double precioLinea = moneda.Importe(detalle_.Celda(fila, linea::Precio));
     const double precio = moneda.Importe(articulos_.Celda(filaArticulo, articulo::Precio));
     // The neutral reading stops at a comma: 10,5% is charged as 10.
     const double porcentaje = Moneda::NumeroNeutro(articulos_.CeldaUtf8(filaArticulo, articulo::Iva));
+    return moneda.FormatoMoneda(precio * (porcentaje / 100) * static_cast<double>(cantidad), true);
+}
+
+void Venta::CompletarLinea(int fila, qint64 cantidad, int filaArticulo) {
+    const Moneda &moneda = frmBases_.moneda();
+    const double precio = moneda.Importe(detalle_.Celda(fila, linea::Precio));
     detalle_.PonerCelda(fila, linea::Cantidad, QString::number(cantidad));
-    detalle_.PonerCelda(fila, linea::Subtotal, moneda.FormatoMoneda(unidades * precioLinea, true));
-    detalle_.PonerCelda(fila, linea::Iva, moneda.FormatoMoneda(precio * (porcentaje / 100) * unidades, true));
+    detalle_.PonerCelda(fila, linea::Subtotal,
+                        moneda.FormatoMoneda(static_cast<double>(cantidad) * precio, true));
+    detalle_.PonerCelda(fila, linea::Iva, IvaDe(filaArticulo, cantidad));
+}
+
+QString Venta::TextoLinea(int fila) const {
+    return QStringLiteral("%1: %2 x %3 = %4")
+        .arg(detalle_.Celda(fila, linea::Nombre), detalle_.Celda(fila, linea::Cantidad),
+             detalle_.Celda(fila, linea::Precio), detalle_.Celda(fila, linea::Subtotal));
+}
+
+std::optional<QString> Venta::StockMenos(int fila, qint64 cantidad) const {
+    return RestarExistencias(articulos_.Celda(fila, articulo::Stock), cantidad, frmBases_.moneda());
 }
 
 void Venta::DescontarStock(int fila, qint64 cantidad) {
-    const Moneda &moneda = frmBases_.moneda();
-    const double stock =
-        moneda.Numero(articulos_.CeldaUtf8(fila, articulo::Stock)) - static_cast<double>(cantidad);
-    articulos_.PonerCelda(fila, articulo::Stock, TextoNumero(stock, moneda));
-    articulos_.PonerTono(fila, articulo::Stock, TonoStock(stock));
+    const std::optional<QString> stock = StockMenos(fila, cantidad);
+    if (!stock)
+        return;
+    articulos_.PonerCelda(fila, articulo::Stock, *stock);
+    articulos_.PonerTono(fila, articulo::Stock, TonoStock(frmBases_.moneda().Numero(*stock)));
 }
 
 void Venta::Quitar(int fila) {
@@ -117,6 +174,14 @@ void Venta::PonerDescuento(const QString &tecleado) {
 Totales Venta::CalcularTotales() const {
     return tarvo::CalcularTotales(detalle_, Impuesto(), !cliente_.ruc.isEmpty(), descuento_,
                                   frmBases_.moneda());
+}
+
+std::optional<double> Venta::Vuelto(const QString &entregado) const {
+    if (entregado.trimmed().isEmpty() || !Moneda::EsNumero(entregado))
+        return std::nullopt;
+    const Moneda &moneda = frmBases_.moneda();
+    return moneda.Importe(moneda.FormatoMoneda(entregado, true)) -
+           moneda.Importe(CalcularTotales().conDescuento);
 }
 
 int Venta::FilaArticulo(const QString &id) const {

@@ -1,20 +1,33 @@
-// The sale in progress: its article list with the working stock, its lines, customer, payment kind and
-// discount.
+// The sale in progress: its article list with the working stock, its lines, customer, payment kind, discount,
+// document number, seller and moment.
 //
 // It lives in memory alone. Nothing reaches the store before the issue (emision.h), and a fresh article list
 // drops the working stock. Rows are those of the lists, in the order on screen.
 #pragma once
 
+#include "desktop/reloj.h"
 #include "sales/listasventa.h"
 #include "sales/totales.h"
 
 #include <QHash>
+
+#include <optional>
 
 namespace tarvo {
 
 class FrmBases;
 
 enum class Pago { Contado, Credito };
+
+// While a customer is being picked nothing else of the sale changes.
+enum class EstadoVenta { Vacia, EnCurso, EligiendoCliente };
+
+// What is said of an article before it is added.
+struct ResumenArticulo {
+    QString nombre;
+    QString conIva; // price of a unit, as a line of one would be charged; empty when the price is no amount
+    QString stock;  // what is left
+};
 
 struct ClienteVenta {
     QString nombre;
@@ -33,17 +46,29 @@ class Venta {
     const ListaTexto &Detalle() const { return detalle_; }
     bool EnCurso() const { return detalle_.Filas() > 0; }
 
+    EstadoVenta Estado() const;
+    // Begins or ends the picking of a customer.
+    void PonerEligiendo(bool si) { eligiendo_ = si; }
+
     // Fills the article list anew from the store.
     void CargarArticulos();
 
+    // Empty without such a row.
+    ResumenArticulo Resumen(int fila) const;
+    // Why the article in row `fila` can't be sold, for the operator: a price that is no amount, a stock that
+    // can't be computed. Empty when it can.
+    QString Impedimento(int fila) const;
     // Adds `cantidad` units of the article in row `fila`: to its line, or as a new line at the end. There is
     // no check against the stock, which may fall below zero. Returns the line; -1, and nothing changes,
-    // without such a row.
+    // without such a row or with an impediment.
     int Agregar(int fila, qint64 cantidad);
+    // "Yerba mate: 2 x $ 100,00 = $ 200,00".
+    QString TextoLinea(int fila) const;
     // Removes the whole line and gives its quantity back to the working stock.
     void Quitar(int fila);
 
-    // Starts over: no lines, no customer, cash, consumer final, fresh stock. The discount stays.
+    // Starts over: no lines, no customer, cash, consumer final, fresh stock. Discount, number and seller
+    // stay.
     void Reiniciar();
 
     Pago pago() const { return pago_; }
@@ -65,15 +90,31 @@ class Venta {
     // The field as the operator left it: digits; empty is 0, above 100 is 100.
     void PonerDescuento(const QString &tecleado);
 
+    // Whatever the operator has typed; may be empty.
+    const QString &NumComp() const { return numComp_; }
+    void PonerNumComp(const QString &numero) { numComp_ = numero; }
+    // The seller as the combo shows him.
+    const QString &Vendedor() const { return vendedor_; }
+    void PonerVendedor(const QString &vendedor) { vendedor_ = vendedor; }
+    // Moment of the document, as text: that of the last tick of the window's clock.
+    QString Fecha() const { return TextoFecha(momento_); }
+    QString Hora() const { return TextoHora(momento_); }
+    void PonerMomento(const QDateTime &momento) { momento_ = momento; }
+
     ImpuestoPersonalizado Impuesto() const { return LeerImpuesto(frmBases_); }
     Totales CalcularTotales() const;
+    // What the customer gets back of what he hands over (a number with either separator) on the amount of the
+    // document; negative while it is too little. Nothing for a text that is no number, or empty.
+    std::optional<double> Vuelto(const QString &entregado) const;
 
     // Row of LVArticulos of that article, -1 when the list does not have it.
     int FilaArticulo(const QString &id) const;
 
   private:
     void QuitarCliente();
+    std::optional<QString> StockMenos(int fila, qint64 cantidad) const;
     void DescontarStock(int fila, qint64 cantidad);
+    QString IvaDe(int filaArticulo, qint64 cantidad) const;
     void CompletarLinea(int fila, qint64 cantidad, int filaArticulo);
 
     FrmBases &frmBases_;
@@ -85,7 +126,11 @@ class Venta {
     ClienteVenta cliente_;
     Pago pago_ = Pago::Contado;
     bool consumidorFinal_ = true;
+    bool eligiendo_ = false;
     int descuento_ = 0;
+    QString numComp_;
+    QString vendedor_ = SinVendedor();
+    QDateTime momento_;
 };
 
 } // namespace tarvo

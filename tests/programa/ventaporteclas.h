@@ -20,7 +20,7 @@ inline void ElegirCliente(ProgramaEnPantalla &programa, const char *nombre) {
 
 // From anywhere in the sale: the question that confirms the issue is on screen.
 inline void PedirEmision(ProgramaEnPantalla &programa) {
-    programa.Teclas({k("alt+d"), k("Tab"), k("space")});
+    programa.Teclas({k("ctrl+Return")});
     programa.EsperarCuadro();
 }
 

@@ -26,7 +26,9 @@ inline const QString kFinal = QStringLiteral("La búsqueda ha finalizado.");
 class AnfitrionMudo final : public Anfitrion {
   public:
     void PonerExportable(bool) override {}
-    void Sugerencia(const QString &) override {}
+    void Sugerencia(const QString &texto) override { sugerencia = texto; }
+
+    QString sugerencia;
 };
 
 class VentanaVentas : public ::testing::Test {
@@ -45,7 +47,10 @@ class VentanaVentas : public ::testing::Test {
     bool Se(const char *nombre) { return C<QWidget>(nombre)->isVisible(); }
     void Clic(const char *boton) { Pulsar(C<QWidget>(boton)); }
     // Keys go to whatever has the focus, as from a keyboard.
-    void Teclas(const QString &texto) { QTest::keyClicks(QApplication::focusWidget(), texto); }
+    void Teclas(const QString &texto) {
+        for (const QChar letra : texto)
+            QTest::keyClick(QApplication::focusWidget(), letra.toLatin1());
+    }
     void Entrar() { QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return); }
     void Escanear(const char *codigo) {
         Teclas(QLatin1String(codigo));

@@ -37,6 +37,26 @@ BarraBusqueda::BarraBusqueda(const ControlesBusqueda &controles, std::vector<Mod
     connect(c_.boton, &QPushButton::clicked, this, &BarraBusqueda::Buscar);
     connect(c_.campo, &QLineEdit::textChanged, this, [this] { buscador_.Reiniciar(); });
     filtro.AlEntrar(c_.campo, [this] { Buscar(); });
+    PonerTeclas(filtro);
+}
+
+void BarraBusqueda::PonerTeclas(FiltroCampos &filtro) {
+    QWidget *anterior = nullptr;
+    for (QAction *accion : c_.barra->actions()) {
+        auto *boton = qobject_cast<QToolButton *>(c_.barra->widgetForAction(accion));
+        if (boton == nullptr)
+            continue;
+        boton->setFocusPolicy(Qt::TabFocus);
+        if (accion->menu() != nullptr)
+            filtro.AlFlecha(boton, [boton](int) { boton->showMenu(); });
+        if (anterior != nullptr)
+            QWidget::setTabOrder(anterior, boton);
+        anterior = boton;
+    }
+    for (QWidget *control : std::initializer_list<QWidget *>{c_.campo, c_.boton, c_.lista}) {
+        QWidget::setTabOrder(anterior, control);
+        anterior = control;
+    }
 }
 
 // The caption is all that says which mode is in use.
@@ -76,10 +96,16 @@ bool BarraBusqueda::EnUso() const {
     return buscar_->isChecked();
 }
 
-void BarraBusqueda::Empezar() {
-    c_.campo->clear();
+void BarraBusqueda::Empezar(const QString &texto) {
     buscar_->setChecked(true);
     c_.campo->setFocus();
+    c_.campo->setText(texto);
+}
+
+void BarraBusqueda::BuscarEn(const QString &clave, const QString &texto) {
+    ElegirModo(*std::ranges::find(modos_, clave, &ModoBusqueda::clave));
+    c_.campo->setText(texto);
+    Buscar();
 }
 
 void BarraBusqueda::Buscar() {

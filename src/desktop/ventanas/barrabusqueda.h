@@ -1,7 +1,8 @@
 // The search bar of a list: a toolbar with the check button `buscar` and its menu of search modes, a field,
 // and a button whose caption is the current mode.
 //
-// The check button gives or takes the use of field and button; a mode of the menu gives it and moves the
+// The buttons of the bar come before the field in the tab order; the down arrow opens the menu. The check
+// button gives or takes the use of field and button; a mode of the menu gives it and moves the
 // focus to the field. The start row lies in a Buscador that several bars of one window may share.
 #pragma once
 
@@ -38,8 +39,10 @@ class BarraBusqueda : public QObject {
 
     // Searches on from the start row: selects the row of a hit and the text in the field, tells the end.
     void Buscar();
-    // Empties the field, presses the button `buscar` and moves the focus to the field.
-    void Empezar();
+    // Searches `texto` from now on in the mode of that key, as if it had been chosen and typed.
+    void BuscarEn(const QString &clave, const QString &texto);
+    // Begins a new text in the field, presses the button `buscar` and moves the focus to the field.
+    void Empezar(const QString &texto = QString());
     // The button `buscar` is pressed.
     bool EnUso() const;
 
@@ -50,6 +53,7 @@ class BarraBusqueda : public QObject {
   private:
     const ModoBusqueda &Modo() const;
     void PonerMenu();
+    void PonerTeclas(FiltroCampos &filtro);
     void ElegirModo(const ModoBusqueda &modo);
     void Usar(bool si);
 

@@ -12,6 +12,7 @@
 #include <QMouseEvent>
 
 #include <algorithm>
+#include <utility>
 
 namespace tarvo {
 
@@ -135,8 +136,11 @@ bool FiltroCampos::eventFilter(QObject *objeto, QEvent *evento) {
     case QEvent::KeyRelease:
         escapeVisto_ = false;
         return false;
-    case QEvent::KeyPress:
-        return recibe->window() == ventana_->window() && Tecla(recibe, static_cast<QKeyEvent *>(evento));
+    case QEvent::KeyPress: {
+        auto *const tecla = static_cast<QKeyEvent *>(evento);
+        teclaAnterior_ = std::exchange(ultimaTecla_, tecla->timestamp());
+        return recibe->window() == ventana_->window() && Tecla(recibe, tecla);
+    }
     case QEvent::FocusIn:
         if (static_cast<QFocusEvent *>(evento)->reason() == Qt::MouseFocusReason)
             porRaton_ = recibe;
@@ -184,13 +188,21 @@ bool FiltroCampos::Tecla(QWidget *recibe, QKeyEvent *evento) {
     return false;
 }
 
+// The system takes two strokes of one key with equal times for a held key; no key repeats that fast, but a
+// scanner does that sends its Enter twice.
+bool FiltroCampos::Sostenida(const QKeyEvent &evento) const {
+    constexpr quint64 kRepeticionMenor = 5; // ms
+    const bool alaVez = evento.timestamp() != 0 && evento.timestamp() - teclaAnterior_ < kRepeticionMenor;
+    return evento.isAutoRepeat() && !alaVez;
+}
+
 bool FiltroCampos::Entrar(QWidget *control, const QKeyEvent &evento) {
     if (alEntrar_.contains(control)) {
         alEntrar_.value(control)();
         return true;
     }
     if (auto *boton = qobject_cast<QAbstractButton *>(control); boton != nullptr && !boton->isCheckable()) {
-        if (!evento.isAutoRepeat())
+        if (!Sostenida(evento))
             boton->click();
         return true;
     }

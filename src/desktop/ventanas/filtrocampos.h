@@ -45,6 +45,7 @@ class FiltroCampos : public QObject {
     bool AdmiteRueda(QWidget *recibe) const;
     bool Tecla(QWidget *recibe, QKeyEvent *evento);
     bool Entrar(QWidget *control, const QKeyEvent &evento);
+    bool Sostenida(const QKeyEvent &evento) const;
     bool Escapar();
     void CambiarFoco(QWidget *ahora);
     void AvisarFoco(QWidget *control, bool entra);
@@ -57,7 +58,9 @@ class FiltroCampos : public QObject {
     std::function<bool()> alEscapar_;
     QPointer<QWidget> enfocado_; // control whose entering was told; stays it while another window is active
     QPointer<QWidget> porRaton_; // field that a mouse button, still down, gave the focus
-    bool escapeVisto_ = false;   // this stroke found nothing to do and is on its way up to the window
+    quint64 ultimaTecla_ = 0;    // times of the strokes, ms
+    quint64 teclaAnterior_ = 0;
+    bool escapeVisto_ = false; // this stroke found nothing to do and is on its way up to the window
 };
 
 } // namespace tarvo

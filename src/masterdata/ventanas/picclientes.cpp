@@ -3,6 +3,7 @@
 #include "desktop/ventanas/barrabusqueda.h"
 #include "desktop/ventanas/filtrocampos.h"
 #include "desktop/ventanas/iconos.h"
+#include "desktop/ventanas/paneles.h"
 #include "masterdata/ventanas/picnuevocliente.h"
 #include "ui_picclientes.h"
 
@@ -52,7 +53,7 @@ void PicClientes::PrepararAlta() {
     connect(picNuevoCliente_, &PicNuevoCliente::Guardado, this, &PicClientes::CargarClientes);
     connect(picNuevoCliente_, &PicNuevoCliente::Cerrado, this, [this] {
         HabilitarPanel(true);
-        (busqueda_->EnUso() ? static_cast<QWidget *>(ui_->txtBuscarClientes) : ui_->LVClientes)->setFocus();
+        EnfocarFuera(*picNuevoCliente_, {ui_->txtBuscarClientes, ui_->LVClientes});
     });
 }
 
@@ -77,6 +78,11 @@ int PicClientes::FilaActual() const {
     return ui_->LVClientes->FilaActual();
 }
 
+void PicClientes::Buscar() {
+    if (!EntradaNueva())
+        busqueda_->Empezar();
+}
+
 void PicClientes::Cerrar() {
     hide();
     emit Cerrado();
@@ -85,11 +91,19 @@ void PicClientes::Cerrar() {
 bool PicClientes::Escapar() {
     if (isHidden())
         return false;
-    if (picNuevoCliente_ != nullptr && !picNuevoCliente_->isHidden())
+    if (EntradaNueva())
         picNuevoCliente_->Cerrar();
     else
         Cerrar();
     return true;
+}
+
+bool PicClientes::EntradaNueva() const {
+    return picNuevoCliente_ != nullptr && !picNuevoCliente_->isHidden();
+}
+
+bool PicClientes::EntradaEnCurso() const {
+    return picNuevoCliente_ != nullptr && picNuevoCliente_->EntradaEnCurso();
 }
 
 void PicClientes::Aceptar() {

@@ -35,10 +35,14 @@ class PicClientes : public QFrame {
     void CargarClientes();
 
     void Abrir();
+    // Begins a new search.
+    void Buscar();
     // As "Cancelar".
     void Cerrar();
     // Escape closes the topmost panel; false when none is open.
     bool Escapar();
+    // A new customer is half typed.
+    bool EntradaEnCurso() const;
     // Takes its place in the middle of `sitio`, a part of the window.
     void Colocar(const QRect &sitio);
 
@@ -50,6 +54,7 @@ class PicClientes : public QFrame {
     void resizeEvent(QResizeEvent *evento) override;
 
   private:
+    bool EntradaNueva() const;
     void PrepararBarra(Buscador &buscador, FiltroCampos &filtro);
     void PrepararAlta();
     void Aceptar();

@@ -6,6 +6,8 @@
 #include "ui_fichaclientes.h"
 #include "ui_picnuevocliente.h"
 
+#include <algorithm>
+
 namespace tarvo {
 
 PicNuevoCliente::PicNuevoCliente(const Servicios &servicios, QWidget *padre)
@@ -36,6 +38,11 @@ void PicNuevoCliente::Abrir() {
 void PicNuevoCliente::Cerrar() {
     hide();
     emit Cerrado();
+}
+
+bool PicNuevoCliente::EntradaEnCurso() const {
+    return !isHidden() &&
+           std::ranges::any_of(campos_, [](const QLineEdit *campo) { return !campo->text().isEmpty(); });
 }
 
 bool PicNuevoCliente::FaltaRequerido() {

@@ -27,6 +27,8 @@ class PicNuevoCliente : public QFrame {
     void Abrir();
     // Drops the entry.
     void Cerrar();
+    // Something has been typed that is not saved.
+    bool EntradaEnCurso() const;
 
   signals:
     void Abierto();

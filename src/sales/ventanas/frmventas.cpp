@@ -1,19 +1,20 @@
 #include "sales/ventanas/frmventas.h"
 
+#include "desktop/anfitrion.h"
 #include "desktop/preguntas.h"
-#include "desktop/reloj.h"
 #include "desktop/ventanas/barrabusqueda.h"
 #include "desktop/ventanas/filtrocampos.h"
 #include "desktop/ventanas/iconos.h"
+#include "desktop/ventanas/paneles.h"
 #include "desktop/ventanas/solocaracteres.h"
 #include "documents/impresoras.h"
 #include "masterdata/ventanas/picclientes.h"
+#include "sales/ventanas/camposescaner.h"
 #include "store/store.h"
 #include "ui_frmventas.h"
 
+#include <QAction>
 #include <QHeaderView>
-#include <QSignalBlocker>
-#include <QStyle>
 #include <QTimer>
 
 #include <algorithm>
@@ -36,10 +37,13 @@ std::vector<ModoBusqueda> ModosArticulos() {
 
 } // namespace
 
-FrmVentas::FrmVentas(Servicios servicios, Anfitrion &, QWidget *padre)
+FrmVentas::FrmVentas(Servicios servicios, Anfitrion &anfitrion, QWidget *padre)
     : VentanaModulo(padre),
       ui_(std::make_unique<Ui::FrmVentas>()),
-      servicios_(servicios),
+      escaner_(servicios.preguntas),
+      anfitrion_(anfitrion),
+      servicios_{servicios.frmBases,   escaner_,          servicios.reloj,
+                 servicios.impresoras, servicios.ajustes, servicios.escritorio},
       venta_(servicios.frmBases) {
     ui_->setupUi(this);
     filtro_ = new FiltroCampos(this);
@@ -50,6 +54,8 @@ FrmVentas::FrmVentas(Servicios servicios, Anfitrion &, QWidget *padre)
     ConectarDetalle();
     ConectarCliente();
     ConectarDocumento();
+    PrepararEscaner();
+    PrepararAtajos();
     Abrir();
 }
 
@@ -69,6 +75,7 @@ void FrmVentas::Abrir() {
     picClientes_->CargarClientes();
     MostrarCliente();
     MostrarPago();
+    MostrarEstado();
     MostrarHora();
     ui_->txtBuscar->setFocus();
 }
@@ -96,6 +103,8 @@ void FrmVentas::FiltrarCampos() {
     const QString digitos = QStringLiteral("0123456789");
     SoloCaracteres(ui_->txtCantidad, digitos);
     SoloCaracteres(ui_->txtDescuento, digitos);
+    SoloCaracteres(ui_->txtEntregado, digitos + QStringLiteral(".,"));
+    connect(ui_->txtEntregado, &QLineEdit::textChanged, this, &FrmVentas::MostrarVuelto);
     filtro_->AlEntrar(ui_->txtCantidad, [this] { Agregar(); });
     filtro_->AlFlecha(ui_->txtCantidad, [this](int paso) { ui_->FSB1->Paso(paso); });
     filtro_->AlFoco(ui_->txtCantidad, [this](bool entra) {
@@ -103,12 +112,62 @@ void FrmVentas::FiltrarCampos() {
             CompletarCantidad();
     });
     filtro_->AlFoco(ui_->txtDescuento, [this](bool entra) { FocoDescuento(entra); });
+    filtro_->AlFoco(ui_->txtNumComp, [this](bool) { Conservado(ui_->txtNumComp, false); });
+    for (QPushButton *boton : {ui_->cmdVContado, ui_->cmdVCredito})
+        filtro_->AlEntrar(boton, [boton] { boton->click(); });
     filtro_->AlEntrar(ui_->LVArticulos, [this] { ui_->txtCantidad->setFocus(); });
     filtro_->AlSuprimir(ui_->LVDetalle, [this] { Quitar(); });
     filtro_->AlFoco(ui_->LVDetalle, [this](bool entra) {
         if (entra && !venta_.EnCurso())
             focusNextPrevChild(true);
     });
+}
+
+void FrmVentas::PrepararAtajos() {
+    Atajo(ui_->txtBuscar, QStringLiteral("Buscar un artículo"), {QKeySequence(Qt::CTRL | Qt::Key_B)},
+          &FrmVentas::Buscar);
+    Atajo(ui_->cmdEmitir, QStringLiteral("Emitir el comprobante"),
+          {QKeySequence(Qt::CTRL | Qt::Key_Return), QKeySequence(Qt::CTRL | Qt::Key_Enter)},
+          &FrmVentas::Emitir);
+    Atajo(ui_->cmdNuevo, QStringLiteral("Comenzar una nueva venta"), {QKeySequence(Qt::CTRL | Qt::Key_N)},
+          &FrmVentas::Nueva);
+}
+
+// What is half typed in a field counts: the focus leaves it first.
+void FrmVentas::Atajo(QWidget *control, const QString &ayuda, const QList<QKeySequence> &teclas,
+                      void (FrmVentas::*accion)()) {
+    auto *orden = new QAction(this);
+    orden->setShortcuts(teclas);
+    addAction(orden);
+    control->setToolTip(
+        QStringLiteral("%1 (%2)").arg(ayuda, teclas.first().toString(QKeySequence::NativeText)));
+    connect(orden, &QAction::triggered, this, [this, control, accion] {
+        control->setFocus();
+        (this->*accion)();
+    });
+}
+
+void FrmVentas::PrepararEscaner() {
+    const EsBarras esBarras = [this](const QString &texto) {
+        const QByteArray utf8 = texto.toUtf8();
+        return venta_.Articulos().Buscar(articulo::CodBarras,
+                                         {utf8.constData(), static_cast<std::size_t>(utf8.size())}) >= 0;
+    };
+    escaner_.Montar(
+        {ui_->frArticulos, ui_->frDetalle, ui_->frDatos},
+        [this](const QString &codigo) { BuscarBarras(codigo); },
+        [this](const QString &texto) { busqueda_->Empezar(texto); });
+    escaner_.Vigilar(
+        CampoNumerico(ui_->txtCantidad, [this] { ui_->txtCantidad->setText(QStringLiteral("1")); }));
+    escaner_.Vigilar(CampoNumerico(
+        ui_->txtDescuento, [this] { ui_->txtDescuento->setText(QString::number(venta_.Descuento())); }));
+    escaner_.Vigilar(CampoLibre(ui_->txtNumComp, esBarras));
+    escaner_.Vigilar(CampoLibre(ui_->txtEntregado, esBarras));
+    escaner_.Vigilar(CampoCombo(ui_->cboxVendedores, esBarras));
+}
+
+void FrmVentas::BuscarBarras(const QString &codigo) {
+    busqueda_->BuscarEn(QStringLiteral("barras"), codigo);
 }
 
 void FrmVentas::ConectarArticulos() {
@@ -122,6 +181,8 @@ void FrmVentas::ConectarArticulos() {
     });
     connect(ui_->LVArticulos, &ListaVista::FilaDobleClic, this, &FrmVentas::Agregar);
     connect(ui_->cmdAgregar, &QPushButton::clicked, this, &FrmVentas::Agregar);
+    connect(ui_->LVArticulos->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            &FrmVentas::MostrarSeleccionado);
 }
 
 void FrmVentas::ConectarDetalle() {
@@ -154,83 +215,12 @@ void FrmVentas::ConectarDocumento() {
         MostrarPago();
     });
     connect(ui_->cmdVCredito, &QPushButton::clicked, this, &FrmVentas::Credito);
+    connect(ui_->txtNumComp, &QLineEdit::textChanged, this,
+            [this](const QString &numero) { venta_.PonerNumComp(numero); });
+    connect(ui_->cboxVendedores, &QComboBox::currentTextChanged, this,
+            [this](const QString &vendedor) { venta_.PonerVendedor(vendedor); });
     connect(ui_->cmdEmitir, &QPushButton::clicked, this, &FrmVentas::Emitir);
     connect(ui_->cmdNuevo, &QPushButton::clicked, this, &FrmVentas::Nueva);
-}
-
-// --- what the controls show
-
-void FrmVentas::MostrarHora() {
-    const QDateTime ahora = servicios_.reloj.Ahora();
-    ui_->lblFecha->setText(TextoFecha(ahora));
-    ui_->lblHora->setText(TextoHora(ahora));
-}
-
-void FrmVentas::MostrarTotales(const Totales &totales) {
-    totales_ = totales;
-    ui_->lblSubtotal->setText(totales.subtotal);
-    ui_->lblIVA->setText(totales.iva);
-    ui_->lblImpPersonalizado->setText(totales.impuesto);
-    ui_->lblTotal->setText(totales.total);
-    ui_->lblDescuento->setText(totales.conDescuento);
-}
-
-void FrmVentas::MostrarCliente() {
-    const QSignalBlocker sinEventos(ui_->chkFinal);
-    ui_->lblCliente->setText(venta_.Cliente().nombre);
-    ui_->lblRUC->setText(venta_.Cliente().ruc);
-    ui_->lblIdCliente->setText(venta_.Cliente().id);
-    ui_->chkFinal->setChecked(venta_.ConsumidorFinal());
-}
-
-void FrmVentas::MostrarPago() {
-    const bool contado = venta_.pago() == Pago::Contado;
-    ui_->shVContado->setVisible(contado);
-    ui_->shVCredito->setVisible(!contado);
-    ui_->cmdVContado->setProperty("marcado", contado);
-    ui_->cmdVCredito->setProperty("marcado", !contado);
-    for (QPushButton *boton : {ui_->cmdVContado, ui_->cmdVCredito})
-        boton->style()->polish(boton);
-}
-
-void FrmVentas::CargarArticulos() {
-    venta_.CargarArticulos();
-    if (venta_.Articulos().Filas() > 0)
-        ui_->LVArticulos->SeleccionarFila(0);
-    AjustarColumnas();
-}
-
-// Number and discount stay: the next document goes on from them.
-void FrmVentas::MostrarVentaNueva() {
-    venta_.Reiniciar();
-    if (venta_.Articulos().Filas() > 0)
-        ui_->LVArticulos->SeleccionarFila(0);
-    ui_->txtCantidad->setText(QStringLiteral("1"));
-    ui_->cmdQuitar->setEnabled(false);
-    MostrarCliente();
-    MostrarPago();
-    AjustarColumnas();
-    CalcularTotales();
-}
-
-void FrmVentas::AjustarColumnas() {
-    const auto ancho = [](const ListaVista *lista) { return lista->DesbordaFilas() ? 700 : 945; };
-    ui_->LVArticulos->PonerAncho(articulo::Precio, ancho(ui_->LVArticulos));
-    ui_->LVDetalle->PonerAncho(linea::Cantidad, ancho(ui_->LVDetalle));
-    venta_.Detalle().PonerTitulo(linea::Cantidad, ui_->LVDetalle->DesbordaFilas()
-                                                      ? QStringLiteral("Cant.")
-                                                      : QStringLiteral("Cantidad"));
-}
-
-void FrmVentas::resizeEvent(QResizeEvent *evento) {
-    VentanaModulo::resizeEvent(evento);
-    picClientes_->Colocar(rect().adjusted(0, ui_->lblTitulo->height(), 0, 0));
-    AjustarColumnas();
-}
-
-void FrmVentas::showEvent(QShowEvent *evento) {
-    VentanaModulo::showEvent(evento);
-    AjustarColumnas();
 }
 
 // --- the sale
@@ -242,15 +232,29 @@ void FrmVentas::CompletarCantidad() {
 
 void FrmVentas::Agregar() {
     CompletarCantidad();
-    const int fila = venta_.Agregar(ui_->LVArticulos->FilaActual(), ui_->txtCantidad->text().toLongLong());
-    if (fila < 0)
+    const QString cantidad = ui_->txtCantidad->text();
+    const int articulo = ui_->LVArticulos->FilaActual();
+    if (RachaTeclas::EsCodigo(cantidad)) {
+        ui_->txtCantidad->setText(QStringLiteral("1"));
+        BuscarBarras(cantidad);
+    } else if (articulo >= 0) {
+        AgregarArticulo(articulo, cantidad.toLongLong());
+    }
+}
+
+void FrmVentas::AgregarArticulo(int articulo, qint64 cantidad) {
+    if (const QString impedimento = venta_.Impedimento(articulo); !impedimento.isEmpty()) {
+        servicios_.preguntas.Informar(impedimento);
         return;
-    ui_->LVDetalle->SeleccionarFila(fila);
+    }
+    const int renglon = venta_.Agregar(articulo, cantidad);
+    ui_->LVDetalle->SeleccionarFila(renglon);
+    anfitrion_.Sugerencia(venta_.TextoLinea(renglon));
     ui_->txtCantidad->setText(QStringLiteral("1"));
     ui_->txtBuscar->clear();
     ui_->txtBuscar->setFocus();
     CalcularTotales();
-    ui_->cmdQuitar->setEnabled(true);
+    MostrarEstado();
     AjustarColumnas();
 }
 
@@ -264,7 +268,7 @@ void FrmVentas::Quitar() {
         ui_->LVDetalle->SeleccionarFila(std::min(fila, venta_.Detalle().Filas() - 1));
     CalcularTotales();
     ui_->LVArticulos->setFocus();
-    ui_->cmdQuitar->setEnabled(venta_.EnCurso());
+    MostrarEstado();
     AjustarColumnas();
 }
 
@@ -277,25 +281,30 @@ void FrmVentas::Nueva() {
 }
 
 void FrmVentas::Credito() {
-    if (venta_.PonerPago(Pago::Credito))
-        MostrarPago();
-    else
+    const bool puesto = venta_.PonerPago(Pago::Credito);
+    MostrarPago();
+    if (!puesto)
         servicios_.preguntas.Informar(QStringLiteral("Debe seleccionar un cliente."));
     ui_->cmdCliente->setFocus();
 }
 
 void FrmVentas::AbrirClientes() {
-    for (QWidget *marco : {ui_->frArticulos, ui_->frDetalle, ui_->frDatos})
-        marco->setEnabled(false);
+    venta_.PonerEligiendo(true);
+    MostrarEstado();
     picClientes_->Abrir();
 }
 
 void FrmVentas::CerrarClientes() {
-    for (QWidget *marco : {ui_->frArticulos, ui_->frDetalle, ui_->frDatos})
-        marco->setEnabled(true);
+    venta_.PonerEligiendo(false);
+    MostrarEstado();
     buscador_.Reiniciar();
     CalcularTotales();
-    ui_->txtBuscar->setFocus();
+    EnfocarBusqueda();
+}
+
+// The search field, or the articles while the search is switched off.
+void FrmVentas::EnfocarBusqueda() {
+    EnfocarFuera(*picClientes_, {ui_->txtBuscar, ui_->LVArticulos});
 }
 
 void FrmVentas::FocoDescuento(bool entra) {
@@ -304,32 +313,29 @@ void FrmVentas::FocoDescuento(bool entra) {
         ui_->txtDescuento->selectAll();
         return;
     }
+    Conservado(ui_->txtDescuento, false);
     venta_.PonerDescuento(ui_->txtDescuento->text());
     ui_->txtDescuento->setText(venta_.TextoDescuento());
     CalcularTotales();
 }
 
-DatosComprobante FrmVentas::Comprobante() const {
-    return {ui_->lblFecha->text(),
-            ui_->lblHora->text(),
-            ui_->txtNumComp->text(),
-            ui_->cboxVendedores->currentText(),
-            totales_,
-            impresora_};
+void FrmVentas::Buscar() {
+    busqueda_->Empezar();
 }
 
 void FrmVentas::Emitir() {
-    switch (tarvo::Emitir(servicios_, venta_, [this] { return Comprobante(); })) {
+    switch (tarvo::Emitir(servicios_, venta_, impresora_)) {
     case ResultadoEmision::SinLineas:
-        ui_->txtBuscar->setFocus();
+        EnfocarBusqueda();
         break;
     case ResultadoEmision::SinVendedor:
         ui_->cboxVendedores->setFocus();
         break;
     case ResultadoEmision::Emitida:
         MostrarVentaNueva();
+        MarcarConservados();
         ui_->cboxVendedores->setCurrentIndex(0);
-        ui_->txtBuscar->setFocus();
+        EnfocarBusqueda();
         break;
     case ResultadoEmision::NoConfirmada:
     case ResultadoEmision::NoGuardada:
@@ -340,7 +346,7 @@ void FrmVentas::Emitir() {
 // --- leaving
 
 bool FrmVentas::EntradaEnCurso() const {
-    return venta_.EnCurso();
+    return venta_.EnCurso() || picClientes_->EntradaEnCurso();
 }
 
 bool FrmVentas::PermiteCerrarPrograma() {

@@ -5,8 +5,11 @@
 #include "desktop/servicios.h"
 #include "desktop/ventanas/ventanamodulo.h"
 #include "sales/emision.h"
+#include "sales/ventanas/rutaescaner.h"
 
 #include <memory>
+
+class QLineEdit;
 
 namespace tarvo {
 
@@ -41,36 +44,49 @@ class FrmVentas : public VentanaModulo {
     void ConectarCliente();
     void ConectarDocumento();
     void FiltrarCampos();
+    void PrepararAtajos();
+    void Atajo(QWidget *control, const QString &ayuda, const QList<QKeySequence> &teclas,
+               void (FrmVentas::*accion)());
+    void PrepararEscaner();
 
     void MostrarHora();
     void MostrarTotales(const Totales &totales);
     void CalcularTotales() { MostrarTotales(venta_.CalcularTotales()); }
     void MostrarCliente();
     void MostrarPago();
+    void MostrarEstado();
+    void MostrarSeleccionado();
+    void MostrarVuelto();
+    void MarcarConservados();
+    static void Conservado(QLineEdit *campo, bool si);
     void MostrarVentaNueva();
     void CargarArticulos();
     void AjustarColumnas();
 
     void CompletarCantidad();
+    void BuscarBarras(const QString &codigo);
     void Agregar();
+    void AgregarArticulo(int articulo, qint64 cantidad);
     void Quitar();
     void Nueva();
     void Credito();
     void AbrirClientes();
     void CerrarClientes();
+    void EnfocarBusqueda();
     void FocoDescuento(bool entra);
+    void Buscar();
     void Emitir();
-    DatosComprobante Comprobante() const;
 
     std::unique_ptr<Ui::FrmVentas> ui_;
-    Servicios servicios_;
+    RutaEscaner escaner_;
+    Anfitrion &anfitrion_;
+    Servicios servicios_; // whose questions go through the scanner's road
     Venta venta_;
     Buscador buscador_;
     FiltroCampos *filtro_;
     BarraBusqueda *busqueda_;
     PicClientes *picClientes_;
     QString impresora_; // name of the ticket printer
-    Totales totales_;
 };
 
 } // namespace tarvo
