@@ -83,10 +83,9 @@ bool ServidorImpresion::Instalar() const {
 }
 
 QString ServidorImpresion::Texto() const {
-    // The job leaves the queue when its paper is written.
-    Esperar("the end of a print job", [] {
-        return !Ejecutar(QStringLiteral("lpstat"), {QStringLiteral("-W"), QStringLiteral("completed")}, true)
-                    .isEmpty();
+    Esperar("the end of the printed paper", [this] {
+        QFile papel(Ruta("papel/hoja.ps"));
+        return papel.open(QIODevice::ReadOnly) && papel.readAll().contains("%%EOF");
     });
     Ejecutar(QStringLiteral("ps2pdf"), {Ruta("papel/hoja.ps"), Ruta("papel/hoja.pdf")});
     return QString::fromUtf8(
