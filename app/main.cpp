@@ -9,5 +9,5 @@ int main(int argc, char **argv) {
     const tarvo::Aplicacion aplicacion(argc, argv, preguntas);
     return tarvo::Programa(preguntas, QCoreApplication::applicationDirPath(),
                            QStandardPaths::writableLocation(QStandardPaths::AppDataLocation))
-        .Ejecutar();
+        .Ejecutar(QCoreApplication::arguments().contains(QStringLiteral("--directo")));
 }

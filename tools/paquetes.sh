@@ -9,7 +9,10 @@ PAQUETES_COMPILAR=(
     fonts-liberation fonts-noto-core fonts-dejavu-core
 )
 # What drives the program on a screen of its own and looks at what it printed.
-PAQUETES_PANTALLA=(xvfb xauth openbox xdotool x11-utils imagemagick poppler-utils sqlite3)
+PAQUETES_PANTALLA=(
+    xvfb xauth openbox xdotool x11-utils imagemagick poppler-utils sqlite3
+    cups printer-driver-cups-pdf
+)
 # Readers not written here, that tests open exported files with.
 PAQUETES_LECTORES=(python3 python3-xlrd)
 PAQUETES_REVISION=(clang-format clang-tidy)

@@ -35,6 +35,9 @@ class AjustesPrincipal {
     Geometria PantComp(const Geometria &actual) const;
     void PonerPantComp(const Geometria &geometria);
 
+    // The splash is shown at start.
+    bool Presentacion() const { return Entero("Presentacion", 1) != 0; }
+
     QUrl SitioFabricante() const;
     QUrl SitioAyuda() const;
     QUrl Correo() const; // with the scheme of mail

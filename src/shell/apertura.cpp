@@ -5,6 +5,14 @@
 
 namespace tarvo {
 
+namespace {
+
+QString AyudaInstalada(const QString &carpetaPrograma) {
+    return QDir::cleanPath(carpetaPrograma + QStringLiteral("/../share/tarvo/tarvo27me.pdf"));
+}
+
+} // namespace
+
 QString MensajeBloqueada() {
     return QStringLiteral(
         "La Base de datos se encuentra abierta en modo exclusivo por otro usuario, debe cerrarla "
@@ -33,6 +41,16 @@ QString AvisoDano(const QString &archivo, const QString &motivo) {
 QString UnirAvisos(QStringList avisos) {
     avisos.removeAll(QString());
     return avisos.join(QStringLiteral("   "));
+}
+
+bool EstaInstalado(const QString &carpetaPrograma) {
+    return QFileInfo::exists(AyudaInstalada(carpetaPrograma));
+}
+
+QString RutaAyuda(const QString &carpetaPrograma) {
+    const QString propia = carpetaPrograma + QStringLiteral("/tarvo27me.pdf");
+    return EstaInstalado(carpetaPrograma) && !QFileInfo::exists(propia) ? AyudaInstalada(carpetaPrograma)
+                                                                        : propia;
 }
 
 } // namespace tarvo

@@ -1,4 +1,4 @@
-// What the operator is told about the opening of the data at start.
+// What the operator is told about the opening of the data at start, and where the help lies.
 #pragma once
 
 #include "store/store.h"
@@ -15,5 +15,10 @@ QString AvisoLugar(const QString &datos, const QString &carpetaPrograma);
 QString AvisoDano(const QString &archivo, const QString &motivo);
 // The hints that are not empty, one behind the other.
 QString UnirAvisos(QStringList avisos);
+
+// The program lies in a system folder, with what belongs to it in share: its data are the user's.
+bool EstaInstalado(const QString &carpetaPrograma);
+// The help file: beside the program, or where an installation puts it.
+QString RutaAyuda(const QString &carpetaPrograma);
 
 } // namespace tarvo

@@ -157,7 +157,8 @@ TEST(KitMenu, BuildsTheTreeAndItsShortcutsWork) {
 }
 
 // Every picture is an own drawing that paints something at the size of a toolbar, on both kinds of screen.
-TEST(Iconos, EveryPictureIsDrawn) {
+TEST(Iconos, EveryPictureIsDrawnAndKept) {
+    EXPECT_EQ(IconoDe(u"ventas"_qs).cacheKey(), IconoDe(u"ventas"_qs).cacheKey());
     EXPECT_TRUE(IconoDe(u"noexiste"_qs).isNull());
     const QStringList archivos = QDir(u":/iconos"_qs).entryList();
     EXPECT_GE(archivos.size(), 45);

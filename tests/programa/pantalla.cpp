@@ -1,8 +1,7 @@
 #include "programa/pantalla.h"
 
-#include <QElapsedTimer>
 #include <QFile>
-#include <QThread>
+#include <QtCore/qtestsupport_core.h>
 
 #include <stdexcept>
 
@@ -20,13 +19,8 @@ QByteArray Ejecutar(const QString &orden, const QStringList &argumentos, bool pu
 }
 
 void Esperar(const char *que, const std::function<bool()> &cumple) {
-    QElapsedTimer reloj;
-    reloj.start();
-    while (!cumple()) {
-        if (reloj.elapsed() > kEspera)
-            throw std::runtime_error(std::string("did not come: ") + que);
-        QThread::msleep(20);
-    }
+    if (!QTest::qWaitFor(cumple, kEspera))
+        throw std::runtime_error(std::string("did not come: ") + que);
 }
 
 Pantalla::Pantalla() {

@@ -48,7 +48,7 @@ std::string Carpeta::Valor(const char *archivo, const char *consulta) const {
     return Filas(archivo, consulta).at(0).at(0);
 }
 
-ProgramaEnPantalla::ProgramaEnPantalla(const Carpeta &carpeta) {
+ProgramaEnPantalla::ProgramaEnPantalla(const Carpeta &carpeta, const QStringList &argumentos) {
     QProcessEnvironment entorno = QProcessEnvironment::systemEnvironment();
     entorno.insert(QStringLiteral("XDG_CONFIG_HOME"), carpeta.Ruta("ajustes"));
     entorno.insert(QStringLiteral("XDG_DATA_HOME"), carpeta.Ruta("usuario"));
@@ -58,13 +58,12 @@ ProgramaEnPantalla::ProgramaEnPantalla(const Carpeta &carpeta) {
     entorno.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("xcb"));
     proceso_.setProcessEnvironment(entorno);
     proceso_.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    proceso_.start(carpeta.Ruta("tarvo"), QStringList());
+    proceso_.start(carpeta.Ruta("tarvo"), argumentos);
     if (!proceso_.waitForStarted())
         throw std::runtime_error("the program did not start");
-    Esperar("splash", [this] {
-        cuadro_ = VentanasVisibles().value(0);
-        return !cuadro_.isEmpty();
-    });
+    Esperar("first window", [this] { return !VentanasVisibles().isEmpty(); });
+    if (argumentos != kDirecto)
+        cuadro_ = VentanasVisibles().value(0); // the splash is no box
 }
 
 ProgramaEnPantalla::~ProgramaEnPantalla() {

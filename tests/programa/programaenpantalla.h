@@ -25,10 +25,13 @@ class Carpeta {
     QTemporaryDir raiz_;
 };
 
+// Arguments of a start without the splash.
+inline const QStringList kDirecto{QStringLiteral("--directo")};
+
 class ProgramaEnPantalla {
   public:
-    // Returns when the splash is on screen.
-    explicit ProgramaEnPantalla(const Carpeta &carpeta);
+    // Returns when the first window is on screen.
+    explicit ProgramaEnPantalla(const Carpeta &carpeta, const QStringList &argumentos = {});
     ~ProgramaEnPantalla();
     ProgramaEnPantalla(const ProgramaEnPantalla &) = delete;
     ProgramaEnPantalla &operator=(const ProgramaEnPantalla &) = delete;

@@ -23,6 +23,11 @@ TEST_F(Arranque, FirstStartMakesTheDataAndASecondProcessIsRefused) {
     segundo.Teclas({QStringLiteral("Return")});
     EXPECT_EQ(segundo.CodigoSalida(), 1);
 
+    ProgramaEnPantalla directo(carpeta_, kDirecto);
+    directo.EsperarCuadro();
+    directo.Teclas({QStringLiteral("Return")});
+    EXPECT_EQ(directo.CodigoSalida(), 1);
+
     primero.EsperarVuelta();
     primero.Teclas({QStringLiteral("alt+F4")});
     EXPECT_EQ(primero.CodigoSalida(), 0);

@@ -83,7 +83,7 @@ void Vender(ProgramaEnPantalla &programa) {
 class DesdeCero : public MundoPrograma {};
 
 TEST_F(DesdeCero, WhatIsTypedIntoTheWindowsIsSoldAndIsInTheFiles) {
-    ProgramaEnPantalla programa(carpeta_);
+    ProgramaEnPantalla programa(carpeta_, kDirecto);
     programa.EsperarPrincipal();
     Configurar(programa);
     CargarProveedorYCliente(programa);

@@ -1,6 +1,7 @@
 // A sale by keys, from the scanner to the files and the paper, and the same sale with the program ended from
 // outside around the moment of its issue.
 #include "programa/mundoprograma.h"
+#include "programa/servidorimpresion.h"
 #include "programa/ventaporteclas.h"
 #include "tienda/tienda.h"
 
@@ -92,7 +93,7 @@ class VentaPrograma : public MundoPrograma {};
 
 TEST_F(VentaPrograma, ASaleByKeysIsInTheFilesAndOnPaper) {
     HacerTiendaConocida(carpeta_);
-    ProgramaEnPantalla programa(carpeta_);
+    ProgramaEnPantalla programa(carpeta_, kDirecto);
     programa.EsperarPrincipal();
     PonerVenta(programa);
     EmitirConTicket(programa);
@@ -109,6 +110,22 @@ TEST_F(VentaPrograma, ASaleByKeysIsInTheFilesAndOnPaper) {
     EXPECT_EQ(TextoTicket(carpeta_).toStdString(), kTicket);
 }
 
+TEST_F(VentaPrograma, TicketComesOutOfTheSystemsPrinter) {
+    const ServidorImpresion servidor;
+    if (!servidor.Anda())
+        GTEST_SKIP() << "CUPS can't be started here";
+    HacerTiendaConocida(carpeta_);
+    ProgramaEnPantalla programa(carpeta_, kDirecto);
+    programa.EsperarPrincipal();
+    PonerVenta(programa);
+    EmitirConTicket(programa);
+    programa.Cerrar();
+    const QString texto = servidor.Texto();
+    for (const char *linea :
+         {"LA ESQUINA DE ÑANDÚ", "  3 x $ 33,33", "Total c/Descuento              $ 224,32"})
+        EXPECT_TRUE(texto.contains(k(linea))) << linea << " is not in\n" << texto.toStdString();
+}
+
 // Asked to end by the system while the question of the issue stands, the program closes in order and nothing
 // of the sale is stored; killed behind the commit, all of it is.
 TEST_F(VentaPrograma, EndedFromOutsideTheSaleIsWholeOrAbsent) {
@@ -116,7 +133,7 @@ TEST_F(VentaPrograma, EndedFromOutsideTheSaleIsWholeOrAbsent) {
         SCOPED_TRACE(confirmada);
         const Carpeta carpeta;
         HacerTiendaConocida(carpeta);
-        ProgramaEnPantalla programa(carpeta);
+        ProgramaEnPantalla programa(carpeta, kDirecto);
         programa.EsperarPrincipal();
         PonerVenta(programa);
         PedirEmision(programa);

@@ -1,11 +1,15 @@
 #include "mundoprincipal.h"
 
+#include "shell/apertura.h"
 #include "shell/ventanas/acciones.h"
 #include "shell/ventanas/barraestado.h"
 #include "shell/ventanas/traduccionteclas.h"
 
+#include <QDir>
 #include <QLibraryInfo>
 #include <QMenuBar>
+#include <QPushButton>
+#include <QSignalSpy>
 #include <QTimer>
 #include <QToolButton>
 
@@ -207,42 +211,77 @@ TEST_F(PrincipalTest, KeysAndClicksOpenAndCloseModules) {
     EXPECT_EQ(Presionados(), QString());
 }
 
-TEST_F(PrincipalTest, RefusedSwitchPutsTheToolbarBackAfterATick) {
+TEST_F(PrincipalTest, RefusedSwitchPressesTheButtonBackOneTickLater) {
     Abrir();
     Tecla(frm.get(), Qt::Key_F8);
     Modulo_()->entrada = true;
-    const QString pregunta = QStringLiteral("Confirma que desea salir sin completar la venta?");
-    mundo.preguntas.Espera(pregunta, Respuesta::No, Respuesta::No);
+    mundo.preguntas.Espera(QStringLiteral("Confirma que desea salir sin completar la venta?"), Respuesta::No,
+                           Respuesta::No);
     Pulsar(Boton("ventas"));
     EXPECT_EQ(Presionados(), QString());
     QTRY_COMPARE(Presionados(), QStringLiteral("ventas"));
-    mundo.preguntas.Espera(pregunta, Respuesta::No, Respuesta::No);
-    Pulsar(Boton("articulos"));
-    EXPECT_EQ(Presionados(), QStringLiteral("ventas"));
     EXPECT_EQ(Abierta(), QStringLiteral("ventas"));
-    mundo.preguntas.Espera(pregunta, Respuesta::No, Respuesta::Si);
-    Tecla(frm.get(), Qt::Key_F2);
-    EXPECT_EQ(Presionados(), QStringLiteral("articulos"));
-    EXPECT_EQ(Abierta(), QStringLiteral("articulos"));
 }
 
-TEST_F(PrincipalTest, DialogsCloseTheModuleFirst) {
+TEST_F(PrincipalTest, EntriesRunTheirDialogsAndReturns) {
     Abrir();
-    Tecla(frm.get(), Qt::Key_F8);
-    const QString aviso =
-        QStringLiteral("Al ingresar a las opciones del programa se cerrará el formulario de ventas."
-                       "\nDesea continuar?");
-    mundo.preguntas.Espera(aviso, Respuesta::No, Respuesta::No);
     Pulsar(Boton("config"));
-    EXPECT_EQ(Presionados(), QStringLiteral("ventas"));
-    EXPECT_TRUE(hechos.isEmpty());
-    mundo.preguntas.Espera(aviso, Respuesta::No, Respuesta::Si);
     DeMenu("factura")->trigger();
     Tecla(frm.get(), Qt::Key_F6);
     DeMenu("devcontado")->trigger();
     DeMenu("devcliente")->trigger();
-    EXPECT_EQ(hechos.join(QLatin1Char(' ')), QStringLiteral("diseñador respaldo contado por cliente"));
-    EXPECT_EQ(Abierta(), QStringLiteral("estado"));
+    EXPECT_EQ(hechos.join(QLatin1Char(' ')),
+              QStringLiteral("opciones diseñador respaldo contado por cliente"));
+    EXPECT_EQ(Presionados(), QStringLiteral("estado"));
+}
+
+TEST_F(PrincipalTest, StartWindowOpensModulesByItsButtons) {
+    composicion.modulos.erase(Modulo::Stats);
+    Abrir();
+    const auto *inicio = Control<QWidget>(*frm, "inicio");
+    const QList<QPushButton *> botones = inicio->findChildren<QPushButton *>();
+    ASSERT_EQ(botones.size(), 6);
+    EXPECT_EQ(botones[0]->accessibleName(), QStringLiteral("Ventas (F8)"));
+    EXPECT_FALSE(botones[5]->isEnabled());
+    EXPECT_TRUE(botones[0]->hasFocus());
+    Tecla(botones[0], Qt::Key_Return);
+    EXPECT_EQ(Abierta(), QStringLiteral("ventas"));
+    EXPECT_EQ(Presionados(), QStringLiteral("ventas"));
+    EXPECT_FALSE(inicio->isVisible());
+    Tecla(frm.get(), Qt::Key_F8);
+    EXPECT_TRUE(botones[0]->hasFocus());
+    Tecla(botones[0], Qt::Key_Down);
+    EXPECT_TRUE(botones[3]->hasFocus());
+    for (int i = 0; i < 2; ++i) // past the one that is off
+        Tecla(QApplication::focusWidget(), Qt::Key_Tab);
+    EXPECT_EQ(ConFoco(), QStringLiteral("fabricante"));
+    Tecla(QApplication::focusWidget(), Qt::Key_Return);
+    EXPECT_EQ(mundo.escritorio.direcciones.size(), 1);
+}
+
+TEST_F(PrincipalTest, LettersOfTheModuleWinOverTheMenus) {
+    Abrir();
+    Tecla(frm.get(), Qt::Key_F8);
+    auto *campo = Control<QLineEdit>(*frm, "txtCampo");
+    auto *boton = new QPushButton(QStringLiteral("&Cancelar"), Modulo_());
+    auto *rotulo = new QLabel(QStringLiteral("&Hora"), Modulo_());
+    rotulo->setBuddy(campo);
+    for (QWidget *control : {static_cast<QWidget *>(boton), static_cast<QWidget *>(rotulo)})
+        control->show();
+    QSignalSpy pulsado(boton, &QPushButton::clicked);
+    for (int vez = 1; vez <= 3; ++vez) {
+        boton->setFocus();
+        Tecla(boton, Qt::Key_C, Qt::AltModifier);
+        QTRY_COMPARE(pulsado.size(), vez);
+        Tecla(boton, Qt::Key_H, Qt::AltModifier);
+        EXPECT_TRUE(campo->hasFocus());
+    }
+    const auto *menu = Control<QMenuBar>(*frm, "mnuBarra");
+    Tecla(campo, Qt::Key_F10);
+    Tecla(QApplication::focusWidget(), Qt::Key_C);
+    ASSERT_NE(menu->activeAction(), nullptr);
+    EXPECT_EQ(menu->activeAction()->text(), QStringLiteral("&Clientes"));
+    EXPECT_EQ(pulsado.size(), 3);
 }
 
 TEST_F(PrincipalTest, CalculatorTogglesAndResetsItsEntryWhenClosed) {
@@ -372,6 +411,11 @@ TEST_F(PrincipalTest, HelpOpensTheFileBesideTheProgram) {
     ASSERT_TRUE(archivo.open(QIODevice::WriteOnly));
     DeMenu("ayudapdf")->trigger();
     EXPECT_EQ(mundo.escritorio.archivos, QStringList{ruta});
+    // Installed by a package it lies in share.
+    QDir(mundo.datos.Carpeta()).mkpath(QStringLiteral("share/tarvo"));
+    const QString instalada = mundo.datos.Carpeta() + QStringLiteral("/share/tarvo/tarvo27me.pdf");
+    ASSERT_TRUE(archivo.copy(instalada));
+    EXPECT_EQ(RutaAyuda(mundo.datos.Carpeta() + QStringLiteral("/bin")), instalada);
 
     Pulsar(Boton("ayuda"));
     QPointer<QWidget> menu = QApplication::activePopupWidget();

@@ -46,10 +46,13 @@ int EstiloConMarco::pixelMetric(PixelMetric medida, const QStyleOption *opcion,
     return QProxyStyle::pixelMetric(medida, opcion, control);
 }
 
-// Above the control, in the window itself: the frame of a group would cut the ring.
+// Above the control, in the window itself: the frame of a group would cut the ring. Alt alone leads to the
+// menu bar.
 int EstiloConMarco::styleHint(StyleHint cual, const QStyleOption *opcion, const QWidget *control,
                               QStyleHintReturn *respuesta) const {
-    return cual == SH_FocusFrame_AboveWidget ? 1 : QProxyStyle::styleHint(cual, opcion, control, respuesta);
+    if (cual == SH_FocusFrame_AboveWidget || cual == SH_MenuBar_AltKeyNavigation)
+        return 1;
+    return QProxyStyle::styleHint(cual, opcion, control, respuesta);
 }
 
 MarcoFoco::MarcoFoco(QApplication &aplicacion) : QObject(&aplicacion) {

@@ -12,6 +12,7 @@ Aplicacion::Aplicacion(int &argc, char **argv, Preguntas &preguntas)
     : QApplication(argc, argv), aviso_(preguntas) {
     setOrganizationName(QStringLiteral("Velbrina Software"));
     setApplicationName(QStringLiteral("Tarvo"));
+    setDesktopFileName(QStringLiteral("tarvo")); // the desktop finds the icon of the windows by it
     // The ready-made dialogs of the toolkit speak Spanish too, where its translation is installed.
     auto *traduccion = new QTranslator(this);
     if (traduccion->load(QStringLiteral("qtbase_es"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))

@@ -27,6 +27,7 @@ void AreaModulos::Mostrar(Modulo modulo) {
     QWidget *const elegido = abierta_->focusWidget();
     area_.setWidget(abierta_);
     abierta_->show();
+    emit Cambio(true);
     if (!abierta_->isAncestorOf(QApplication::focusWidget()))
         (elegido != nullptr ? elegido : abierta_.data())->setFocus();
 }
@@ -37,6 +38,7 @@ void AreaModulos::Cerrar(Modulo modulo) {
     abierta_->close();
     delete abierta_;
     cual_.reset();
+    emit Cambio(false);
     anfitrion_.PonerExportable(false);
     anfitrion_.Sugerencia(QString());
 }

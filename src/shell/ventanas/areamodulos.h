@@ -38,6 +38,7 @@ class AreaModulos : public QObject, public VentanasModulos {
 
   signals:
     void CalculadoraCerrada();
+    void Cambio(bool abierta); // a module was opened, or none is open any more
 
   private:
     QScrollArea &area_;

@@ -10,7 +10,6 @@ BarraEstado::BarraEstado(QWidget *padre)
     : QStatusBar(padre), fabricante(new EtiquetaEnlace(this)), separador(new EtiquetaElidida(this)) {
     setSizeGripEnabled(false);
     fabricante->setObjectName(QStringLiteral("fabricante"));
-    fabricante->setFocusPolicy(Qt::NoFocus); // the Tab key stays within the module
     fabricante->setText(QStringLiteral("Velbrina Software"));
     fabricante->setToolTip(QStringLiteral("Sitio web de Velbrina Software"));
     fabricante->PonerColores(colores::kTextoTenue, colores::kTitulo);
@@ -33,6 +32,10 @@ QLabel *BarraEstado::Panel(const char *nombre, const QString &texto, const QStri
     panel->setAlignment(Qt::AlignCenter);
     addWidget(panel, 1);
     return panel;
+}
+
+void BarraEstado::PermitirFoco(bool posible) {
+    fabricante->setFocusPolicy(posible ? Qt::TabFocus : Qt::NoFocus);
 }
 
 void BarraEstado::PonerTexto(const QString &texto) {

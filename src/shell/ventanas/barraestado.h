@@ -26,6 +26,9 @@ class BarraEstado : public QStatusBar {
     void PonerTeclado(const EstadoTeclado &estado);
     void PonerFecha(const QString &fecha);
 
+    // The Tab key reaches the maker's name.
+    void PermitirFoco(bool posible);
+
   signals:
     void FabricantePulsado();
 

@@ -45,7 +45,8 @@ void EtiquetaEnlace::mouseReleaseEvent(QMouseEvent *evento) {
 }
 
 void EtiquetaEnlace::keyPressEvent(QKeyEvent *evento) {
-    if (evento->key() == Qt::Key_Return || evento->key() == Qt::Key_Enter)
+    const int tecla = evento->key();
+    if (tecla == Qt::Key_Return || tecla == Qt::Key_Enter || tecla == Qt::Key_Space)
         emit Activada();
     else
         QLabel::keyPressEvent(evento);

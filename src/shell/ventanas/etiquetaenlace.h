@@ -1,5 +1,5 @@
 // A label that acts like a link: it changes colour under the mouse, and a left button pressed and released on
-// it, or Enter while it has the focus, activates it.
+// it, or Enter or Space while it has the focus, activates it.
 #pragma once
 
 #include <QColor>

@@ -4,10 +4,13 @@
 #include "desktop/reloj.h"
 #include "desktop/ventanas/estadoteclado.h"
 #include "desktop/ventanas/ventanamodulo.h"
+#include "shell/apertura.h"
 #include "shell/medidas.h"
 #include "shell/ventanas/acciones.h"
 #include "shell/ventanas/areamodulos.h"
 #include "shell/ventanas/frmabout.h"
+#include "shell/ventanas/letras.h"
+#include "shell/ventanas/panelinicio.h"
 #include "store/store.h"
 #include "ui_frmprincipal.h"
 
@@ -15,6 +18,8 @@
 #include <QCloseEvent>
 #include <QFileInfo>
 #include <QMenu>
+#include <QShortcut>
+#include <QShortcutEvent>
 #include <QStatusTipEvent>
 #include <QTimer>
 
@@ -28,6 +33,7 @@ FrmPrincipal::FrmPrincipal(const Servicios &servicios, const Composicion &compos
       carpetaPrograma_(std::move(carpetaPrograma)),
       pantalla_(*this, ajustes_),
       acciones_((ui_->setupUi(this), std::make_unique<Acciones>(*ui_->mnuBarra, *ui_->tbrPrincipal))),
+      inicio_(new PanelInicio(*acciones_)),
       area_(std::make_unique<AreaModulos>(*ui_->area, *this, composicion)),
       conmutador_(*this, *area_, servicios.preguntas),
       Timer1(new QTimer(this)) {
@@ -38,12 +44,15 @@ FrmPrincipal::FrmPrincipal(const Servicios &servicios, const Composicion &compos
     connect(area_.get(), &AreaModulos::CalculadoraCerrada, this,
             [this] { conmutador_.CalculadoraCerrada(); });
     connect(ui_->SB1, &BarraEstado::FabricantePulsado, this, [this] { Abrir(ajustes_.SitioFabricante()); });
+    ui_->pila->addWidget(inicio_, 1);
+    connect(area_.get(), &AreaModulos::Cambio, this, [this](bool abierta) { MostrarInicio(!abierta); });
     CrearManejadores();
     ConectarAcciones();
     AplicarAjustes();
     DesactivarSinVentana();
     PonerExportable(false);
     ActualizarEstado();
+    MostrarInicio(true);
     qApp->installEventFilter(this);
 }
 
@@ -56,6 +65,8 @@ void FrmPrincipal::ConectarAcciones() {
     const QMenu *const emergente = acciones_->Emergente();
     connect(emergente, &QMenu::hovered, this, [this](QAction *accion) { accion->showStatusText(this); });
     connect(emergente, &QMenu::aboutToHide, this, [this] { PonerAyudaEntrada(QString()); });
+    auto *menu = new QShortcut(Qt::Key_F10, this);
+    connect(menu, &QShortcut::activated, this, [this] { EntrarAlMenu(*ui_->mnuBarra); });
 }
 
 void FrmPrincipal::CrearManejadores() {
@@ -95,6 +106,15 @@ void FrmPrincipal::AplicarAjustes() {
 void FrmPrincipal::DesactivarSinVentana() {
     for (const DatosEntrada &datos : Entradas())
         acciones_->Habilitar(datos.entrada, area_->HayVentana(datos.entrada));
+}
+
+// With a module open the Tab key stays within it.
+void FrmPrincipal::MostrarInicio(bool visible) {
+    ui_->area->setVisible(!visible);
+    inicio_->setVisible(visible);
+    ui_->SB1->PermitirFoco(visible);
+    if (visible)
+        inicio_->setFocus();
 }
 
 void FrmPrincipal::Presentar(int anchoPantalla) {
@@ -164,7 +184,7 @@ void FrmPrincipal::mnuPantComp() {
 }
 
 void FrmPrincipal::mnuAyudaPdf() {
-    const QString ruta = carpetaPrograma_ + QStringLiteral("/tarvo27me.pdf");
+    const QString ruta = RutaAyuda(carpetaPrograma_);
     if (!QFileInfo::exists(ruta))
         servicios_.preguntas.Informar(QStringLiteral("No se encontró el archivo de ayuda \"%1\".").arg(ruta));
     else if (!servicios_.escritorio.AbrirArchivo(ruta))
@@ -229,8 +249,13 @@ bool FrmPrincipal::event(QEvent *evento) {
     return QMainWindow::event(evento);
 }
 
-// The lock keys and midnight show at the next key or when the program becomes active.
+// The lock keys and midnight show at the next key or when the program becomes active. A letter that both menu
+// and module underline is the module's.
 bool FrmPrincipal::eventFilter(QObject *objeto, QEvent *evento) {
+    if (evento->type() == QEvent::Shortcut) {
+        const auto *const atajo = static_cast<QShortcutEvent *>(evento);
+        return atajo->isAmbiguous() && PulsarLetra(*ui_->area, atajo->key());
+    }
     if (evento->type() == QEvent::KeyRelease || evento->type() == QEvent::ApplicationStateChange)
         ActualizarEstado();
     return QMainWindow::eventFilter(objeto, evento);

@@ -22,6 +22,7 @@ namespace tarvo {
 
 class Acciones;
 class AreaModulos;
+class PanelInicio;
 struct Composicion;
 struct TamanoInicial;
 namespace Ui {
@@ -71,6 +72,7 @@ class FrmPrincipal : public QMainWindow, public Anfitrion, public TableroModulos
     void AyudaWeb();
     void MostrarMenuAyuda();
 
+    void MostrarInicio(bool visible);
     void Abrir(const QUrl &direccion);
     void AjustarAncho();
     void PonerAyudaEntrada(const QString &ayuda);
@@ -84,6 +86,7 @@ class FrmPrincipal : public QMainWindow, public Anfitrion, public TableroModulos
     QString carpetaPrograma_;
     PantallaCompleta pantalla_;
     std::unique_ptr<Acciones> acciones_;
+    PanelInicio *inicio_;
     std::unique_ptr<AreaModulos> area_;
     Conmutador conmutador_;
     QTimer *Timer1;

@@ -1,6 +1,7 @@
 #include "shell/ventanas/programa.h"
 
 #include "documents/ventanas/impresorassistema.h"
+#include "shell/ajustesprincipal.h"
 #include "shell/apertura.h"
 #include "shell/medidas.h"
 #include "shell/ventanas/composicion.h"
@@ -14,6 +15,7 @@
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QScreen>
+#include <QTimer>
 
 namespace tarvo {
 
@@ -24,18 +26,25 @@ Programa::Programa(Preguntas &preguntas, QString carpetaPrograma, QString carpet
 
 Programa::~Programa() = default;
 
-int Programa::Ejecutar() {
+int Programa::Ejecutar(bool directo) {
     // Between the splash and the main window no window is open.
     QGuiApplication::setQuitOnLastWindowClosed(false);
     // No question holds up a system that is going down: edits are committed, a half-done entry is not kept.
     SenalFin senal;
     connect(&senal, &SenalFin::Pedida, this, [] { QCoreApplication::exit(0); });
-    frmSplash_ = std::make_unique<FrmSplash>();
-    connect(frmSplash_.get(), &FrmSplash::Terminado, this, &Programa::Arrancar);
-    frmSplash_->show();
+    if (directo || !AjustesPrincipal(ajustes_).Presentacion())
+        QTimer::singleShot(0, this, &Programa::Arrancar);
+    else
+        Presentar();
     const int codigo = QCoreApplication::exec();
     Cerrar();
     return codigo;
+}
+
+void Programa::Presentar() {
+    frmSplash_ = std::make_unique<FrmSplash>();
+    connect(frmSplash_.get(), &FrmSplash::Terminado, this, &Programa::Arrancar);
+    frmSplash_->show();
 }
 
 void Programa::Arrancar() {
@@ -51,7 +60,8 @@ void Programa::Arrancar() {
 }
 
 ResultadoApertura Programa::AbrirDatos() {
-    const QString datos = PrepararDatos(carpetaPrograma_, carpetaUsuario_);
+    const QString datos =
+        PrepararDatos(EstaInstalado(carpetaPrograma_) ? carpetaUsuario_ : carpetaPrograma_, carpetaUsuario_);
     impresoras_ =
         std::make_unique<ImpresorasSistema>(reloj_, QFileInfo(datos).path() + QStringLiteral("/Impresos"));
     frmBases_ = std::make_unique<FrmBases>(datos, LeerRegional(ajustes_));
@@ -76,7 +86,8 @@ void Programa::Avisar(const QString &aviso) {
 }
 
 void Programa::Abandonar(const QString &mensaje, Icono icono) {
-    frmSplash_->hide();
+    if (frmSplash_)
+        frmSplash_->hide();
     preguntas_.Mostrar(mensaje, icono);
     QCoreApplication::exit(1);
 }

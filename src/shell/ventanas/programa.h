@@ -26,10 +26,12 @@ class Programa : public QObject {
     Programa(Preguntas &preguntas, QString carpetaPrograma, QString carpetaUsuario);
     ~Programa() override;
 
-    // Shows the splash, runs to the end and returns the exit code: 1 when the data could not be had.
-    int Ejecutar();
+    // Runs to the end and returns the exit code: 1 when the data could not be had. `directo`: goes straight
+    // to the main window, as the setting "Presentacion" = 0 does.
+    int Ejecutar(bool directo);
 
   private:
+    void Presentar();
     void Arrancar();
     ResultadoApertura AbrirDatos();
     void MostrarPrincipal(const ResultadoApertura &resultado);

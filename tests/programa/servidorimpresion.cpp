@@ -1,0 +1,96 @@
+#include "programa/servidorimpresion.h"
+
+#include "programa/pantalla.h"
+
+#include <QDir>
+#include <QFile>
+#include <QtCore/qtestsupport_core.h>
+
+namespace tarvo {
+
+namespace {
+
+constexpr const char *kArchivos = R"(ServerRoot %1/raiz
+RequestRoot %1/cola
+TempDir %1/cola
+CacheDir %1/cache
+StateDir %1/estado
+AccessLog %1/acceso.log
+ErrorLog %1/errores.log
+PageLog %1/paginas.log
+FileDevice Yes
+Sandboxing relaxed
+)";
+constexpr const char *kServidor = R"(Listen %1/cups.sock
+Browsing No
+DefaultAuthType None
+<Location />
+Allow all
+</Location>
+<Policy default>
+<Limit All>
+</Limit>
+</Policy>
+)";
+constexpr const char *kControlador = "/usr/share/ppd/cups-pdf/CUPS-PDF_opt.ppd";
+
+void Escribir(const QString &ruta, const QString &texto) {
+    QFile archivo(ruta);
+    if (archivo.open(QIODevice::WriteOnly))
+        archivo.write(texto.toUtf8());
+}
+
+bool Responde() {
+    return Ejecutar(QStringLiteral("lpstat"), {QStringLiteral("-r")}, true).contains("is running");
+}
+
+} // namespace
+
+ServidorImpresion::ServidorImpresion() {
+    qputenv("CUPS_SERVER", Ruta("cups.sock").toUtf8());
+    Configurar();
+    cupsd_.setStandardErrorFile(QProcess::nullDevice());
+    cupsd_.start(QStringLiteral("/usr/sbin/cupsd"),
+                 {QStringLiteral("-f"), QStringLiteral("-c"), Ruta("raiz/cupsd.conf"), QStringLiteral("-s"),
+                  Ruta("raiz/cups-files.conf")});
+    constexpr int kArranque = 5000;
+    anda_ = cupsd_.waitForStarted() && QTest::qWaitFor(Responde, kArranque) && Instalar();
+}
+
+ServidorImpresion::~ServidorImpresion() {
+    qunsetenv("CUPS_SERVER");
+    cupsd_.terminate();
+    if (!cupsd_.waitForFinished(kEspera))
+        cupsd_.kill();
+}
+
+void ServidorImpresion::Configurar() const {
+    for (const char *carpeta : {"raiz", "cola", "cache", "estado", "papel"})
+        QDir(raiz_.path()).mkdir(QLatin1String(carpeta));
+    Escribir(Ruta("raiz/cups-files.conf"), QString::fromLatin1(kArchivos).arg(raiz_.path()));
+    Escribir(Ruta("raiz/cupsd.conf"), QString::fromLatin1(kServidor).arg(raiz_.path()));
+}
+
+bool ServidorImpresion::Instalar() const {
+    const QString nombre = QStringLiteral("Mostrador");
+    Ejecutar(QStringLiteral("lpadmin"),
+             {QStringLiteral("-p"), nombre, QStringLiteral("-E"), QStringLiteral("-P"),
+              QString::fromLatin1(kControlador), QStringLiteral("-v"),
+              QStringLiteral("file:") + Ruta("papel/hoja.ps")},
+             true);
+    Ejecutar(QStringLiteral("lpadmin"), {QStringLiteral("-d"), nombre}, true);
+    return Ejecutar(QStringLiteral("lpstat"), {QStringLiteral("-d")}, true).contains("Mostrador");
+}
+
+QString ServidorImpresion::Texto() const {
+    Esperar("the end of the printed paper", [this] {
+        QFile papel(Ruta("papel/hoja.ps"));
+        return papel.open(QIODevice::ReadOnly) && papel.readAll().contains("%%EOF");
+    });
+    Ejecutar(QStringLiteral("ps2pdf"), {Ruta("papel/hoja.ps"), Ruta("papel/hoja.pdf")});
+    return QString::fromUtf8(
+        Ejecutar(QStringLiteral("pdftotext"),
+                 {QStringLiteral("-layout"), Ruta("papel/hoja.pdf"), QStringLiteral("-")}));
+}
+
+} // namespace tarvo
