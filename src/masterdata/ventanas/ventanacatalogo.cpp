@@ -2,6 +2,7 @@
 
 #include "desktop/ventanas/filtrocampos.h"
 #include "desktop/ventanas/iconos.h"
+#include "desktop/ventanas/teclas.h"
 #include "documents/impresoras.h"
 #include "masterdata/ventanas/panelbusqueda.h"
 #include "ui_ventanacatalogo.h"
@@ -42,6 +43,8 @@ VentanaCatalogo::VentanaCatalogo(const Servicios &servicios, const Aspecto &aspe
     ui_->lblTitulo->setText(aspecto.titulo);
     ui_->lista->setObjectName(aspecto.nombreLista);
     ui_->lista->setAccessibleName(aspecto.titulo);
+    ui_->lista->PonerTextoVacio(
+        QStringLiteral("Todavía no hay %1. Nuevo agrega el primero.").arg(aspecto.titulo.toLower()));
     picBuscarClientes_ = new PanelBusqueda(aspecto.criterios, this);
     Flotar(picBuscarClientes_);
     filtro_ = new FiltroCampos(this);
@@ -157,6 +160,9 @@ void VentanaCatalogo::ConectarBotones() {
     ConectarBoton(ui_->cmdEliminar, &ListaDetalle::Eliminar);
     ConectarBoton(ui_->cmdActualizar, &ListaDetalle::Actualizar);
     ConectarBoton(ui_->cmdCancelar, &ListaDetalle::Cancelar);
+    PonerTecla(ui_->cmdNuevo, Qt::CTRL | Qt::Key_N);
+    PonerTecla(ui_->cmdGuardar, Qt::CTRL | Qt::Key_G);
+    PonerTecla(ui_->cmdBuscar, Qt::CTRL | Qt::Key_B);
     connect(ui_->cmdBuscar, &QPushButton::clicked, this, &VentanaCatalogo::AbrirBusqueda);
     connect(ui_->cmdImprimir, &QPushButton::clicked, this, [this] {
         ImprimirReporte(servicios_.impresoras, servicios_.preguntas, reporte_(Lista()), Lista().Filas());
