@@ -13,6 +13,8 @@ namespace tarvo {
 
 namespace {
 
+constexpr int kLetrasOidas = 400; // of a cell; nobody listens to more
+
 bool MismosTextos(const ColumnaTexto &una, const ColumnaTexto &otra) {
     if (una.Filas() != otra.Filas())
         return false;
@@ -347,8 +349,6 @@ QVariant ListaTexto::data(const QModelIndex &indice, int rol) const {
     switch (rol) {
     case Qt::DisplayRole:
         return Celda(indice.row(), indice.column());
-    case Qt::AccessibleTextRole:
-        return indice.column() == 0 ? FilaHablada(indice.row()) : QVariant();
     case Qt::TextAlignmentRole:
         return headerData(indice.column(), Qt::Horizontal, rol);
     case Qt::ForegroundRole: {
@@ -370,13 +370,12 @@ QVariant ListaTexto::data(const QModelIndex &indice, int rol) const {
     }
 }
 
-// A screen reader stands on one cell of a row: the first one speaks for all.
 QString ListaTexto::FilaHablada(int fila) const {
     QStringList partes;
     for (int columna = 0; columna < columnCount(); ++columna) {
         const ColumnaLista &especificacion = especificacion_[static_cast<std::size_t>(columna)];
         if (!especificacion.oculta)
-            partes.append(especificacion.titulo + QLatin1Char(' ') + Celda(fila, columna));
+            partes.append(especificacion.titulo + QLatin1Char(' ') + Celda(fila, columna).left(kLetrasOidas));
     }
     return partes.join(QStringLiteral(", "));
 }

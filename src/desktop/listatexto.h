@@ -44,6 +44,9 @@ class ListaTexto : public QAbstractTableModel {
     // The longest texts of a column, at most `cuantos` of them.
     QStringList MasLargos(int columna, int cuantos) const;
 
+    // A row as it is read aloud: caption and text of each column that is not hidden.
+    QString FilaHablada(int fila) const;
+
     // Replaces all rows, in one reset; they come sorted when the list has a sort column, and the arrow goes
     // where that column says. All check marks are off.
     void Asignar(ContenidoLista contenido);
@@ -101,7 +104,6 @@ class ListaTexto : public QAbstractTableModel {
     void MarcaPulsada(int fila); // the operator has switched the check mark of a row
 
   private:
-    QString FilaHablada(int fila) const;
     void Ordenar(int columna, Qt::SortOrder orden, int flecha);
     void SeguirIndices(const QModelIndexList &antes, const std::vector<std::uint32_t> &guardadas);
     int FlechaDe(int columnaOrden) const;

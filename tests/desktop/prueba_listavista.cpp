@@ -1,6 +1,7 @@
 #include "desktop/ventanas/listavista.h"
 #include "testkit/manos.h"
 
+#include <QAccessible>
 #include <QHeaderView>
 #include <QHelpEvent>
 #include <QScrollBar>
@@ -228,7 +229,7 @@ TEST(ListaVista, AmountsAreWholeAndTheNameGivesWay) {
     EXPECT_GT(vista.horizontalScrollBar()->maximum(), 0);
 }
 
-TEST(ListaVista, SortsByKeyAndSpeaksItsRows) {
+TEST(ListaVista, SortsByKey) {
     VistaDePrueba v(5);
     v.vista.setFocus();
     for (const Qt::SortOrder orden : {Qt::AscendingOrder, Qt::DescendingOrder}) {
@@ -241,7 +242,30 @@ TEST(ListaVista, SortsByKeyAndSpeaksItsRows) {
     v.vista.header()->setSectionsClickable(false);
     Tecla(&v.vista, Qt::Key_1, Qt::ControlModifier);
     EXPECT_EQ(v.lista.ColumnaOrden(), 1);
-    EXPECT_EQ(v.lista.index(0, 0).data(Qt::AccessibleTextRole), u"Texto fila 00003, Cantidad 4"_qs);
+}
+
+TEST(ListaVista, ARowIsReadAloudWithAllThatIsSeenOfIt) {
+    VistaDePrueba v(5);
+    v.vista.SeleccionarFila(3);
+    QAccessibleInterface *acceso = QAccessible::queryAccessibleInterface(&v.vista);
+    ASSERT_EQ(acceso->childCount(), 3 * 6);
+    const auto nombre = [&](int hijo) { return acceso->child(hijo)->text(QAccessible::Name); };
+    EXPECT_EQ(nombre(0), u"Texto");
+    EXPECT_EQ(acceso->focusChild(), acceso->child(3 * 4));
+    EXPECT_EQ(nombre(3 * 4), u"Texto fila 00001, Cantidad 3");
+    EXPECT_EQ(nombre(3 * 4 + 1), u"3");
+    v.ClicFila(2);
+    EXPECT_TRUE(acceso->child(3 * 3)->state().selected);
+    EXPECT_FALSE(acceso->child(3 * 4)->state().selected);
+    for (const int hijo : {0, 1, 3, 4})
+        EXPECT_FALSE(acceso->child(hijo)->state().invisible) << hijo;
+    for (const int hijo : {2, 5})
+        EXPECT_TRUE(acceso->child(hijo)->state().invisible) << "hidden column " << hijo;
+    EXPECT_EQ(acceso->indexOfChild(acceso->child(7)), 7);
+    QAccessibleInterface *ultima = acceso->child(17);
+    v.lista.QuitarFila(4);
+    EXPECT_FALSE(ultima->isValid());
+    EXPECT_EQ(acceso->child(17), nullptr);
 }
 
 TEST(ListaVista, SaysWhatToDoWhileItIsEmpty) {

@@ -13,9 +13,18 @@
 #include "ui_frmconfig.h"
 
 #include <QKeyEvent>
+#include <QScreen>
 #include <QStandardItemModel>
 
 namespace tarvo {
+
+namespace {
+
+// What the desktop puts around a window, in pixels: on a small screen the dialog leaves it that room.
+constexpr int kMarcoVentana = 8;
+constexpr int kTituloVentana = 36;
+
+} // namespace
 
 FrmConfig::FrmConfig(const Servicios &servicios, bool abrirDisenador, QWidget *padre)
     : QDialog(padre), ui_(std::make_unique<Ui::FrmConfig>()), arbol_(new QStandardItemModel(this)) {
@@ -25,6 +34,7 @@ FrmConfig::FrmConfig(const Servicios &servicios, bool abrirDisenador, QWidget *p
     Llenar();
     ConectarTeclas();
     SeleccionarNodo(abrirDisenador ? kNodoImpresion : 0);
+    resize(size().boundedTo(screen()->availableSize() - QSize(kMarcoVentana, kTituloVentana)));
 }
 
 FrmConfig::~FrmConfig() = default;
@@ -44,6 +54,7 @@ void FrmConfig::CrearPaneles(const Servicios &servicios) {
     ui_->rejilla->addWidget(picTicket, 0, 0, Qt::AlignCenter);
     picTicket->hide();
     connect(frImpresion, &PanelImpresion::LineasTicketPedidas, this, [this] { MostrarTicket(true); });
+    connect(ui_->cmdCerrar, &QPushButton::clicked, this, &QDialog::reject);
     connect(picTicket, &PanelTicket::CierrePedido, this, [this] { MostrarTicket(false); });
 }
 
@@ -74,6 +85,7 @@ void FrmConfig::ConectarTeclas() {
     frCategorias->ConectarTeclas(*filtro);
     frVendedores->ConectarTeclas(*filtro);
     frImpresion->ConectarTeclas(*filtro);
+    picTicket->ConectarTeclas(*filtro);
     filtro->AlEscapar([this] {
         if (picTicket->isVisible())
             MostrarTicket(false);

@@ -1,7 +1,9 @@
 #include "config/ventanas/panelticket.h"
 
 #include "config/listaimpresoras.h"
+#include "desktop/ventanas/filtrocampos.h"
 #include "desktop/ventanas/iconos.h"
+#include "desktop/ventanas/kitmenu.h"
 #include "ui_panelticket.h"
 
 #include <QAction>
@@ -38,7 +40,10 @@ void PanelTicket::CrearAcciones() {
         accion->setObjectName(QStringLiteral("negrita"));
         accion->setCheckable(true);
         accion->setToolTip(QStringLiteral("Negrita"));
-        PonerNegrita(barras[i]->widgetForAction(accion), true);
+        QWidget *boton = barras[i]->widgetForAction(accion);
+        boton->setAccessibleName(QStringLiteral("Negrita, línea %1").arg(i + 1));
+        PonerNegrita(boton, true);
+        HacerAlcanzable(*barras[i], textos[i]);
         connect(accion, &QAction::toggled, textos[i],
                 [texto = textos[i]](bool si) { PonerNegrita(texto, si); });
         lineas_[i] = {textos[i], accion};
@@ -48,6 +53,14 @@ void PanelTicket::CrearAcciones() {
     prueba->setObjectName(QStringLiteral("prueba"));
     connect(prueba, &QAction::triggered, this,
             [this] { ticket_.ImprimirPrueba(Lineas(), impresoras_.Elegida()); });
+    HacerAlcanzable(*ui_->tbrTicket, barras.back()->widgetForAction(lineas_.back().negrita));
+}
+
+// Enter goes from line to line, past the bold buttons.
+void PanelTicket::ConectarTeclas(FiltroCampos &filtro) {
+    for (std::size_t i = 0; i + 1 < lineas_.size(); ++i)
+        filtro.AlEntrar(lineas_[i].texto, [siguiente = lineas_[i + 1].texto] { siguiente->setFocus(); });
+    filtro.AlEntrar(lineas_.back().texto, [this] { ui_->cmdGuardarTicket->setFocus(); });
 }
 
 void PanelTicket::Cargar() {

@@ -18,6 +18,8 @@ namespace Ui {
 class PanelTicket;
 }
 
+class FiltroCampos;
+
 class PanelTicket : public QFrame {
     Q_OBJECT
   public:
@@ -26,6 +28,7 @@ class PanelTicket : public QFrame {
     ~PanelTicket() override;
 
     void Cargar();
+    void ConectarTeclas(FiltroCampos &filtro);
 
   signals:
     void CierrePedido();

@@ -1,6 +1,8 @@
 #include "desktop/ventanas/acceso.h"
 
+#include "desktop/ventanas/accesolista.h"
 #include "desktop/ventanas/etiquetaimporte.h"
+#include "desktop/ventanas/listavista.h"
 
 #include <QAccessibleWidget>
 
@@ -21,6 +23,8 @@ class AccesoImporte final : public QAccessibleWidget {
 QAccessibleInterface *CrearAcceso(const QString &, QObject *objeto) {
     if (auto *importe = qobject_cast<EtiquetaImporte *>(objeto))
         return new AccesoImporte(importe);
+    if (auto *lista = qobject_cast<ListaVista *>(objeto))
+        return new AccesoLista(lista);
     return nullptr;
 }
 

@@ -3,7 +3,7 @@
 
 namespace tarvo {
 
-// Amounts are called by caption and value. Once for the program.
+// Amounts are called by caption and value, lists speak row by row. Once for the program.
 void PrepararAcceso();
 
 } // namespace tarvo

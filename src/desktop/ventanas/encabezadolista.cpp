@@ -56,7 +56,7 @@ bool EncabezadoLista::viewportEvent(QEvent *evento) {
 
 // The picture brings its own margins along.
 int EncabezadoLista::LadoIcono() const {
-    return fontMetrics().ascent();
+    return fontMetrics().ascent() * 3 / 4;
 }
 
 QRect EncabezadoLista::LugarIcono(const QRect &zona, int seccion) const {

@@ -3,6 +3,7 @@
 #include "desktop/ventanas/estilo.h"
 #include "store/moneda.h"
 
+#include <QAccessible>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QPainter>
@@ -38,7 +39,7 @@ Girador::Girador(QWidget *padre) : QAbstractSlider(padre) {
 void Girador::Acompanar(QLineEdit *campo, int minimo, int maximo) {
     campo_ = campo;
     setRange(-maximo, -minimo);
-    setAccessibleName(campo->accessibleName());
+    setAccessibleName(QAccessible::queryAccessibleInterface(campo)->text(QAccessible::Name));
     connect(campo, &QLineEdit::textChanged, this, &Girador::Seguir);
     connect(this, &QAbstractSlider::valueChanged, campo,
             [this] { campo_->setText(QString::number(-value())); });

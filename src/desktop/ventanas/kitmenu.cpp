@@ -5,6 +5,7 @@
 #include <QAction>
 #include <QKeySequence>
 #include <QMenu>
+#include <QToolBar>
 
 namespace tarvo {
 
@@ -34,6 +35,17 @@ void LlenarMenu(QMenu *menu, const QList<EntradaMenu> &entradas) {
         QMenu *submenu = menu->addMenu(entrada.texto);
         Vestir(submenu->menuAction(), entrada);
         LlenarMenu(submenu, entrada.submenu);
+    }
+}
+
+void HacerAlcanzable(const QToolBar &barra, QWidget *anterior) {
+    for (QAction *accion : barra.actions()) {
+        QWidget *boton = barra.widgetForAction(accion);
+        if (accion->isSeparator() || boton == nullptr)
+            continue;
+        boton->setFocusPolicy(Qt::TabFocus);
+        QWidget::setTabOrder(anterior, boton);
+        anterior = boton;
     }
 }
 

@@ -108,6 +108,9 @@ void FrmArticulos::ConectarCategoria() {
 
 void FrmArticulos::MostrarIdFiltro() {
     txtIdCategoriaFiltro_->setText(QString::number(logica_->IdFiltro()));
+    LV().PonerTextoVacio(logica_->IdFiltro() == 0
+                             ? QStringLiteral("Todavía no hay artículos. Nuevo agrega el primero.")
+                             : QStringLiteral("No hay artículos en esta categoría."));
 }
 
 bool FrmArticulos::Escapar() {

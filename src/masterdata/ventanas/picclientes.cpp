@@ -23,6 +23,9 @@ PicClientes::PicClientes(const Servicios &servicios, const ReglasSelector &regla
     ui_->setupUi(this);
     hide();
     ui_->LVClientes->Mostrar(&clientes_);
+    ui_->LVClientes->PonerTextoVacio(
+        reglas_.alta ? QStringLiteral("Todavía no hay clientes. Nuevo cliente agrega el primero.")
+                     : QStringLiteral("Todavía no hay clientes."));
     PrepararBarra(buscador, filtro);
     if (reglas_.alta)
         PrepararAlta();
@@ -37,6 +40,7 @@ void PicClientes::PrepararBarra(Buscador &buscador, FiltroCampos &filtro) {
     QAction *actualizar = ui_->tbrClientes->addAction(IconoDe(QStringLiteral("actualizar")), QString());
     actualizar->setObjectName(QStringLiteral("actualizar"));
     actualizar->setToolTip(QStringLiteral("Acualizar"));
+    ui_->tbrClientes->widgetForAction(actualizar)->setAccessibleName(QStringLiteral("Actualizar"));
     connect(actualizar, &QAction::triggered, this, &PicClientes::CargarClientes);
     busqueda_ =
         new BarraBusqueda({ui_->tbrClientes, ui_->txtBuscarClientes, ui_->cmdBuscarClientes, ui_->LVClientes},

@@ -4,6 +4,7 @@
 #include "desktop/ventanas/iconos.h"
 #include "desktop/ventanas/listavista.h"
 #include "desktop/ventanas/paneles.h"
+#include "desktop/ventanas/teclas.h"
 #include "documents/impresoras.h"
 #include "masterdata/ventanas/controlesdetalle.h"
 #include "masterdata/ventanas/panelbusqueda.h"
@@ -36,6 +37,8 @@ VentanaCatalogo::VentanaCatalogo(const Servicios &servicios, const Aspecto &aspe
     ui_->lista->setObjectName(aspecto.nombreLista);
     ui_->lista->setAccessibleName(aspecto.titulo);
     controles_ = new ControlesDetalle(this, ui_->lista, QString(), ui_->frControles);
+    ui_->lista->PonerTextoVacio(
+        QStringLiteral("Todavía no hay %1. Nuevo agrega el primero.").arg(aspecto.titulo.toLower()));
     picBuscarClientes_ = new PanelBusqueda(aspecto.criterios, this);
     Flotar(picBuscarClientes_);
     filtro_ = new FiltroCampos(this);
@@ -118,6 +121,9 @@ void VentanaCatalogo::ConectarBotones() {
         {ui_->cmdCancelar, "cancelar"}, {ui_->cmdBuscar, "buscar"},     {ui_->cmdImprimir, "imprimir"}};
     for (const auto &[boton, icono] : iconos)
         boton->setIcon(IconoDe(QString::fromUtf8(icono)));
+    PonerTecla(ui_->cmdNuevo, Qt::CTRL | Qt::Key_N);
+    PonerTecla(ui_->cmdGuardar, Qt::CTRL | Qt::Key_G);
+    PonerTecla(ui_->cmdBuscar, Qt::CTRL | Qt::Key_B);
     connect(ui_->cmdBuscar, &QPushButton::clicked, this,
             [this] { logica_->AbrirPanel(PanelDetalle::Busqueda); });
     connect(ui_->cmdImprimir, &QPushButton::clicked, this, [this] {

@@ -90,6 +90,10 @@ void FrmVentas::PrepararReloj() {
 
 void FrmVentas::PrepararControles() {
     ui_->LVArticulos->Mostrar(&venta_.Articulos());
+    ui_->LVArticulos->PonerTextoVacio(
+        QStringLiteral("Todavía no hay artículos. Artículos (F2) agrega el primero."));
+    ui_->LVDetalle->PonerTextoVacio(
+        QStringLiteral("Escanee un código de barras, o elija un artículo y pulse Agregar."));
     ui_->LVDetalle->Mostrar(&venta_.Detalle());
     ui_->LVDetalle->header()->setSectionsClickable(false); // lines stay in the order in which they were added
     ui_->FSB1->Acompanar(ui_->txtCantidad, 1, kCantidadMayor);

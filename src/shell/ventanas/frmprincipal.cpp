@@ -25,6 +25,10 @@
 
 namespace tarvo {
 
+namespace {
+constexpr int kAnchoConRotulos = 700; // pixels; below it the buttons of the toolbar show no captions
+}
+
 FrmPrincipal::FrmPrincipal(const Servicios &servicios, const Composicion &composicion,
                            QString carpetaPrograma)
     : ui_(std::make_unique<Ui::FrmPrincipal>()),
@@ -268,6 +272,8 @@ void FrmPrincipal::resizeEvent(QResizeEvent *evento) {
 
 void FrmPrincipal::AjustarAncho() {
     const int ancho = ATwips(width());
+    ui_->tbrPrincipal->setToolButtonStyle(width() < kAnchoConRotulos ? Qt::ToolButtonIconOnly
+                                                                     : Qt::ToolButtonTextUnderIcon);
     acciones_->DeBarra(Entrada::Salir)->setVisible(CabeSalir(ancho));
     QAction *const ayuda = acciones_->DeBarra(Entrada::AyudaPdf);
     ayuda->setVisible(CabeAyuda(ancho));
