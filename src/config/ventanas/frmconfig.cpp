@@ -9,10 +9,12 @@
 #include "config/ventanas/panelvendedores.h"
 #include "desktop/ventanas/filtrocampos.h"
 #include "desktop/ventanas/iconos.h"
+#include "documents/ventanas/frmfactura.h"
 #include "ui_frmconfig.h"
 
 #include <QKeyEvent>
 #include <QStandardItemModel>
+#include <QTimer>
 
 namespace tarvo {
 
@@ -24,6 +26,10 @@ FrmConfig::FrmConfig(const Servicios &servicios, bool abrirDisenador, QWidget *p
     Llenar();
     ConectarTeclas();
     SeleccionarNodo(abrirDisenador ? kNodoImpresion : 0);
+    const auto disenar = [this, servicios] { FrmFactura(servicios, this).exec(); };
+    connect(frImpresion, &PanelImpresion::DisenadorPedido, this, disenar);
+    if (abrirDisenador) // behind the showing of this window
+        QTimer::singleShot(0, this, disenar);
 }
 
 FrmConfig::~FrmConfig() = default;
