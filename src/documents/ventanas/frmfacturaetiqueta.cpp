@@ -1,6 +1,7 @@
 #include "documents/ventanas/frmfacturaetiqueta.h"
 
 #include "desktop/ventanas/filtrocampos.h"
+#include "desktop/ventanas/solocaracteres.h"
 #include "ui_frmfacturaetiqueta.h"
 
 namespace tarvo {
