@@ -72,14 +72,13 @@ QPageLayout HojaRollo(double largo) {
         QPageSize(QSizeF(kAnchoRollo, largo), QPageSize::Millimeter, QString(), QPageSize::ExactMatch));
 }
 
-std::unique_ptr<SuperficiePintada> Pintada(QBuffer &salida, const QPageLayout &hoja, ClasePapel clase,
-                                           const QString &titulo, std::function<void()> alTerminar = {}) {
+std::unique_ptr<QPdfWriter> Escritor(QBuffer &salida, const QPageLayout &hoja, const QString &titulo) {
     salida.open(QIODevice::WriteOnly);
     auto escritor = std::make_unique<QPdfWriter>(&salida);
     escritor->setTitle(titulo);
     escritor->setCreator(QStringLiteral("Tarvo"));
     escritor->setPageLayout(hoja);
-    return std::make_unique<SuperficiePintada>(std::move(escritor), RejillaDe(clase), std::move(alTerminar));
+    return escritor;
 }
 
 // Waits for the end of the slip, measures it, and cuts the paper there.
@@ -89,26 +88,34 @@ class RolloPdf final : public SuperficieGrabada {
 
     void Terminar() override {
         QBuffer salida;
-        const auto papel = Pintada(salida, HojaRollo(Largo()), ClasePapel::Rollo, destino_.titulo);
-        Repetir(*papel);
-        papel->Terminar();
+        SuperficiePintada papel(Escritor(salida, HojaRollo(Largo()), destino_.titulo),
+                                RejillaDe(ClasePapel::Rollo));
+        Repetir(papel);
+        papel.Terminar();
         destino_.Guardar(salida.data());
     }
 
   private:
     double Largo() const {
         QBuffer borrador;
-        const auto papel = Pintada(borrador, HojaRollo(kLargoMaximo), ClasePapel::Rollo, destino_.titulo);
-        Repetir(*papel);
-        return papel->Paginas() > 1 ? kLargoMaximo : papel->AltoUsado() + 2 * kMargen;
+        SuperficiePintada papel(Escritor(borrador, HojaRollo(kLargoMaximo), destino_.titulo),
+                                RejillaDe(ClasePapel::Rollo));
+        Repetir(papel);
+        return papel.Paginas() > 1 ? kLargoMaximo : papel.AltoUsado() + 2 * kMargen;
     }
     Destino destino_;
 };
 
-std::unique_ptr<Superficie> HojasPdf(const Destino &destino) {
+std::unique_ptr<Superficie> HojasPdf(const Destino &destino, ClasePapel clase) {
     const auto salida = std::make_shared<QBuffer>();
-    return Pintada(*salida, Hoja(QPageSize(QPageSize::A4)), ClasePapel::Hoja, destino.titulo,
-                   [salida, destino] { destino.Guardar(salida->data()); });
+    QPageLayout hoja = Hoja(QPageSize(QPageSize::A4));
+    const auto alTerminar = [salida, destino] { destino.Guardar(salida->data()); };
+    if (clase == ClasePapel::Hoja)
+        return std::make_unique<SuperficiePintada>(Escritor(*salida, hoja, destino.titulo), RejillaDe(clase),
+                                                   alTerminar);
+    hoja.setMargins({});
+    return std::make_unique<SuperficiePintada>(Escritor(*salida, hoja, destino.titulo), Formulario(),
+                                               alTerminar);
 }
 
 } // namespace
@@ -124,7 +131,7 @@ std::unique_ptr<Superficie> NuevoDocumentoPdf(const QString &carpeta, ClasePapel
     const Destino destino{carpeta, titulo, momento};
     if (clase == ClasePapel::Rollo)
         return std::make_unique<RolloPdf>(destino);
-    return HojasPdf(destino);
+    return HojasPdf(destino, clase);
 }
 
 } // namespace tarvo

@@ -1,7 +1,8 @@
 // The built-in printer "PDF": each document becomes a file of its own in a folder.
 //
-// Sheets are A4. A roll is one page, 80 mm wide and as long as what is on it.
-// The file is written when the document ends, whole or not at all; a document that is given up leaves none.
+// Sheets are A4, those of a form without margins. A roll is one page, 80 mm wide and as long as what is on
+// it. The file is written when the document ends, whole or not at all; a document that is given up leaves
+// none.
 #pragma once
 
 #include "documents/impresoras.h"

@@ -16,8 +16,9 @@ namespace tarvo {
 
 // What a printer is chosen for.
 enum class Proposito { Ticket, Listado };
-// What a document is printed on: paper of a roll, or sheets.
-enum class ClasePapel { Rollo, Hoja };
+// What a document is printed on: paper of a roll, sheets, or the shop's own form, on which every place is
+// counted from the corner of the sheet and nothing is scaled.
+enum class ClasePapel { Rollo, Hoja, Formulario };
 
 inline constexpr const char *kImpresoraPdf = "PDF";
 

@@ -4,6 +4,22 @@
 
 namespace tarvo {
 
+namespace {
+
+// A monospaced character is six tenths of its size wide, its line 1.133 sizes high; a point has 20 twips.
+constexpr double kAnchoPorPunto = 12;
+constexpr double kAltoPorPunto = 22.66;
+
+} // namespace
+
+double Superficie::AnchoCaracter() {
+    return letra_.puntos * kAnchoPorPunto;
+}
+
+double Superficie::AltoLinea() {
+    return letra_.puntos * kAltoPorPunto;
+}
+
 QString TextoImprimible(const QString &texto) {
     const auto deControl = [](QChar letra) {
         return letra.category() == QChar::Other_Control || letra == QChar::LineSeparator ||

@@ -40,11 +40,16 @@ class Superficie {
     // that the head has passed already is taken on the next line.
     virtual void Columna(int caracteres) = 0;
     virtual void FinLinea() = 0;
-    // Moves the head to a point of the page, in twips from its upper left printable corner.
+    // Moves the head to a point of the page, in twips from its upper left printable corner; on a form, from
+    // the corner of the sheet.
     virtual void Posicion(int xTwips, int yTwips) = 0;
     // Draws a picture with its upper left corner at the point; size in twips.
     virtual void Imagen(const QImage &imagen, int xTwips, int yTwips, int anchoTwips, int altoTwips) = 0;
     virtual void NuevaPagina() = 0;
+    // Width of a character of the current font and height of its lines, in twips. Nominal, unless the surface
+    // has measured its own font.
+    virtual double AnchoCaracter();
+    virtual double AltoLinea();
     // Ends the document and hands it to the printer. Throws ErrorDatos: kImpresora when the printer fails,
     // kEscritura when the file of the PDF printer can't be written.
     virtual void Terminar() = 0;

@@ -29,8 +29,14 @@ SuperficiePintada::SuperficiePintada(std::unique_ptr<QPagedPaintDevice> disposit
         Fallar();
     letra_.puntos = rejilla.puntos;
     const double necesario = CrearTipo().avance * rejilla.columnas;
-    ajuste_ = std::min(1.0, dispositivo_->width() / necesario);
+    ajuste_ = necesario > 0 ? std::min(1.0, dispositivo_->width() / necesario) : 1;
     letra_ = {};
+}
+
+SuperficiePintada::SuperficiePintada(std::unique_ptr<QPagedPaintDevice> dispositivo,
+                                     const Formulario &formulario, std::function<void()> alTerminar)
+    : SuperficiePintada(std::move(dispositivo), Rejilla(), std::move(alTerminar)) {
+    formulario_ = formulario;
 }
 
 SuperficiePintada::Tipo SuperficiePintada::CrearTipo() const {
@@ -78,7 +84,7 @@ void SuperficiePintada::Pintar(const Tipo &tipo, const QString &texto) {
 
 void SuperficiePintada::Texto(const QString &texto) {
     const Tipo &tipo = TipoActual();
-    if (y_ > 0 && y_ + tipo.alto > dispositivo_->height()) {
+    if (!formulario_ && y_ > 0 && y_ + tipo.alto > dispositivo_->height()) {
         const double x = x_;
         NuevaPagina();
         x_ = x;
@@ -106,14 +112,34 @@ double SuperficiePintada::PuntosDispositivo(int twips) const {
     return twips * ajuste_ * dispositivo_->logicalDpiX() / kTwipsPorPulgada;
 }
 
+double SuperficiePintada::ATwips(double puntos) const {
+    return puntos * kTwipsPorPulgada / dispositivo_->logicalDpiX();
+}
+
+double SuperficiePintada::AnchoCaracter() {
+    return ATwips(TipoActual().avance);
+}
+
+double SuperficiePintada::AltoLinea() {
+    return ATwips(TipoActual().alto);
+}
+
+QPoint SuperficiePintada::EnPapel(int xTwips, int yTwips) const {
+    if (!formulario_)
+        return {xTwips, yTwips};
+    return {std::max(xTwips, formulario_->izquierda), std::max(yTwips, formulario_->arriba)};
+}
+
 void SuperficiePintada::Posicion(int xTwips, int yTwips) {
-    x_ = PuntosDispositivo(xTwips);
-    y_ = PuntosDispositivo(yTwips);
+    const QPoint lugar = EnPapel(xTwips, yTwips);
+    x_ = PuntosDispositivo(lugar.x());
+    y_ = PuntosDispositivo(lugar.y());
     altoLinea_ = 0;
 }
 
 void SuperficiePintada::Imagen(const QImage &imagen, int xTwips, int yTwips, int anchoTwips, int altoTwips) {
-    pintor_.drawImage(QRectF(PuntosDispositivo(xTwips), PuntosDispositivo(yTwips),
+    const QPoint lugar = EnPapel(xTwips, yTwips);
+    pintor_.drawImage(QRectF(PuntosDispositivo(lugar.x()), PuntosDispositivo(lugar.y()),
                              PuntosDispositivo(anchoTwips), PuntosDispositivo(altoTwips)),
                       imagen);
 }

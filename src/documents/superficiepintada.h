@@ -10,17 +10,26 @@
 #include <QFont>
 #include <QPagedPaintDevice>
 #include <QPainter>
+#include <QPoint>
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace tarvo {
 
-// The columns that must fit across the paper, in characters of a size.
+// The columns that must fit across the paper, in characters of a size; none: nothing is scaled.
 struct Rejilla {
     int columnas = 0;
     double puntos = 10;
+};
+
+// How a form is painted on: without a margin, whatever the device can't reach. A place closer to the left or
+// upper edge of the sheet than these widths, in twips, is moved to where the device begins to print.
+struct Formulario {
+    int izquierda = 0;
+    int arriba = 0;
 };
 
 class SuperficiePintada final : public Superficie {
@@ -29,6 +38,9 @@ class SuperficiePintada final : public Superficie {
     // Throws ErrorDatos(kImpresora) when the device can't be painted on.
     SuperficiePintada(std::unique_ptr<QPagedPaintDevice> dispositivo, const Rejilla &rejilla,
                       std::function<void()> alTerminar = {});
+    // A form: the device's page has no margins. What doesn't fit on the sheet is lost.
+    SuperficiePintada(std::unique_ptr<QPagedPaintDevice> dispositivo, const Formulario &formulario,
+                      std::function<void()> alTerminar = {});
 
     void Texto(const QString &texto) override;
     void Columna(int caracteres) override;
@@ -36,6 +48,8 @@ class SuperficiePintada final : public Superficie {
     void Posicion(int xTwips, int yTwips) override;
     void Imagen(const QImage &imagen, int xTwips, int yTwips, int anchoTwips, int altoTwips) override;
     void NuevaPagina() override;
+    double AnchoCaracter() override;
+    double AltoLinea() override;
     void Terminar() override;
 
     int Paginas() const { return paginas_; }
@@ -56,6 +70,8 @@ class SuperficiePintada final : public Superficie {
     Tipo CrearTipo() const;
     void Pintar(const Tipo &tipo, const QString &texto);
     double PuntosDispositivo(int twips) const;
+    double ATwips(double puntos) const;
+    QPoint EnPapel(int xTwips, int yTwips) const;
 
     std::function<void()> alTerminar_; // may own what the device writes to: destroyed last
     std::unique_ptr<QPagedPaintDevice> dispositivo_;
@@ -63,6 +79,7 @@ class SuperficiePintada final : public Superficie {
     std::vector<std::unique_ptr<Tipo>> tipos_;
     const Tipo *tipo_ = nullptr; // the one that the painter has
     double ajuste_ = 1;
+    std::optional<Formulario> formulario_;
     double x_ = 0;
     double y_ = 0;
     double altoLinea_ = 0; // of the highest text on the line

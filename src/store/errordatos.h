@@ -9,6 +9,7 @@
 namespace tarvo {
 
 namespace errores {
+constexpr int kFormato = 13; // a token that is missing or no number
 constexpr int kArchivoNoEncontrado = 53;
 constexpr int kAccesoRuta = 75;
 constexpr int kRutaNoEncontrada = 76;

@@ -3,6 +3,7 @@
 #include "opcionesprueba.h"
 
 #include <QLabel>
+#include <QTimer>
 
 namespace tarvo {
 namespace {
@@ -42,9 +43,26 @@ TEST_F(Ventana, TheTreeShowsOnePanelUnderItsTitle) {
         EXPECT_EQ(Titulo(), QString::fromUtf8(titulo));
         Tecla(arbol, Qt::Key_Down);
     }
-    Abrir(true); // for the invoice designer
-    EXPECT_EQ(PanelesVisibles(), u"frImpresion"_qs);
-    EXPECT_EQ(Titulo(), u"Configuración de impresión"_qs);
+}
+
+TEST_F(Ventana, TheDesignerOpensOverTheOptionsByButtonOrAtOnce) {
+    int disenadores = 0;
+    QTimer cerrar;
+    QObject::connect(&cerrar, &QTimer::timeout, &cerrar, [&] {
+        QWidget *const modal = QApplication::activeModalWidget();
+        if (modal == nullptr || modal->objectName() != QLatin1String("frmFactura"))
+            return;
+        ++disenadores;
+        EXPECT_EQ(PanelesVisibles(), QStringLiteral("frImpresion"));
+        Tecla(modal, Qt::Key_Escape);
+    });
+    cerrar.start(0);
+    Abrir(true);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return disenadores == 1; }));
+    EXPECT_EQ(Titulo(), QStringLiteral("Configuración de impresión"));
+    EXPECT_TRUE(ventana->isVisible());
+    Pulsar("cmdTicket");
+    EXPECT_EQ(disenadores, 2);
 }
 
 TEST_F(Ventana, TheListOfTheFirstPanelHasTheFocusAtTheOpening) {
@@ -93,8 +111,9 @@ TEST_F(Ventana, ClosedTablesAreToldAndNotWritten) {
     ASSERT_EQ(bases.Abrir().estado, EstadoApertura::Parcial);
     ventana = std::make_unique<FrmConfig>(
         Servicios{bases, mundo.preguntas, mundo.reloj, mundo.impresoras, mundo.ajustes, mundo.escritorio},
-        true);
+        false);
     MostrarVentana(*ventana);
+    ElegirNodo(3);
     EsperaMensaje("No se pudo guardar: la tabla Factura no está abierta.", Icono::Critico);
     Teclear("txtLinDetalle", "5");
     EXPECT_EQ(Texto("txtLinDetalle"), u"5"_qs);

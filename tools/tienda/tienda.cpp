@@ -3,6 +3,7 @@
 #include "store/errordatos.h"
 #include "store/instalacion.h"
 #include "tienda/catalogo.h"
+#include "tienda/facturamuestra.h"
 #include "tienda/insercion.h"
 #include "tienda/movimientos.h"
 #include "tienda/personas.h"
@@ -42,16 +43,19 @@ std::string NumeroSimple(std::int64_t centimos, const Moneda &moneda) {
     return texto;
 }
 
-void LlenarConfig(const QString &carpeta) {
+void LlenarConfig(const QString &carpeta, const QString &rutaFactura) {
     Archivo archivo(carpeta, "config.mdb");
     (*archivo).exec("DELETE FROM Iva; DELETE FROM Categorias; DELETE FROM Vendedores;"
                     "UPDATE Impuesto SET utilizar = 'Si', nombre = 'Percepción', porcentaje = '3',"
                     " sobreiva = 'Si', existeifiscal = 'Si';"
-                    "UPDATE Factura SET cantlineas = '20';"
+                    "UPDATE Factura SET cantlineas = '14';"
                     "UPDATE Ticket SET linea1 = 'LA ESQUINA DE ÑANDÚ', negrita1 = 'S',"
                     " linea2 = 'Almacén y librería', negrita2 = 'S', linea3 = 'Calle Mayor, 12 - Logroño',"
                     " negrita3 = 'N', linea4 = 'Tel. 941 000 000', negrita4 = 'N',"
                     " linea5 = 'Gracias por su compra', negrita5 = 'N'");
+    SQLite::Statement factura(*archivo, "UPDATE Factura SET rutafactura = ?");
+    factura.bind(1, rutaFactura.toStdString());
+    factura.exec();
     Insercion iva(*archivo, "Iva", {"id", "codigo", "tipo", "porcentaje"});
     Insercion categorias(*archivo, "Categorias", {"id", "codigo", "categoria"});
     Insercion vendedores(*archivo, "Vendedores",
@@ -160,7 +164,7 @@ QString HacerTienda(const QString &carpeta, const MedidaTienda &medida, QDate ha
                          QStringLiteral("Ya hay una carpeta Datos en %1.").arg(carpeta));
     QString datos = PrepararDatos(carpeta, carpeta);
     try {
-        LlenarConfig(datos);
+        LlenarConfig(datos, HacerFacturaMuestra(QDir(carpeta).filePath(QStringLiteral("facturas"))));
         LlenarClientes(datos, medida.clientes);
         LlenarProveedores(datos);
         LlenarVentas(datos, LlenarArticulos(datos, medida.articulos, moneda), medida, hasta, moneda);

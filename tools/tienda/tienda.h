@@ -15,9 +15,10 @@ struct MedidaTienda {
     int ventas = 2000;
 };
 
-// Makes the folder `Datos` (with its templates in `vacio`) in `carpeta` and fills it; the last document is of
-// the day `hasta`. Returns the path of `Datos`. Throws ErrorDatos, also when there is a `Datos` in `carpeta`
-// already, and SQLite::Exception when a file can't be written; `Datos` is then gone again.
+// Makes the folder `Datos` (with its templates in `vacio`) in `carpeta` and fills it, and beside it
+// `facturas` with the shop's invoice form; the last document is of the day `hasta`. Returns the path of
+// `Datos`. Throws ErrorDatos, also when there is a `Datos` in `carpeta` already, and SQLite::Exception when a
+// file can't be written; `Datos` is then gone again.
 QString HacerTienda(const QString &carpeta, const MedidaTienda &medida, QDate hasta,
                     const Moneda &moneda = Moneda());
 

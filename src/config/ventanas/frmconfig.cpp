@@ -10,11 +10,13 @@
 #include "desktop/ventanas/filtrocampos.h"
 #include "desktop/ventanas/iconos.h"
 #include "desktop/ventanas/paneles.h"
+#include "documents/ventanas/frmfactura.h"
 #include "ui_frmconfig.h"
 
 #include <QKeyEvent>
 #include <QScreen>
 #include <QStandardItemModel>
+#include <QTimer>
 
 namespace tarvo {
 
@@ -35,6 +37,10 @@ FrmConfig::FrmConfig(const Servicios &servicios, bool abrirDisenador, QWidget *p
     ConectarTeclas();
     SeleccionarNodo(abrirDisenador ? kNodoImpresion : 0);
     resize(size().boundedTo(screen()->availableSize() - QSize(kMarcoVentana, kTituloVentana)));
+    const auto disenar = [this, servicios] { FrmFactura(servicios, this).exec(); };
+    connect(frImpresion, &PanelImpresion::DisenadorPedido, this, disenar);
+    if (abrirDisenador) // behind the showing of this window
+        QTimer::singleShot(0, this, disenar);
 }
 
 FrmConfig::~FrmConfig() = default;

@@ -19,7 +19,6 @@ PanelImpresion::PanelImpresion(const Servicios &servicios, QWidget *padre)
       ticket_(servicios.ajustes, QStringLiteral("ImpTick"), QStringLiteral("Impresora para facturas")),
       listado_(servicios.ajustes, QStringLiteral("ImpList"), QStringLiteral("Impresora para listados")) {
     ui_->setupUi(this);
-    ui_->cmdTicket->setEnabled(false); // this version has no designer
     SoloCaracteres(ui_->txtLinDetalle, QStringLiteral("0123456789"));
     ui_->FSBLinDetalle->Acompanar(ui_->txtLinDetalle, LineasDetalle::kMinimo, LineasDetalle::kMaximo);
     connect(ui_->txtLinDetalle, &QLineEdit::textChanged, this, [this](const QString &texto) {
@@ -30,6 +29,7 @@ PanelImpresion::PanelImpresion(const Servicios &servicios, QWidget *padre)
     Conectar(listado_, ui_->LVImpList);
     connect(ui_->cmdImpActualizar, &QPushButton::clicked, this, &PanelImpresion::LlenarImpresoras);
     connect(ui_->cmdImpAgregar, &QPushButton::clicked, this, &PanelImpresion::AgregarImpresora);
+    connect(ui_->cmdTicket, &QPushButton::clicked, this, &PanelImpresion::DisenadorPedido);
     connect(ui_->cmdLineasTicket, &QPushButton::clicked, this, &PanelImpresion::LineasTicketPedidas);
 }
 

@@ -37,6 +37,7 @@ class PanelImpresion : public QWidget {
 
   signals:
     void LineasTicketPedidas();
+    void DisenadorPedido();
 
   private:
     void Conectar(ListaImpresoras &impresoras, ListaVista *vista);

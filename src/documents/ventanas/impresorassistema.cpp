@@ -7,6 +7,7 @@
 
 #include <QPrinter>
 #include <QPrinterInfo>
+#include <QtMath>
 
 #include <algorithm>
 #include <utility>
@@ -34,14 +35,27 @@ QString Dispositivo(const QString &visible) {
                      QStringLiteral("La impresora \"%1\" no está instalada.").arg(visible));
 }
 
+// What the printer can't print on, around its own paper.
+QMarginsF Minimos(const QPrinter &impresora, QPageLayout::Unit unidad) {
+    QPageLayout hoja = impresora.pageLayout();
+    hoja.setUnits(unidad);
+    return hoja.minimumMargins();
+}
+
 // As much of the printer's own paper as it can print on.
 void Aprovechar(QPrinter &impresora) {
-    QPageLayout hoja = impresora.pageLayout();
-    hoja.setUnits(QPageLayout::Millimeter);
-    const QMarginsF minimos = hoja.minimumMargins();
-    hoja.setMargins({std::max(kMargen, minimos.left()), std::max(kMargen, minimos.top()),
-                     std::max(kMargen, minimos.right()), std::max(kMargen, minimos.bottom())});
-    impresora.setPageLayout(hoja);
+    const QMarginsF minimos = Minimos(impresora, QPageLayout::Millimeter);
+    impresora.setPageMargins({std::max(kMargen, minimos.left()), std::max(kMargen, minimos.top()),
+                              std::max(kMargen, minimos.right()), std::max(kMargen, minimos.bottom())},
+                             QPageLayout::Millimeter);
+}
+
+// The whole sheet, also what the printer can't reach.
+Formulario HojaEntera(QPrinter &impresora) {
+    constexpr int kTwipsPorPunto = 20;
+    const QMarginsF minimos = Minimos(impresora, QPageLayout::Point);
+    impresora.setFullPage(true);
+    return {qCeil(minimos.left() * kTwipsPorPunto), qCeil(minimos.top() * kTwipsPorPunto)};
 }
 
 std::unique_ptr<Superficie> EnSistema(const QString &dispositivo, ClasePapel clase, const QString &titulo) {
@@ -49,11 +63,15 @@ std::unique_ptr<Superficie> EnSistema(const QString &dispositivo, ClasePapel cla
     impresora->setPrinterName(dispositivo);
     impresora->setDocName(titulo);
     impresora->setCreator(QStringLiteral("Tarvo"));
-    Aprovechar(*impresora);
     const auto alTerminar = [&cola = *impresora] {
         if (cola.printerState() == QPrinter::Error)
             throw ErrorDatos(errores::kImpresora, QStringLiteral("La impresora informa un error."));
     };
+    if (clase == ClasePapel::Formulario) {
+        const Formulario formulario = HojaEntera(*impresora);
+        return std::make_unique<SuperficiePintada>(std::move(impresora), formulario, alTerminar);
+    }
+    Aprovechar(*impresora);
     return std::make_unique<SuperficiePintada>(std::move(impresora), RejillaDe(clase), alTerminar);
 }
 

@@ -57,6 +57,7 @@ Composicion Componer(const Servicios &servicios) {
     composicion.opciones = [servicios](bool abrirDisenador, QWidget *padre) {
         FrmConfig(servicios, abrirDisenador, padre).exec();
     };
+    composicion.disenador = true;
     composicion.exportar = [servicios](const Exportable &) {
         servicios.preguntas.Informar(QStringLiteral("La exportación no está disponible en esta versión."));
     };

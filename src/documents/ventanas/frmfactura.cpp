@@ -1,0 +1,104 @@
+#include "documents/ventanas/frmfactura.h"
+
+#include "desktop/ventanas/filtrocampos.h"
+#include "documents/ventanas/frmfacturaadmin.h"
+#include "documents/ventanas/frmfacturaetiqueta.h"
+#include "store/store.h"
+#include "ui_frmfactura.h"
+
+#include <QFileInfo>
+#include <QScreen>
+#include <QShortcut>
+
+namespace tarvo {
+
+namespace {
+
+constexpr QSize kTamano{980, 620};
+constexpr int kBordeVisible = 24; // of the sheet, beyond the cursor that drags a piece
+
+QString Milimetros(float twips) {
+    constexpr double kTwipsPorMilimetro = 1440 / 25.4;
+    return QString::number(static_cast<double>(twips) / kTwipsPorMilimetro, 'f', 1).replace(u'.', u',');
+}
+
+} // namespace
+
+FrmFactura::FrmFactura(const Servicios &servicios, QWidget *padre)
+    : FrmFactura(servicios, QFileInfo(servicios.frmBases.CarpetaDatos()).path() + QStringLiteral("/facturas"),
+                 padre) {}
+
+FrmFactura::FrmFactura(const Servicios &servicios, const QString &carpetaFacturas, QWidget *padre)
+    : QDialog(padre), disenador_(servicios, carpetaFacturas), ui_(std::make_unique<Ui::FrmFactura>()) {
+    ui_->setupUi(this);
+    setWindowFlag(Qt::WindowMaximizeButtonHint);
+    auto *filtro = new FiltroCampos(this);
+    filtro->AlEscapar([this] {
+        reject();
+        return true;
+    });
+    ConectarOrdenes();
+    CrearTeclas();
+    disenador_.CargarInicial();
+    ui_->picFactura->Mostrar(disenador_);
+    Dimensionar();
+    ui_->cmdAbrir->setFocus();
+}
+
+FrmFactura::~FrmFactura() = default;
+
+void FrmFactura::ConectarOrdenes() {
+    connect(ui_->cmdAbrir, &QPushButton::clicked, &disenador_, &Disenador::Abrir);
+    connect(ui_->cmdGuardar, &QPushButton::clicked, &disenador_, &Disenador::Guardar);
+    connect(ui_->cmdInsEtiqueta, &QPushButton::clicked, this, &FrmFactura::InsertarEtiqueta);
+    connect(ui_->cmdAdminCampos, &QPushButton::clicked, this, &FrmFactura::AdministrarCampos);
+    connect(ui_->cmdSelImagen, &QPushButton::clicked, &disenador_, &Disenador::ElegirLogo);
+    connect(ui_->cmdSelFondo, &QPushButton::clicked, &disenador_, &Disenador::ElegirFondo);
+    connect(ui_->cmdImprimir, &QPushButton::clicked, &disenador_, &Disenador::Imprimir);
+    connect(ui_->picFactura, &Lienzo::TrabajoCambiado, this, &FrmFactura::MostrarPosicion);
+    connect(ui_->picFactura, &Lienzo::CursorMovido, this, [this](const QPoint &lugar) {
+        const QPoint enMesa = ui_->picFactura->mapTo(ui_->mesa, lugar);
+        ui_->areaHoja->ensureVisible(enMesa.x(), enMesa.y(), kBordeVisible, kBordeVisible);
+    });
+    connect(&disenador_, &Disenador::NoGuardado, this, [this](const QString &motivo) {
+        ui_->lblPosicion->setText(QStringLiteral("No se guardó: %1").arg(motivo));
+    });
+}
+
+void FrmFactura::CrearTeclas() {
+    QUndoStack &historia = disenador_.Historia();
+    const auto *deshacer = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_Z), this);
+    const auto *rehacer = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_Y), this);
+    connect(deshacer, &QShortcut::activated, &historia, &QUndoStack::undo);
+    connect(rehacer, &QShortcut::activated, &historia, &QUndoStack::redo);
+}
+
+void FrmFactura::Dimensionar() {
+    resize(kTamano.boundedTo(screen()->availableSize()));
+}
+
+void FrmFactura::MostrarPosicion() {
+    const int numero = ui_->picFactura->EnTrabajo();
+    if (numero < 0) {
+        ui_->lblPosicion->clear();
+        return;
+    }
+    const Pieza &pieza = disenador_.De(numero);
+    const QString rotulo = fontMetrics().elidedText(disenador_.Rotulo(numero), Qt::ElideRight, width() / 4);
+    ui_->lblPosicion->setText(
+        QStringLiteral("%1 · %2 mm · %3 mm").arg(rotulo, Milimetros(pieza.left), Milimetros(pieza.top)));
+}
+
+void FrmFactura::InsertarEtiqueta() {
+    FrmFacturaEtiqueta dialogo(disenador_, this);
+    dialogo.exec();
+}
+
+void FrmFactura::AdministrarCampos() {
+    disenador_.Agrupar(QStringLiteral("Administrar campos"), [this] {
+        FrmFacturaAdmin dialogo(disenador_, this);
+        dialogo.exec();
+    });
+}
+
+} // namespace tarvo

@@ -1,0 +1,38 @@
+// The invoice designer: the sheet on which fields, logo and labels are moved by mouse or keys, the commands
+// beside it. Its logic is Disenador; what it leaves behind is the file and its path in the data.
+#pragma once
+
+#include "documents/disenador.h"
+
+#include <QDialog>
+
+#include <memory>
+
+namespace tarvo {
+
+namespace Ui {
+class FrmFactura;
+}
+
+class FrmFactura : public QDialog {
+    Q_OBJECT
+  public:
+    // Reads the stored layout; a failure of that is told before the window shows.
+    FrmFactura(const Servicios &servicios, const QString &carpetaFacturas, QWidget *padre = nullptr);
+    // The same with the folder of the layouts, "facturas" beside the data.
+    explicit FrmFactura(const Servicios &servicios, QWidget *padre = nullptr);
+    ~FrmFactura() override;
+
+  private:
+    void ConectarOrdenes();
+    void CrearTeclas();
+    void Dimensionar();
+    void MostrarPosicion();
+    void InsertarEtiqueta();
+    void AdministrarCampos();
+
+    Disenador disenador_;
+    std::unique_ptr<Ui::FrmFactura> ui_;
+};
+
+} // namespace tarvo
