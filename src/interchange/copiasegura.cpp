@@ -1,0 +1,79 @@
+#include "interchange/copiasegura.h"
+
+#include "interchange/archivos.h"
+#include "interchange/avance.h"
+#include "store/comprobacion.h"
+#include "store/errordatos.h"
+
+#include <QFileInfo>
+
+#include <cstring>
+#include <vector>
+
+namespace tarvo {
+
+namespace {
+
+constexpr qint64 kBloque = qint64{1} << 20;
+
+class Copia {
+  public:
+    Copia(const QString &origen, const QString &destino, Avance &avance)
+        : nombre_(QFileInfo(origen).fileName()),
+          origen_(origen, Archivo::Modo::Leer),
+          total_(origen_.Tamano()),
+          destino_(destino),
+          avance_(avance),
+          bloque_(kBloque) {}
+
+    void Hacer() {
+        Escribir();
+        Comparar();
+        ComprobarBase(destino_, [this] { avance_.Hecho(total_); });
+        ComprobarTablas(destino_, nombre_);
+    }
+
+  private:
+    // Two thirds of the work is the writing.
+    void Escribir() {
+        Archivo a(destino_, Archivo::Modo::Crear);
+        avance_.Empieza(nombre_, total_);
+        qint64 hechos = 0;
+        while (const qint64 bytes = origen_.Leer(bloque_.data(), kBloque)) {
+            a.Escribir(bloque_.data(), bytes);
+            a.AnunciarEscritura();
+            hechos += bytes;
+            avance_.Hecho(hechos * 2 / 3);
+        }
+        a.Sincronizar();
+    }
+    void Comparar() {
+        origen_.Rebobinar();
+        Archivo otra(destino_, Archivo::Modo::Leer);
+        std::vector<char> leido(kBloque);
+        qint64 hechos = 0;
+        for (qint64 bytes = 1; bytes > 0; hechos += bytes) {
+            bytes = origen_.Leer(bloque_.data(), kBloque);
+            if (otra.Leer(leido.data(), kBloque) != bytes ||
+                std::memcmp(bloque_.data(), leido.data(), static_cast<std::size_t>(bytes)) != 0)
+                throw ErrorDatos(errores::kEscritura,
+                                 QStringLiteral("La copia de \"%1\" no es igual al original.").arg(nombre_));
+            avance_.Hecho((total_ * 2 + hechos) / 3);
+        }
+    }
+
+    QString nombre_;
+    Archivo origen_; // open to the end: closing it would let go of the engine's lock on the file
+    qint64 total_;
+    QString destino_;
+    Avance &avance_;
+    std::vector<char> bloque_;
+};
+
+} // namespace
+
+void CopiarSeguro(const QString &origen, const QString &destino, Avance &avance) {
+    Copia(origen, destino, avance).Hacer();
+}
+
+} // namespace tarvo
