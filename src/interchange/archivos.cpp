@@ -34,10 +34,11 @@ int NumeroDe(int error) {
 // Only the last part of a path: whole ones can be longer than a message.
 [[noreturn]] void Fallar(int numero, int error, const char *que, const QString &ruta) {
     const QString motivo = MotivoSistema(error);
-    throw ErrorDatos(numero,
-                     QStringLiteral("No se pudo %1 \"%2\": %3.")
-                         .arg(QString::fromUtf8(que), QFileInfo(ruta).fileName(), motivo),
-                     motivo);
+    throw ErrorDatos(
+        numero,
+        QStringLiteral("No se pudo %1 \"%2\": %3.")
+            .arg(QString::fromUtf8(que), ruta.mid(ruta.lastIndexOf(QLatin1Char('/')) + 1), motivo),
+        motivo);
 }
 
 [[noreturn]] void Fallar(const char *que, const QString &ruta) {

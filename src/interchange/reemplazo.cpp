@@ -88,7 +88,7 @@ ResultadoApertura AbrirBases(FrmBases &bases) {
         const Cerrojo cerrojo(bases.CarpetaDatos());
         Terminar(bases.CarpetaDatos());
         QuitarPreparacion(bases.CarpetaDatos());
-        return bases.Abrir();
+        return bases.AbrirInsistiendo();
     } catch (const ErrorDatos &error) {
         if (error.Numero() != errores::kBaseBloqueada)
             throw;

@@ -175,6 +175,7 @@ TEST_F(PruebaRespaldo, FilesThatOthersHoldOrTookAwayAreTold) {
     {
         QProcess otro;
         otro.start(QStringLiteral(TARVO_EMISOR), {QStringLiteral("retener"), tienda.Ruta("Datos")});
+        otro.write("\n");
         ASSERT_TRUE(otro.waitForReadyRead(30'000));
         EXPECT_EQ(Falla([&] { Respalda(kTodas); }), "Otro programa está usando \"config.mdb\".");
         EXPECT_EQ(Falla([&] { Recupera(kTodas); }), "Otro programa está usando \"config.mdb\".");
@@ -197,7 +198,7 @@ TEST_F(PruebaRespaldo, FilesThatOthersHoldOrTookAwayAreTold) {
 }
 
 TEST_F(PruebaRespaldo, TargetsThatCanNotBeMadeAreTold) {
-    const QString larga = tienda.Ruta("a/").repeated(4000);
+    const QString larga = tienda.Ruta("") + QStringLiteral("a/").repeated(2000);
     const char *const kNoHay = "No se pudo crear la carpeta \"x\": no se encuentra la ruta o el archivo.";
     Escribir("archivo", {});
     const std::pair<QString, const char *> casos[] = {
