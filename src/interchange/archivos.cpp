@@ -168,9 +168,13 @@ void Archivo::Escribir(const char *datos, qint64 bytes) {
     }
 }
 
-// Some file systems don't know this; the synchronisation at the end is what counts.
-void Archivo::AnunciarEscritura() const {
-    ::sync_file_range(fd_, 0, 0, SYNC_FILE_RANGE_WRITE);
+void Archivo::AnunciarEscritura(qint64 desde, qint64 bytes) const {
+    ::sync_file_range(fd_, desde, bytes, SYNC_FILE_RANGE_WRITE);
+}
+
+void Archivo::EsperarEscritura(qint64 desde, qint64 bytes) const {
+    ::sync_file_range(fd_, desde, bytes,
+                      SYNC_FILE_RANGE_WAIT_BEFORE | SYNC_FILE_RANGE_WRITE | SYNC_FILE_RANGE_WAIT_AFTER);
 }
 
 void Archivo::Sincronizar() const {

@@ -28,8 +28,9 @@ class Archivo {
     qint64 Leer(char *datos, qint64 bytes);
     void Rebobinar();
     void Escribir(const char *datos, qint64 bytes);
-    // Lets the disk begin to write what was written so far.
-    void AnunciarEscritura() const;
+    // Lets the disk begin to write these bytes; waits until it has taken them. Neither is a promise.
+    void AnunciarEscritura(qint64 desde, qint64 bytes) const;
+    void EsperarEscritura(qint64 desde, qint64 bytes) const;
     // Brings the file to the disk, and has it read from there, not from memory, the next time.
     void Sincronizar() const;
 

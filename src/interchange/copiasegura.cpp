@@ -26,26 +26,34 @@ class Copia {
           avance_(avance),
           bloque_(kBloque) {}
 
+    // The engine reads the new file while the disk still writes it; what it then is on the disk is compared.
     void Hacer() {
-        Escribir();
-        Comparar();
-        ComprobarBase(destino_, [this] { avance_.Hecho(total_); });
+        Archivo copia(destino_, Archivo::Modo::Crear);
+        Escribir(copia);
+        ComprobarBase(destino_, [this] { avance_.Hecho(total_ / 3); });
         ComprobarTablas(destino_, nombre_);
+        Sincronizar(copia);
+        Comparar();
     }
 
   private:
-    // Two thirds of the work is the writing.
-    void Escribir() {
-        Archivo a(destino_, Archivo::Modo::Crear);
+    void Escribir(Archivo &copia) {
         avance_.Empieza(nombre_, total_);
         qint64 hechos = 0;
         while (const qint64 bytes = origen_.Leer(bloque_.data(), kBloque)) {
-            a.Escribir(bloque_.data(), bytes);
-            a.AnunciarEscritura();
+            copia.Escribir(bloque_.data(), bytes);
+            copia.AnunciarEscritura(hechos, bytes);
             hechos += bytes;
-            avance_.Hecho(hechos * 2 / 3);
+            avance_.Hecho(hechos / 3);
         }
-        a.Sincronizar();
+    }
+    // Bit by bit, since a slow disk can take long.
+    void Sincronizar(const Archivo &copia) {
+        for (qint64 hechos = 0; hechos < total_; hechos += kBloque) {
+            copia.EsperarEscritura(hechos, kBloque);
+            avance_.Hecho(total_ / 3 + hechos / 3);
+        }
+        copia.Sincronizar();
     }
     void Comparar() {
         origen_.Rebobinar();
@@ -58,7 +66,7 @@ class Copia {
                 std::memcmp(bloque_.data(), leido.data(), static_cast<std::size_t>(bytes)) != 0)
                 throw ErrorDatos(errores::kEscritura,
                                  QStringLiteral("La copia de \"%1\" no es igual al original.").arg(nombre_));
-            avance_.Hecho((total_ * 2 + hechos) / 3);
+            avance_.Hecho(total_ * 2 / 3 + hechos / 3);
         }
     }
 

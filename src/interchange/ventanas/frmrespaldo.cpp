@@ -101,7 +101,10 @@ void FrmRespaldo::Conectar() {
     connect(ui_->cmdExaminarRecuperar, &QPushButton::clicked, this, &FrmRespaldo::cmdExaminarRecuperar_Click);
     connect(ui_->cmdIniciar, &QPushButton::clicked, this, &FrmRespaldo::cmdIniciar_Click);
     connect(ui_->cmdIniciarRecuperar, &QPushButton::clicked, this, &FrmRespaldo::cmdIniciarRecuperar_Click);
-    connect(ui_->txtRutaRecuperar, &QLineEdit::editingFinished, this, &FrmRespaldo::LlenarRespaldos);
+    connect(ui_->txtRutaRecuperar, &QLineEdit::editingFinished, this, [this] {
+        if (ui_->txtRutaRecuperar->text() != rutaListada_) // a choice in the list stays else
+            LlenarRespaldos();
+    });
     connect(ui_->lstRecuperar, &ListaVista::FilaPulsada, this, &FrmRespaldo::lstRecuperar_Click);
     connect(Timer, &QTimer::timeout, this, &FrmRespaldo::Timer_Timer);
     for (std::size_t i = 0; i < kBases; ++i) {
@@ -185,9 +188,9 @@ void FrmRespaldo::chkVaciar_Click(std::size_t base) {
 }
 
 void FrmRespaldo::LlenarRespaldos() {
-    respaldos_->Limpiar();
+    rutaListada_ = ui_->txtRutaRecuperar->text();
     ColumnaTexto nombres;
-    for (const QString &respaldo : logica_.Respaldos(ui_->txtRutaRecuperar->text()))
+    for (const QString &respaldo : logica_.Respaldos(rutaListada_))
         nombres.Agregar(respaldo.toStdString());
     respaldos_->Asignar({.celdas = {nombres}});
     ui_->lstRecuperar->SeleccionarFila(respaldos_->Filas() > 0 ? 0 : -1);
@@ -196,8 +199,7 @@ void FrmRespaldo::LlenarRespaldos() {
 
 QString FrmRespaldo::RespaldoElegido() const {
     const int fila = ui_->lstRecuperar->FilaActual();
-    return fila < 0 ? QString()
-                    : ui_->txtRutaRecuperar->text() + QLatin1Char('/') + respaldos_->Celda(fila, 0);
+    return fila < 0 ? QString() : rutaListada_ + QLatin1Char('/') + respaldos_->Celda(fila, 0);
 }
 
 void FrmRespaldo::lstRecuperar_Click() {
@@ -235,6 +237,7 @@ template <typename Operacion> void FrmRespaldo::Trabajar(const Marcha &marcha, O
     marcha.barra->setRange(0, kBases);
     marcha.barra->setValue(1);
     marcha_ = &marcha;
+    salir_ = false;
     bloqueo_ = std::make_unique<EntradaBloqueada>();
     const Desenlace desenlace = operacion(static_cast<Avance &>(*this));
     bloqueo_.reset();
@@ -248,14 +251,14 @@ void FrmRespaldo::Acabar(const Desenlace &desenlace) {
     if (desenlace.fin == Fin::Fallido) {
         marcha_->detalle->setText(QStringLiteral("cierre la ventana para intentarlo otra vez"));
         servicios_.preguntas.Mostrar(desenlace.texto, Icono::Critico);
-        return;
+    } else {
+        if (marcha_ == &respaldo_ && desenlace.fin == Fin::Completo)
+            for (QCheckBox *casilla : chkVaciar)
+                casilla->setChecked(false);
+        logica_.Reabrir();
+        Timer->start();
+        servicios_.preguntas.Informar(desenlace.texto);
     }
-    if (marcha_ == &respaldo_ && desenlace.fin == Fin::Completo)
-        for (QCheckBox *casilla : chkVaciar)
-            casilla->setChecked(false);
-    logica_.Reabrir();
-    Timer->start();
-    servicios_.preguntas.Informar(desenlace.texto);
     if (salir_)
         reject();
 }

@@ -90,7 +90,8 @@ class FrmRespaldo : public QDialog, private Avance {
     Marcha recuperacion_;
     const Marcha *marcha_ = nullptr; // of the operation that runs
     std::unique_ptr<EntradaBloqueada> bloqueo_;
-    bool salir_ = false; // leaving was asked for while an operation ran
+    bool salir_ = false;  // leaving was asked for while an operation ran
+    QString rutaListada_; // folder that the list of backups shows
     QString archivo_;
     qint64 bytes_ = 0;
     QElapsedTimer pausa_;
