@@ -16,7 +16,7 @@
 
 namespace comparacion {
 
-class PreguntasSi final : public tarvo::Preguntas {
+class PreguntasSi : public tarvo::Preguntas {
   public:
     tarvo::Respuesta Preguntar(const QString &, tarvo::Respuesta) override { return tarvo::Respuesta::Si; }
     void Mostrar(const QString &texto, tarvo::Icono) override {

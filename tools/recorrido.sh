@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# One sale in the real program, by real keys on a screen of its own, on a fresh sample shop. Leaves the pictures of
-# each stage, the ticket and the row of the sale in salida/, and fails when anything is not as it must be.
+# One sale in the real program, by real keys on a screen of its own, on a fresh sample shop; exports, a backup that
+# empties the sales, and their restore. Leaves the pictures of each stage, the exported files, the ticket and the row
+# of the sale in salida/, and fails when anything is not as it must be.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 source tools/pantalla.sh
@@ -8,6 +9,7 @@ source tools/pantalla.sh
 readonly SALIDA=$PWD/salida CARPETA=$PWD/build/recorrido NUMERO=0001-00009001
 rm -rf "$SALIDA" "$CARPETA"
 mkdir -p "$SALIDA" "$CARPETA/ajustes" "$CARPETA/registros"
+mkdir "$CARPETA/Respaldo"
 cp build/release/tarvo "$CARPETA/tarvo"
 build/release/muestra "$CARPETA"
 
@@ -84,12 +86,55 @@ Modulo() {
     Tecla "$1"
     Foto "$SALIDA/$2.png"
 }
+# Exports the list on screen to that file of salida/.
+Exportar() {
+    Tecla ctrl+F6
+    EsperarCuadro "el diálogo de exportar"
+    Escribir "$SALIDA/$1"
+    [ -z "${2:-}" ] || Foto "$SALIDA/$2.png"
+    Tecla Return
+    EsperarPrincipal
+    Esperar 10 "el archivo $1" test -s "$SALIDA/$1"
+}
 Modulo F2 13-articulos
+Exportar articulos.xls
+Exportar articulos.txt 13-exportar
 Modulo F3 14-proveedores
 Modulo F4 15-clientes
 Tecla F4 F9
 EsperarCuadro "las opciones"
 Foto "$SALIDA/16-opciones.png"
+Tecla Escape
+EsperarPrincipal
+
+# Backup of everything, emptying the sales; then the sales come back from it.
+Seleccionada() { [ "$(xdotool getactivewindow)" = "$RESPALDO" ]; }
+Aceptar() {
+    EsperarCuadro "$1"
+    Foto "$SALIDA/$2.png"
+    Tecla "${@:3}"
+    Esperar 10 "la vuelta a la ventana de respaldo" Seleccionada
+}
+Tecla F6
+EsperarCuadro "la ventana de respaldo"
+readonly RESPALDO=$CUADRO
+Tecla Tab Tab Tab Tab Tab space
+Aceptar "el aviso de que se vaciarán las ventas" 17-vaciar Return
+Foto "$SALIDA/18-respaldar.png"
+Tecla Tab Tab Tab Tab Tab Tab Tab Tab Tab space
+Aceptar "el éxito del respaldo" 19-respaldado Return
+COPIA=$(find "$CARPETA/Respaldo" -mindepth 1 -type d)
+[ "$(find "$COPIA" -name '*.mdb' | wc -l)" -eq 5 ] || Fallar "el respaldo no tiene los cinco archivos"
+[ "$(sqlite3 "$COPIA/ventas.mdb" 'SELECT count(*) FROM Ventas')" -eq $((VENTAS + 1)) ] ||
+    Fallar "faltan ventas en el respaldo"
+cmp -s "$CARPETA/Datos/ventas.mdb" "$CARPETA/Datos/vacio/ventas.mdb" || Fallar "las ventas no quedaron vacías"
+Tecla Down Tab Tab Tab Tab Tab space
+Foto "$SALIDA/20-recuperar.png"
+Tecla Tab Tab Tab Tab space
+EsperarCuadro "la pregunta de la recuperación"
+Foto "$SALIDA/21-pregunta.png"
+Tecla Tab space
+Aceptar "el éxito de la recuperación" 22-recuperado Return
 Tecla Escape
 EsperarPrincipal
 
@@ -105,6 +150,11 @@ Consultar ventas "SELECT idcliente, tipo, descripcion, numcomp, idoperador FROM 
 DESPUES=$(Existencias)
 esperadas=$(awk '{ print $1 - 1, $2 - 1, $3 - 4 }' <<<"$ANTES")
 [ "$DESPUES" = "$esperadas" ] || Fallar "existencias $DESPUES, se esperaban $esperadas"
+
+# What was exported: a line for each article; the spreadsheet of the articles has no end record.
+[ "$(wc -l <"$SALIDA/articulos.txt")" -eq "$(Consultar articulos 'SELECT count(*) FROM Articulos')" ] ||
+    Fallar "el texto exportado no tiene todos los artículos"
+[ "$(head -c 8 "$SALIDA/articulos.xls" | od -An -tx1 | tr -d ' \n')" = 0900040002000a00 ] || Fallar "la hoja exportada no empieza bien"
 
 ticket=("$CARPETA"/Impresos/*.pdf)
 [ -s "${ticket[0]}" ] || Fallar "no hay ticket en Impresos"

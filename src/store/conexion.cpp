@@ -11,12 +11,14 @@
 
 namespace tarvo {
 
+std::string Uri(const QString &archivo, const char *opciones) {
+    const QByteArray ruta = QUrl::toPercentEncoding(QFileInfo(archivo).absoluteFilePath(), "/");
+    return "file:" + ruta.toStdString() + "?" + opciones;
+}
+
 namespace {
 
-std::string Uri(const QString &archivo) {
-    const QByteArray ruta = QUrl::toPercentEncoding(QFileInfo(archivo).absoluteFilePath(), "/");
-    return "file:" + ruta.toStdString() + "?mode=rw";
-}
+constexpr const char *kEnUso = "mode=rw";
 
 // What the engine would create, or read as an empty database, is refused before it sees it.
 const QString &Existente(const QString &archivo) {
@@ -37,7 +39,7 @@ ErrorDatos ErrorLectura(const SQLite::Exception &error) {
 SQLite::Database AbrirBase(const QString &archivo) {
     try {
         constexpr int kModo = SQLITE_OPEN_READWRITE | SQLITE_OPEN_URI | SQLITE_OPEN_NOMUTEX;
-        return SQLite::Database(Uri(Existente(archivo)), kModo);
+        return SQLite::Database(Uri(Existente(archivo), kEnUso), kModo);
     } catch (const SQLite::Exception &error) {
         throw ErrorLectura(error);
     }
@@ -56,7 +58,7 @@ void Conexion::Adjuntar(const QString &archivo, const char *esquema) {
     Existente(archivo);
     try {
         SQLite::Statement sentencia(base_, std::string("ATTACH ? AS ") + esquema);
-        sentencia.bind(1, Uri(archivo));
+        sentencia.bind(1, Uri(archivo, kEnUso));
         sentencia.exec();
     } catch (const SQLite::Exception &error) {
         throw ErrorLectura(error);
@@ -112,14 +114,14 @@ void Conexion::Bloquear() {
     }
 }
 
-void Conexion::ComprobarTabla(const char *esquema, const char *tabla,
-                              const std::vector<const char *> &columnas) {
+void ComprobarTabla(sqlite3 *base, const char *esquema, const char *tabla,
+                    const std::vector<const char *> &columnas) {
     const auto nombre = QString::fromUtf8(tabla);
     int clave = 0;
     const char *tipo = nullptr;
     const auto hay = [&](const char *columna) {
-        return sqlite3_table_column_metadata(base_.getHandle(), esquema, tabla, columna, &tipo, nullptr,
-                                             nullptr, &clave, nullptr) == SQLITE_OK;
+        return sqlite3_table_column_metadata(base, esquema, tabla, columna, &tipo, nullptr, nullptr, &clave,
+                                             nullptr) == SQLITE_OK;
     };
     if (!hay(nullptr))
         throw ErrorDatos(errores::kBaseIlegible, QStringLiteral("Falta la tabla %1.").arg(nombre));

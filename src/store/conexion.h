@@ -28,6 +28,13 @@ class Cursor;
 ErrorDatos ErrorLectura(int codigo, const char *mensaje);
 ErrorDatos ErrorEscritura(int codigo, const char *mensaje);
 
+// The name under which the engine opens a file, with options such as "mode=rw".
+std::string Uri(const QString &archivo, const char *opciones);
+
+// Throws ErrorDatos(kBaseIlegible) when the table, its row id `id` or one of the columns isn't there.
+void ComprobarTabla(sqlite3 *base, const char *esquema, const char *tabla,
+                    const std::vector<const char *> &columnas);
+
 // One write of the open transaction, kept until its end to judge a COMMIT that reports an error.
 struct Escritura {
     Cursor *cursor = nullptr;
@@ -46,8 +53,6 @@ class Conexion {
     void Separar(const char *esquema);
     // Takes the exclusive locks of all attached files, which are held until the end of the connection.
     void Bloquear();
-    // Throws ErrorDatos(kBaseIlegible) when the table, its row id `id` or one of the columns isn't there.
-    void ComprobarTabla(const char *esquema, const char *tabla, const std::vector<const char *> &columnas);
 
     // Runs a reading statement and hands each row to `fila`.
     template <typename Fila> void Recorrer(const std::string &sql, Fila fila) {

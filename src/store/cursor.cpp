@@ -17,7 +17,7 @@ Cursor::~Cursor() {
 // --- opening and closing
 
 void Cursor::Abrir(Conexion &conexion) {
-    conexion.ComprobarTabla(esquema_, tabla_, d_->memoria.Nombres());
+    ComprobarTabla(conexion.Base().getHandle(), esquema_, tabla_, d_->memoria.Nombres());
     conexion_ = &conexion;
     conexion_->Alta(*this);
     Invalidar();

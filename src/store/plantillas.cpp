@@ -6,7 +6,9 @@
 #include <QFile>
 
 #include <SQLiteCpp/SQLiteCpp.h>
+#include <algorithm>
 #include <fcntl.h>
+#include <iterator>
 #include <unistd.h>
 
 namespace tarvo {
@@ -81,6 +83,13 @@ void Sincronizar(const QString &ruta) {
         ::close(archivo);
     if (!bien)
         SinAcceso(ruta);
+}
+
+QString EsquemaDe(const QString &archivo) {
+    const auto *const plantilla = std::ranges::find(
+        kPlantillas, archivo, [](const Plantilla &una) { return QString::fromUtf8(una.archivo); });
+    Q_ASSERT(plantilla != std::end(kPlantillas));
+    return Esquema(plantilla->sql);
 }
 
 void CrearPlantillas(const QString &carpeta) {

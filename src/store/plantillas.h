@@ -9,6 +9,9 @@ namespace tarvo {
 // ErrorDatos(kAccesoRuta).
 void CrearPlantillas(const QString &carpeta);
 
+// The SQL that makes the empty data file `archivo` ("ventas.mdb").
+QString EsquemaDe(const QString &archivo);
+
 // Brings a file, or the entries of a folder, to the disk. Throws ErrorDatos(kAccesoRuta).
 void Sincronizar(const QString &ruta);
 

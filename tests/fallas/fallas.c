@@ -150,6 +150,12 @@ int unlink(const char *ruta) {
     return ORIGINAL(int (*)(const char *), "unlink")(ruta);
 }
 
+int rmdir(const char *ruta) {
+    if (Vigilada(ruta) && TocaEntera())
+        return -1;
+    return ORIGINAL(int (*)(const char *), "rmdir")(ruta);
+}
+
 int rename(const char *de, const char *a) {
     if (Vigilada(a) && TocaEntera())
         return -1;

@@ -1,6 +1,9 @@
 // The program's own windows behind the entries of the main window.
 #include "mundoprincipal.h"
 
+#include <QFile>
+#include <QTimer>
+
 #include <gtest/gtest.h>
 
 namespace tarvo {
@@ -17,11 +20,42 @@ TEST_F(ComposicionTest, ExportIsOfferedWhileAListWithRowsIsOnScreen) {
     EXPECT_FALSE(DeMenu("exportar")->isEnabled()) << "there is no supplier";
     Tecla(frm.get(), Qt::Key_F4);
     EXPECT_TRUE(DeMenu("exportar")->isEnabled());
-    mundo.preguntas.EsperaMensaje(QStringLiteral("La exportación no está disponible en esta versión."),
-                                  Icono::Informacion);
+    const QString ruta = mundo.datos.Carpeta() + QStringLiteral("/clientes.txt");
+    mundo.preguntas.EsperaRuta(
+        {.para = PedidoRuta::Para::Guardar,
+         .titulo = QStringLiteral("Exportar..."),
+         .filtro = QStringLiteral("Hoja de Microsoft Excel|*.xls|Archivo de texto separado por comas|*.txt"),
+         .carpeta = QString()},
+        ruta);
     Tecla(frm.get(), Qt::Key_F6, Qt::ControlModifier);
+    QFile archivo(ruta);
+    ASSERT_TRUE(archivo.open(QIODevice::ReadOnly));
+    EXPECT_EQ(archivo.readAll(), "1,Ana,,,\r\n");
     Tecla(frm.get(), Qt::Key_F3);
     EXPECT_FALSE(DeMenu("exportar")->isEnabled()) << "the customers are closed";
+}
+
+TEST_F(ComposicionTest, TheBackupOpensOverTheMainWindowAlone) {
+    composicion = Componer(mundo.servicios());
+    Abrir();
+    Tecla(frm.get(), Qt::Key_F4);
+    QString modal;
+    QTimer cierre;
+    QObject::connect(&cierre, &QTimer::timeout, &cierre, [&] {
+        if (QWidget *const ventana = QApplication::activeModalWidget()) {
+            modal = ventana->objectName();
+            Tecla(ventana, Qt::Key_Escape);
+        }
+    });
+    cierre.start(1);
+    mundo.preguntas.Espera(
+        QStringLiteral("Al ingresar a las opciones de respaldo se cerrará el formulario de "
+                       "clientes.\nDesea continuar?"),
+        Respuesta::No, Respuesta::Si);
+    Tecla(frm.get(), Qt::Key_F6);
+    EXPECT_EQ(modal, QStringLiteral("frmRespaldo"));
+    EXPECT_FALSE(DeMenu("clientes")->isChecked());
+    EXPECT_FALSE(DeBarra("respaldar")->isChecked());
 }
 
 } // namespace

@@ -1,7 +1,8 @@
 #include "shell/ventanas/composicion.h"
 
 #include "config/ventanas/frmconfig.h"
-#include "desktop/preguntas.h"
+#include "interchange/mnuexportar.h"
+#include "interchange/ventanas/frmrespaldo.h"
 #include "masterdata/ventanas/frmarticulos.h"
 #include "masterdata/ventanas/frmclientes.h"
 #include "masterdata/ventanas/frmproveedores.h"
@@ -58,9 +59,8 @@ Composicion Componer(const Servicios &servicios) {
         FrmConfig(servicios, abrirDisenador, padre).exec();
     };
     composicion.disenador = true;
-    composicion.exportar = [servicios](const Exportable &) {
-        servicios.preguntas.Informar(QStringLiteral("La exportación no está disponible en esta versión."));
-    };
+    composicion.respaldo = [servicios](QWidget *padre) { FrmRespaldo(servicios, padre).exec(); };
+    composicion.exportar = [servicios](const Exportable &lo) { mnuExportar(servicios.preguntas, lo); };
     return composicion;
 }
 

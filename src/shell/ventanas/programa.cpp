@@ -2,6 +2,7 @@
 
 #include "documents/ventanas/impresorassistema.h"
 #include "shell/ajustesprincipal.h"
+#include "interchange/reemplazo.h"
 #include "shell/apertura.h"
 #include "shell/medidas.h"
 #include "shell/ventanas/composicion.h"
@@ -67,7 +68,7 @@ ResultadoApertura Programa::AbrirDatos() {
     frmBases_ = std::make_unique<FrmBases>(datos, LeerRegional(ajustes_));
     frmBases_->AlDanarse(
         [this](const QString &archivo, const QString &motivo) { Avisar(AvisoDano(archivo, motivo)); });
-    return frmBases_->AbrirInsistiendo();
+    return AbrirBases(*frmBases_);
 }
 
 void Programa::MostrarPrincipal(const ResultadoApertura &resultado) {

@@ -1,0 +1,16 @@
+// The menu entry "Exportar": asks for a file and writes the list on screen into it, in the format that the
+// ending of its name picks.
+#pragma once
+
+#include "desktop/exportable.h"
+
+namespace tarvo {
+
+class Preguntas;
+
+// "xls" and "txt" at the end of the name, exactly so, are the spreadsheet and the text; with any other ending
+// nothing is written and nothing said. A file of that name is replaced only when the new one is complete: a
+// disk that fails is told and loses nothing.
+void mnuExportar(Preguntas &preguntas, const Exportable &lo);
+
+} // namespace tarvo

@@ -1,0 +1,92 @@
+#include "interchange/respaldo.h"
+
+#include "interchange/archivos.h"
+#include "interchange/avance.h"
+#include "interchange/copiasegura.h"
+#include "interchange/reemplazo.h"
+#include "store/comprobacion.h"
+#include "store/errordatos.h"
+#include "store/store.h"
+
+#include <QDir>
+
+namespace tarvo {
+
+namespace {
+
+void Vaciar(const QDir &datos, const QString &archivo, Avance &avance) {
+    Reemplazo reemplazo(datos.path());
+    CopiarSeguro(datos.filePath(QStringLiteral("vacio/") + archivo), reemplazo.Ruta(archivo), avance);
+    reemplazo.Confirmar();
+}
+
+void RespaldarBase(const QDir &datos, const QString &archivo, const PedidoRespaldo &pedido, bool vaciar,
+                   Avance &avance) {
+    const BaseRetenida retenida(datos.filePath(archivo));
+    CopiarSeguro(datos.filePath(archivo), QDir(pedido.destino).filePath(archivo), avance);
+    SincronizarCarpeta(pedido.destino);
+    if (vaciar)
+        Vaciar(datos, archivo, avance);
+}
+
+// False when there is no such file in the backup.
+bool Preparar(const QDir &datos, const QString &origen, const QString &destino, const QString &archivo,
+              Avance &avance) {
+    if (EnUso(datos.filePath(archivo)))
+        throw ErrorDatos(errores::kBaseBloqueada,
+                         QStringLiteral("Otro programa está usando \"%1\".").arg(archivo));
+    try {
+        CopiarSeguro(origen, destino, avance);
+        return true;
+    } catch (const ErrorDatos &error) {
+        if (error.Numero() != errores::kArchivoNoEncontrado)
+            throw;
+        return false;
+    }
+}
+
+} // namespace
+
+QString NombreRespaldo(const QDateTime &momento) {
+    return momento.toString(QStringLiteral("yyyy MM dd-HH mm ss"));
+}
+
+Resultado Respaldar(FrmBases &bases, const PedidoRespaldo &pedido, Avance &avance) {
+    CrearCarpeta(pedido.destino);
+    bases.Cerrar();
+    const Cerrojo cerrojo(bases.CarpetaDatos());
+    const QDir datos(bases.CarpetaDatos());
+    for (std::size_t i = 0; i < kBases; ++i) {
+        if (pedido.respaldar[i]) {
+            if (!avance.Sigue())
+                return Resultado::Interrumpido;
+            RespaldarBase(datos, BasesRespaldo()[i].archivo, pedido, pedido.vaciar[i], avance);
+        }
+        avance.Avanza();
+    }
+    return Resultado::Completo;
+}
+
+Resultado Recuperar(FrmBases &bases, const PedidoRecuperacion &pedido, Avance &avance) {
+    bases.Cerrar();
+    const Cerrojo cerrojo(bases.CarpetaDatos());
+    const QDir datos(bases.CarpetaDatos());
+    const QDir origen(pedido.origen);
+    Reemplazo reemplazo(datos.path());
+    bool alguna = false;
+    for (const std::size_t i : kOrdenRecuperar) {
+        const QString &archivo = BasesRespaldo()[i].archivo;
+        if (pedido.recuperar[i]) {
+            if (!avance.Sigue())
+                return Resultado::Interrumpido;
+            if (Preparar(datos, origen.filePath(archivo), reemplazo.Ruta(archivo), archivo, avance))
+                alguna = true;
+        }
+        avance.Avanza();
+    }
+    if (alguna)
+        reemplazo.Confirmar();
+    return Resultado::Completo;
+}
+
+} // namespace tarvo
