@@ -61,7 +61,7 @@ void GuardarRecibo(FrmBases &bases, const QString &idCliente, const QString &tot
 }
 
 std::optional<DocumentoDevuelto> DevolucionDe(const ListaTexto &lista, ListaCuenta cual, int fila,
-                                       const QString &idCliente) {
+                                              const QString &idCliente) {
     const std::string_view detalle = lista.CeldaUtf8(fila, movimiento::Detalle);
     const auto *const regla = std::ranges::find_if(
         kReglas, [&](const ReglaDevolucion &r) { return r.cual == cual && r.detalle == detalle; });
@@ -70,16 +70,16 @@ std::optional<DocumentoDevuelto> DevolucionDe(const ListaTexto &lista, ListaCuen
     const QString fecha = lista.Celda(fila, movimiento::Fecha);
     const QString hora = lista.Celda(fila, movimiento::Hora);
     return DocumentoDevuelto{.fecha = fecha,
-                      .hora = hora,
-                      .detalle = lista.Celda(fila, movimiento::Detalle),
-                      .tipo = QString::fromUtf8(regla->tipo),
-                      .descripcion = QString::fromUtf8(regla->descripcion).arg(fecha, hora),
-                      .idCliente = cual == ListaCuenta::Contado ? QStringLiteral("0") : idCliente,
-                      .total = lista.Celda(fila, regla->columnaTotal),
-                      .titulo = QString::fromUtf8(regla->titulo),
-                      .importe = lista.Celda(fila, regla->columnaImporte),
-                      .idFactura = lista.Celda(fila, regla->columnaId),
-                      .marca = QString::fromUtf8(regla->marca)};
+                             .hora = hora,
+                             .detalle = lista.Celda(fila, movimiento::Detalle),
+                             .tipo = QString::fromUtf8(regla->tipo),
+                             .descripcion = QString::fromUtf8(regla->descripcion).arg(fecha, hora),
+                             .idCliente = cual == ListaCuenta::Contado ? QStringLiteral("0") : idCliente,
+                             .total = lista.Celda(fila, regla->columnaTotal),
+                             .titulo = QString::fromUtf8(regla->titulo),
+                             .importe = lista.Celda(fila, regla->columnaImporte),
+                             .idFactura = lista.Celda(fila, regla->columnaId),
+                             .marca = QString::fromUtf8(regla->marca)};
 }
 
 bool NoSeDevuelve(const ListaTexto &lista, ListaCuenta cual, int fila) {

@@ -43,7 +43,7 @@ struct DocumentoDevuelto {
 // amount. `idFactura` too comes from fixed columns, which hold no id: the mark is not written, and an invoice
 // can be taken back more than once. Both are how the shop's files have always been kept, they stay.
 std::optional<DocumentoDevuelto> DevolucionDe(const ListaTexto &lista, ListaCuenta cual, int fila,
-                                       const QString &idCliente);
+                                              const QString &idCliente);
 // Row `fila` has nothing to take back and leaves the list while documents are chosen.
 bool NoSeDevuelve(const ListaTexto &lista, ListaCuenta cual, int fila);
 
