@@ -68,14 +68,14 @@ bool EstadosLogica::Llenar(const std::function<ContenidoLista(FrmBases &)> &leer
     QString error;
     try {
         if (bases.datVentas.Abierto()) {
-            Visible().Asignar(leer(bases));
+            ListaVisible().Asignar(leer(bases));
             if (bases.datVentas.RecordCount() > 0)
                 return true;
         }
     } catch (const ErrorDatos &e) {
         error = e.Descripcion();
     }
-    Visible().Limpiar();
+    ListaVisible().Limpiar();
     Mostrar();
     if (!error.isEmpty())
         Critico(error);
@@ -204,14 +204,15 @@ void EstadosLogica::Imprimir() {
 // The caption tells what the button does and follows the button alone: a statement built meanwhile shows the
 // cash documents under either.
 void EstadosLogica::OcultarContado() {
-    if (pantalla_.eliminar == kMostrar) {
+    if (pantalla_.contadoOculto) {
+        pantalla_.contadoOculto = false;
         ConstruirEstado();
         return;
     }
     if (!servicios_.preguntas.Confirma(QStringLiteral("Desea ocultar las Facturas Contado de la lista?"),
                                        Respuesta::Si))
         return;
-    ListaTexto &lista = Visible();
+    ListaTexto &lista = ListaVisible();
     lista.QuitarFilas([&](int fila) { return EsContado(lista, fila); });
     if (lista.Filas() == 0) {
         pantalla_.entrada = pantalla_.conRecibo = false;

@@ -12,6 +12,7 @@
 
 namespace tarvo {
 
+class Moneda;
 struct DocumentoDevuelto;
 
 class EstadosLogica {
@@ -54,7 +55,7 @@ class EstadosLogica {
     void EjecutarPorCliente();
 
   private:
-    ListaTexto &Visible() { return listas_[static_cast<std::size_t>(pantalla_.lista)]; }
+    ListaTexto &ListaVisible() { return listas_[static_cast<std::size_t>(pantalla_.lista)]; }
     const Moneda &moneda() const;
     void Mostrar() { vista_.Mostrar(pantalla_); }
     void Critico(const QString &texto);

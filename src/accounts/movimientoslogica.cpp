@@ -12,9 +12,11 @@ namespace tarvo {
 
 namespace {
 
-Devolucion ComprobanteDe(const DocumentoDevuelto &devuelto, const QDateTime &momento) {
+Devolucion ComprobanteDe(const DocumentoDevuelto &devuelto, const QDateTime &momento,
+                         const std::optional<QString> &cliente) {
     return {.titulo = devuelto.titulo,
             .momento = momento,
+            .cliente = cliente,
             .fecha = devuelto.fecha,
             .hora = devuelto.hora,
             .descripcion = devuelto.detalle,
@@ -115,7 +117,7 @@ void EstadosLogica::OfrecerRecibo(const QString &total) {
 // --- return
 
 void EstadosLogica::EmpezarDevolucion() {
-    ListaTexto &lista = Visible();
+    ListaTexto &lista = ListaVisible();
     if (lista.Filas() == 0)
         return;
     pantalla_.devolucion = true;
@@ -130,7 +132,7 @@ void EstadosLogica::EmpezarDevolucion() {
 }
 
 void EstadosLogica::DejarDevolucion() {
-    Visible().PonerMarcable(false);
+    ListaVisible().PonerMarcable(false);
     pantalla_.devolucion = false;
     pantalla_.conImprimir = pantalla_.conEliminar = pantalla_.conDevolucion = pantalla_.conRecibo = true;
 }
@@ -179,7 +181,7 @@ bool EstadosLogica::DevolverFila(int fila, const QString &idCliente) {
                                           .arg(devuelto->fecha, devuelto->hora, devuelto->detalle));
         return false;
     }
-    Visible().Marcar(fila, false);
+    ListaVisible().Marcar(fila, false);
     return OfrecerComprobante(*devuelto);
 }
 
@@ -191,10 +193,10 @@ bool EstadosLogica::OfrecerComprobante(const DocumentoDevuelto &devuelto) {
     ElegirImpresora(servicios_.impresoras, servicios_.ajustes, Proposito::Ticket);
     try {
         const auto papel = servicios_.impresoras.NuevoDocumento(ClasePapel::Rollo, devuelto.titulo);
-        Devolucion comprobante = ComprobanteDe(devuelto, servicios_.reloj.Ahora());
-        if (pantalla_.lista == ListaCuenta::Estado) // the cash list has no customer
-            comprobante.cliente = pantalla_.cliente;
-        ImprimirDevolucion(*papel, LeerCabecera(servicios_.frmBases), comprobante);
+        const bool conCliente = pantalla_.lista == ListaCuenta::Estado; // the cash list has none
+        ImprimirDevolucion(*papel, LeerCabecera(servicios_.frmBases),
+                           ComprobanteDe(devuelto, servicios_.reloj.Ahora(),
+                                         conCliente ? std::optional(pantalla_.cliente) : std::nullopt));
         return true;
     } catch (const std::exception &error) {
         Critico(QStringLiteral("No se pudo imprimir el comprobante. %1\n\nLa devolución quedó guardada.")

@@ -111,8 +111,9 @@ TEST_F(Cuentas, WhatFailsHalfWayEndsTheReturnAndTheSameButtonDoesTheRest) {
     EXPECT_EQ(vista.Estado(), "LVEstado  devolucion");
     for (int vez = 0; vez < 2; ++vez) {
         mundo.preguntas.EsperaMensaje(
-            QStringLiteral("No se pudieron guardar los datos: sin lugar\n\nNo se guardó la devolución de: "
-                           "05/11/2026 - 18:40 - Factura contado"),
+            QStringLiteral(
+                "No se pudo escribir en la base de datos: sin lugar\n\nNo se guardó la devolución de: "
+                "05/11/2026 - 18:40 - Factura contado"),
             Icono::Critico);
         logica->Devolver();
     }

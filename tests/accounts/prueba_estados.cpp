@@ -172,7 +172,7 @@ TEST_F(Cuentas, ARefusedReceiptStaysInItsFieldAndTheSecondTryWritesOneRow) {
                          "BEGIN SELECT RAISE(FAIL,'sin lugar'); END");
     Abrir();
     logica->AceptarCliente();
-    mundo.preguntas.EsperaMensaje(QStringLiteral("No se pudieron guardar los datos: sin lugar"
+    mundo.preguntas.EsperaMensaje(QStringLiteral("No se pudo escribir en la base de datos: sin lugar"
                                                  "\n\nEl recibo no se guardó."),
                                   Icono::Critico);
     Recibir("66");
@@ -199,17 +199,20 @@ TEST_F(Cuentas, AReceiptThatCannotBePrintedIsStoredAndLeavesItsField) {
 
 // With a symbol of two characters the third character of the text is its blank.
 TEST(CuentasGuaranies, AReceiptOfZeroIsWritten) {
-    MundoPrueba mundo{.datos = DatosPrueba(Moneda(QStringLiteral(","), QStringLiteral("Gs")))};
-    mundo.datos.Ejecutar(kHistoria);
+    MundoPrueba mundo;
+    DatosPrueba datos(Moneda(QStringLiteral(","), QStringLiteral("Gs")));
+    datos.Ejecutar(kHistoria);
     VistaCuenta vista;
-    EstadosLogica logica(mundo.servicios(), vista);
+    EstadosLogica logica(
+        {datos.Abrir(), mundo.preguntas, mundo.reloj, mundo.impresoras, mundo.ajustes, mundo.escritorio},
+        vista);
     logica.Abrir();
     logica.AceptarCliente();
     logica.EmpezarRecibo();
     vista.cantidad = QStringLiteral("0");
     mundo.preguntas.Espera(kOfrecerRecibo, Respuesta::Si, Respuesta::No);
     logica.AgregarRecibo();
-    EXPECT_EQ(mundo.datos.Filas("SELECT total FROM ventas.Ventas WHERE id=10"),
+    EXPECT_EQ(datos.Filas("SELECT total FROM ventas.Ventas WHERE id=10"),
               (std::vector<std::vector<QString>>{{QStringLiteral("Gs 0,00")}}));
 }
 
