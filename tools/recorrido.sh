@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# One sale in the real program, by real keys on a screen of its own, on a fresh sample shop. Leaves the pictures of
-# each stage, the ticket and the row of the sale in salida/, and fails when anything is not as it must be.
+# One sale in the real program, by real keys on a screen of its own, on a fresh sample shop; then its customer's
+# statement, a receipt, the return of the sale, the cash list and the cash sheet of the day. Leaves the pictures of
+# each stage, everything printed and the new rows in salida/, and fails when anything is not as it must be.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 source tools/pantalla.sh
@@ -80,17 +81,62 @@ Tecla Return
 EsperarPrincipal
 Foto "$SALIDA/12-emitida.png"
 
+# The statement of that customer: from the list, which has the focus, back to the search field and to the list again.
+Tecla F7
+Foto "$SALIDA/13-cuentas.png"
+Tecla Return
+Foto "$SALIDA/14-elegir.png"
+Tecla shift+Tab shift+Tab
+Escribir "${CLIENTE#*|}"
+Tecla Return Tab Tab Return
+Foto "$SALIDA/15-estado.png"
+
+# A receipt with its slip.
+Tecla Tab Return
+Escribir 25,50
+Foto "$SALIDA/16-importe.png"
+Tecla Return Return
+EsperarCuadro "la pregunta por el recibo"
+Foto "$SALIDA/17-recibo.png"
+Tecla Return
+EsperarPrincipal
+Foto "$SALIDA/18-cobrado.png"
+
+# The return of the sale, the newest invoice, with its slip.
+Tecla Tab Tab Tab space End space
+Foto "$SALIDA/19-devolver.png"
+Tecla Tab Return
+EsperarCuadro "la pregunta por el comprobante"
+Foto "$SALIDA/20-comprobante.png"
+Tecla Return
+EsperarPrincipal
+Foto "$SALIDA/21-devuelto.png"
+
+# The cash list; then the cash sheet of today, from the first of its dates on to the button, and back to the buttons.
+Tecla shift+Tab shift+Tab space
+Foto "$SALIDA/22-contado.png"
+Tecla Tab space
+Tecla Return Return Return Return Return
+Foto "$SALIDA/23-caja.png"
+Tecla $(printf 'shift+Tab %.0s' {1..12}) space
+Foto "$SALIDA/24-caja-botones.png"
+Tecla Tab Tab space
+EsperarCuadro "la pregunta por la planilla"
+Foto "$SALIDA/25-planilla.png"
+Tecla Return
+EsperarPrincipal
+
 # The other windows, as they stand.
 Modulo() {
     Tecla "$1"
     Foto "$SALIDA/$2.png"
 }
-Modulo F2 13-articulos
-Modulo F3 14-proveedores
-Modulo F4 15-clientes
+Modulo F2 26-articulos
+Modulo F3 27-proveedores
+Modulo F4 28-clientes
 Tecla F4 F9
 EsperarCuadro "las opciones"
-Foto "$SALIDA/16-opciones.png"
+Foto "$SALIDA/29-opciones.png"
 Tecla Escape
 EsperarPrincipal
 
@@ -100,21 +146,33 @@ Esperar 15 "el fin del programa" Terminado
 wait "$PROGRAMA" || Fallar "el programa terminó con error"
 
 # What the files hold now.
-[ "$(Consultar ventas 'SELECT count(*) FROM Ventas')" -eq $((VENTAS + 1)) ] || Fallar "no hay una venta más"
-Consultar ventas "SELECT idcliente, tipo, descripcion, numcomp, idoperador FROM Ventas ORDER BY id DESC LIMIT 1" |
-    grep -qx "${CLIENTE%%|*}|Credito|Factura crédito|$NUMERO|1" || Fallar "la fila de la venta no es la esperada"
+[ "$(Consultar ventas 'SELECT count(*) FROM Ventas')" -eq $((VENTAS + 3)) ] || Fallar "no hay tres filas más"
+Nueva() { Consultar ventas "SELECT idcliente, tipo, descripcion, numcomp, idoperador FROM Ventas WHERE id = $((VENTAS + $1))"; }
+Exigir() { [ "$1" = "$2" ] || Fallar "la fila nueva es $1, se esperaba $2"; }
+readonly ID=${CLIENTE%%|*}
+MOMENTO=$(Consultar ventas "SELECT fecha || ' - ' || hora FROM Ventas WHERE numcomp = '$NUMERO'")
+Exigir "$(Nueva 1)" "$ID|Credito|Factura crédito|$NUMERO|1"
+Exigir "$(Nueva 2)" "$ID|Recibo|Recibo||"
+Exigir "$(Nueva 3)" "$ID|NotaCredito|Nota de crédito ($MOMENTO)||"
+[ "$(Consultar ventas "SELECT total FROM Ventas WHERE id = $((VENTAS + 2))")" = '$ 25,50' ] || Fallar "el recibo es de otro importe"
 DESPUES=$(Existencias)
 esperadas=$(awk '{ print $1 - 1, $2 - 1, $3 - 4 }' <<<"$ANTES")
 [ "$DESPUES" = "$esperadas" ] || Fallar "existencias $DESPUES, se esperaban $esperadas"
 
-ticket=("$CARPETA"/Impresos/*.pdf)
-[ -s "${ticket[0]}" ] || Fallar "no hay ticket en Impresos"
-cp "${ticket[0]}" "$SALIDA/ticket.pdf"
-pdftoppm -png -r 150 -singlefile "$SALIDA/ticket.pdf" "$SALIDA/ticket"
-pdftotext -layout "$SALIDA/ticket.pdf" - | grep -q 'Total c/Descuento' || Fallar "el ticket no tiene total"
+# Imprimido <beginning of the file's name> <name of the picture> <text that must stand on it>
+Imprimido() {
+    local papel=("$CARPETA"/Impresos/"$1"*.pdf)
+    [ -s "${papel[0]}" ] || Fallar "no hay $1 en Impresos"
+    cp "${papel[0]}" "$SALIDA/$2.pdf"
+    pdftoppm -png -r 150 -singlefile "$SALIDA/$2.pdf" "$SALIDA/$2"
+    pdftotext -layout "$SALIDA/$2.pdf" - | grep -q "$3" || Fallar "$2 no dice: $3"
+}
+Imprimido factura ticket 'Total c/Descuento'
+Imprimido recibo recibo '25,50'
+Imprimido nota nota-de-credito 'Nota de crédito'
+Imprimido planilla planilla-de-caja 'PLANILLA DE CAJA'
 
-sqlite3 -header -line "$CARPETA/Datos/ventas.mdb" 'SELECT * FROM Ventas ORDER BY id DESC LIMIT 1' |
-    tee "$SALIDA/venta.txt"
+sqlite3 -header -line "$CARPETA/Datos/ventas.mdb" "SELECT * FROM Ventas WHERE id > $VENTAS" | tee "$SALIDA/filas.txt"
 echo "Existencias: antes $ANTES, después $DESPUES"
-echo "Imágenes, ticket y fila de la venta: $SALIDA"
+echo "Imágenes, papeles y filas nuevas: $SALIDA"
 echo "Programa y datos del recorrido: $CARPETA"

@@ -2,7 +2,6 @@
 
 #include "desktop/reloj.h"
 #include "store/store.h"
-#include "store/transaccion.h"
 
 namespace tarvo {
 
@@ -48,16 +47,14 @@ void MarcarFactura(FrmBases &bases, const DocumentoDevuelto &devolucion) {
 
 } // namespace
 
-void GuardarRecibo(FrmBases &bases, const QString &idCliente, const QString &total,
+void EscribirRecibo(FrmBases &bases, const QString &idCliente, const QString &total,
                    const QDateTime &momento) {
-    Transaccion transaccion(bases);
     EmpezarFila(bases, momento);
     bases.camVentDescripcion = QStringLiteral("Recibo");
     bases.camVentIdCliente = idCliente;
     bases.camVentTipo = QStringLiteral("Recibo");
     bases.camVentTotal = total;
     bases.datVentas.Refresh();
-    transaccion.Confirmar();
 }
 
 std::optional<DocumentoDevuelto> DevolucionDe(const ListaTexto &lista, ListaCuenta cual, int fila,
@@ -89,8 +86,7 @@ bool NoSeDevuelve(const ListaTexto &lista, ListaCuenta cual, int fila) {
     return cual == ListaCuenta::Estado && (detalle.starts_with("Nota") || detalle == "Recibo");
 }
 
-void GuardarDevolucion(FrmBases &bases, const DocumentoDevuelto &devolucion, const QDateTime &momento) {
-    Transaccion transaccion(bases);
+void EscribirDevolucion(FrmBases &bases, const DocumentoDevuelto &devolucion, const QDateTime &momento) {
     EmpezarFila(bases, momento);
     bases.camVentDescripcion = devolucion.descripcion;
     bases.camVentIdCliente = devolucion.idCliente;
@@ -98,7 +94,6 @@ void GuardarDevolucion(FrmBases &bases, const DocumentoDevuelto &devolucion, con
     bases.camVentTotal = devolucion.total;
     bases.datVentas.Refresh();
     MarcarFactura(bases, devolucion);
-    transaccion.Confirmar();
 }
 
 bool EsContado(const ListaTexto &estado, int fila) {

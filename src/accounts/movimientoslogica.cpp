@@ -1,6 +1,7 @@
 // Receipts and returns of the accounts window.
 #include "accounts/estadoslogica.h"
 #include "accounts/movimientonuevo.h"
+#include "desktop/almacenar.h"
 #include "desktop/preguntas.h"
 #include "desktop/reloj.h"
 #include "documents/impresoras.h"
@@ -89,12 +90,12 @@ void EstadosLogica::AgregarRecibo() {
     const std::optional<ClienteElegido> cliente = ClienteDelMovimiento();
     if (!cliente)
         return;
-    try {
-        GuardarRecibo(servicios_.frmBases, cliente->id, total, servicios_.reloj.Ahora());
-    } catch (const ErrorDatos &error) {
-        Critico(error.Descripcion() + QStringLiteral("\n\nEl recibo no se guardó."));
+    const bool guardado = Almacenar(
+        servicios_.frmBases, servicios_.preguntas, {QStringLiteral("Recibo"), cliente->id, total},
+        [&] { EscribirRecibo(servicios_.frmBases, cliente->id, total, servicios_.reloj.Ahora()); },
+        QStringLiteral("El recibo no se guardó."));
+    if (!guardado)
         return;
-    }
     OfrecerRecibo(total);
     TerminarRecibo();
     ConstruirEstado();
@@ -174,13 +175,14 @@ bool EstadosLogica::DevolverFila(int fila, const QString &idCliente) {
     const auto devuelto = DevolucionDe(Visible(), pantalla_.lista, fila, idCliente);
     if (!devuelto)
         return true;
-    try {
-        GuardarDevolucion(servicios_.frmBases, *devuelto, servicios_.reloj.Ahora());
-    } catch (const ErrorDatos &error) {
-        Critico(error.Descripcion() + QStringLiteral("\n\nNo se guardó la devolución de: %1 - %2 - %3")
-                                          .arg(devuelto->fecha, devuelto->hora, devuelto->detalle));
+    const bool guardada = Almacenar(
+        servicios_.frmBases, servicios_.preguntas,
+        {QStringLiteral("Devolución"), idCliente, devuelto->descripcion, devuelto->total},
+        [&] { EscribirDevolucion(servicios_.frmBases, *devuelto, servicios_.reloj.Ahora()); },
+        QStringLiteral("No se guardó la devolución de: %1 - %2 - %3")
+            .arg(devuelto->fecha, devuelto->hora, devuelto->detalle));
+    if (!guardada)
         return false;
-    }
     ListaVisible().Marcar(fila, false);
     return OfrecerComprobante(*devuelto);
 }

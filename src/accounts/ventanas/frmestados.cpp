@@ -3,6 +3,7 @@
 #include "desktop/anfitrion.h"
 #include "desktop/reloj.h"
 #include "desktop/ventanas/filtrocampos.h"
+#include "desktop/ventanas/solocaracteres.h"
 #include "masterdata/ventanas/picclientes.h"
 #include "ui_frmestados.h"
 

@@ -1,5 +1,6 @@
 #include "shell/ventanas/composicion.h"
 
+#include "accounts/ventanas/frmestados.h"
 #include "config/ventanas/frmconfig.h"
 #include "desktop/preguntas.h"
 #include "masterdata/ventanas/frmarticulos.h"
@@ -50,12 +51,19 @@ Composicion Componer(const Servicios &servicios) {
     Composicion composicion;
     composicion.modulos = {
         {Modulo::Ventas, Fabrica<FrmVentas>(servicios)},
+        {Modulo::Estados, Fabrica<FrmEstados>(servicios)},
         {Modulo::Articulos, Fabrica<FrmArticulos>(servicios)},
         {Modulo::Clientes, Fabrica<FrmClientes>(servicios)},
         {Modulo::Proveedores, Fabrica<FrmProveedores>(servicios)},
     };
     composicion.opciones = [servicios](bool abrirDisenador, QWidget *padre) {
         FrmConfig(servicios, abrirDisenador, padre).exec();
+    };
+    composicion.devContado = [](VentanaModulo &estados) {
+        static_cast<FrmEstados &>(estados).EjecutarContado();
+    };
+    composicion.devCliente = [](VentanaModulo &estados) {
+        static_cast<FrmEstados &>(estados).EjecutarPorCliente();
     };
     composicion.exportar = [servicios](const Exportable &) {
         servicios.preguntas.Informar(QStringLiteral("La exportación no está disponible en esta versión."));
