@@ -2,13 +2,16 @@
 //
 //   emisor abrir CARPETA     opens the files: "estado archivo motivo"
 //   emisor vender CARPETA    one sale of ten articles in one transaction: "OK" when it is on disk, "ERROR"
-//                            else, and "CONSTA" with the sales and changed stocks that the cursors then show;
-//                            after an error once more on a healed disk, "ANTERIOR" when the first one turns
-//                            out to stand
+//                            else, and "CONSTA" with the new rows of Ventas, the changed stocks and the
+//                            marked invoices that the cursors then show; after an error once more on a healed
+//                            disk, "ANTERIOR" when the first one turns out to stand
+//   emisor recibir CARPETA   the same with a receipt
+//   emisor devolver CARPETA  the same with the return of the invoice 1, and its mark
 //   emisor retener CARPETA   opens the files when a byte comes in, insisting; tells "ABIERTO" or "OCUPADO"
 //   and
 //                            holds them until its input ends
 //   emisor instalar CARPETA  makes `Datos` in CARPETA on a first start
+#include "accounts/movimientonuevo.h"
 #include "store/errordatos.h"
 #include "store/instalacion.h"
 #include "store/store.h"
@@ -30,7 +33,6 @@ void Decir(const QString &linea) {
 }
 
 void Vender(FrmBases &bases) {
-    Transaccion transaccion(bases, {QStringLiteral("venta")});
     bases.datVentas.AddNew();
     bases.camVentTipo = QStringLiteral("Contado");
     bases.camVentTotal = QStringLiteral("$ 12,50");
@@ -41,7 +43,26 @@ void Vender(FrmBases &bases) {
         bases.camArtStock = QStringLiteral("vendido");
         bases.datArticulos.Refresh();
     }
-    transaccion.Confirmar();
+}
+
+void Recibir(FrmBases &bases) {
+    EscribirRecibo(bases, QStringLiteral("1"), QStringLiteral("$ 12,50"), QDateTime::currentDateTime());
+}
+
+void Devolver(FrmBases &bases) {
+    DocumentoDevuelto factura;
+    factura.tipo = QStringLiteral("DevContado");
+    factura.idFactura = QStringLiteral("1");
+    factura.marca = QStringLiteral("Factura contado (D)");
+    EscribirDevolucion(bases, factura, QDateTime::currentDateTime());
+}
+
+using Escritor = void (*)(FrmBases &);
+
+Escritor EscritorDe(const char *orden) {
+    if (std::strcmp(orden, "recibir") == 0)
+        return Recibir;
+    return std::strcmp(orden, "devolver") == 0 ? Devolver : Vender;
 }
 
 int Vendidos(FrmBases &bases) {
@@ -53,9 +74,20 @@ int Vendidos(FrmBases &bases) {
     return vendidos;
 }
 
-bool Intentar(FrmBases &bases) {
+int Marcadas(FrmBases &bases) {
+    int marcadas = 0;
+    Recorrer(bases.datVentas, [&] {
+        marcadas += bases.camVentDescripcion.Es("Factura contado (D)") ? 1 : 0;
+        return false;
+    });
+    return marcadas;
+}
+
+bool Intentar(FrmBases &bases, Escritor escribir) {
     try {
-        Vender(bases);
+        Transaccion transaccion(bases, {QStringLiteral("operación")});
+        escribir(bases);
+        transaccion.Confirmar();
         Decir(QStringLiteral("OK"));
         return true;
     } catch (const OperacionAnterior &anterior) {
@@ -74,7 +106,10 @@ void SanarDisco() {
 }
 
 void Contar(FrmBases &bases) {
-    Decir(QStringLiteral("CONSTA %1 %2").arg(bases.datVentas.RecordCount()).arg(Vendidos(bases)));
+    Decir(QStringLiteral("CONSTA %1 %2 %3")
+              .arg(bases.datVentas.RecordCount() - 1)
+              .arg(Vendidos(bases))
+              .arg(Marcadas(bases)));
 }
 
 // Opens when the word comes, tells the state, and holds what is open until its input ends.
@@ -95,10 +130,11 @@ int ConBases(const char *orden, FrmBases &bases) {
                   .arg(apertura.archivo, apertura.motivo));
         return 0;
     }
-    const bool hecho = Intentar(bases);
+    const Escritor escribir = EscritorDe(orden);
+    const bool hecho = Intentar(bases, escribir);
     SanarDisco();
     Contar(bases);
-    if (!hecho && Intentar(bases))
+    if (!hecho && Intentar(bases, escribir))
         Contar(bases);
     return 0;
 }

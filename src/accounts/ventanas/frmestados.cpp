@@ -3,6 +3,7 @@
 #include "desktop/anfitrion.h"
 #include "desktop/reloj.h"
 #include "desktop/ventanas/filtrocampos.h"
+#include "desktop/ventanas/listavista.h"
 #include "desktop/ventanas/solocaracteres.h"
 #include "masterdata/ventanas/picclientes.h"
 #include "ui_frmestados.h"
@@ -18,6 +19,22 @@ constexpr int kDetalleMenor = 600; // twips, on the narrowest screens
 
 QString TextoMovimientos(int filas) {
     return filas == 1 ? QStringLiteral("1 movimiento") : QStringLiteral("%1 movimientos").arg(filas);
+}
+
+// What the visible list says while it has no rows.
+QString TextoVacio(const PantallaEstados &pantalla) {
+    if (pantalla.devolucion)
+        return QStringLiteral("No hay documentos para devolver.");
+    switch (pantalla.lista) {
+    case ListaCuenta::Contado:
+        return QStringLiteral("Todavía no hay ventas contado.");
+    case ListaCuenta::Caja:
+        return QStringLiteral("No hay movimientos en ese período.");
+    case ListaCuenta::Estado:
+        break;
+    }
+    return pantalla.conCliente ? QStringLiteral("Este cliente no tiene movimientos.")
+                               : QStringLiteral("Seleccione un cliente para ver su estado de cuenta.");
 }
 
 } // namespace
@@ -106,6 +123,7 @@ void FrmEstados::Mostrar(const PantallaEstados &pantalla) {
 void FrmEstados::MostrarLista(const PantallaEstados &pantalla) {
     for (const ListaCuenta cual : kListasCuenta)
         Vista(cual)->setVisible(cual == pantalla.lista);
+    Vista(pantalla.lista)->PonerTextoVacio(TextoVacio(pantalla));
     AjustarColumnas();
 }
 
