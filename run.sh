@@ -2,7 +2,7 @@
 # Tarvo on a sample shop: on the screen, or without one a walk through a sale.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")"
-echo "run.sh: compila Tarvo y lo abre con una tienda de muestra; sin pantalla hace una venta y la deja en salida/."
+echo "run.sh: compila Tarvo y lo abre con una tienda de muestra; sin pantalla hace una venta, un recibo y una devolución y los deja en salida/."
 source tools/paquetes.sh
 
 InstalarPaquetes "${PAQUETES_COMPILAR[@]}" "${PAQUETES_PANTALLA[@]}"

@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
-# One sale in the real program, by real keys on a screen of its own, on a fresh sample shop; exports, a backup that
-# empties the sales, and their restore. Leaves the pictures of each stage, the exported files, the ticket and the row
-# of the sale in salida/, and fails when anything is not as it must be.
+# One sale in the real program, by real keys on a screen of its own, on a fresh sample shop; then its customer's
+# statement, a receipt, the return of the sale, the cash list and the cash sheet of the day; exports, a backup that empties
+# the sales, and their restore. Leaves the pictures of each stage, everything printed or exported and the new rows in
+# salida/, and fails when anything is not as it must be.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 source tools/pantalla.sh
@@ -9,9 +10,15 @@ source tools/pantalla.sh
 readonly SALIDA=$PWD/salida CARPETA=$PWD/build/recorrido NUMERO=0001-00009001
 rm -rf "$SALIDA" "$CARPETA"
 mkdir -p "$SALIDA" "$CARPETA/ajustes" "$CARPETA/registros"
-mkdir "$CARPETA/Respaldo"
 cp build/release/tarvo "$CARPETA/tarvo"
 build/release/muestra "$CARPETA"
+
+# A picture of the screen, numbered in the order of the walk.
+FOTOS=0
+Retrato() {
+    FOTOS=$((FOTOS + 1))
+    Foto "$SALIDA/$(printf %02d "$FOTOS")-$1.png"
+}
 
 Consultar() { sqlite3 "$CARPETA/Datos/$1.mdb" "$2"; }
 
@@ -33,14 +40,14 @@ AbrirPantalla 1280x900 "$CARPETA/registros"
 XDG_CONFIG_HOME="$CARPETA/ajustes" QT_QPA_PLATFORM=xcb Iniciar "$CARPETA/tarvo"
 HaySplash() { [ -n "$(VentanasVisibles)" ]; }
 Esperar 20 "el splash" HaySplash
-Foto "$SALIDA/01-splash.png"
+Retrato splash
 Esperar 30 "la ventana principal" VentanaPrincipal
 EsperarPrincipal
-Foto "$SALIDA/02-principal.png"
+Retrato principal
 
 # The sale: two scans of one unit; of the third article four units.
 Tecla F8
-Foto "$SALIDA/03-ventas.png"
+Retrato ventas
 for barra in "${BARRAS[0]}" "${BARRAS[1]}"; do
     Escribir "$barra"
     Tecla Return Return
@@ -48,17 +55,17 @@ done
 Escribir "${BARRAS[2]}"
 Tecla Return shift+Tab
 Escribir 4
-Foto "$SALIDA/04-cantidad.png"
+Retrato cantidad
 Tecla Return
-Foto "$SALIDA/05-lineas.png"
+Retrato lineas
 
 # The customer: from the search field on to the button, then search and accept in the panel.
 Tecla Tab Tab Tab Tab Tab Tab Tab space
 Escribir "${CLIENTE#*|}"
 Tecla Return
-Foto "$SALIDA/06-clientes.png"
+Retrato clientes
 Tecla Tab Tab Tab space
-Foto "$SALIDA/07-cliente.png"
+Retrato cliente
 
 # Discount, and back from there: seller, document number, credit.
 Tecla alt+d
@@ -66,44 +73,90 @@ Escribir 10
 Tecla shift+Tab Down shift+Tab
 Escribir "$NUMERO"
 Tecla shift+Tab space
-Foto "$SALIDA/08-completa.png"
+Retrato completa
 
-Tecla ctrl+Return
+# From the discount on to the button that issues.
+Tecla alt+d Tab space
 EsperarCuadro "la confirmación"
-Foto "$SALIDA/09-confirma.png"
+Retrato confirma
 Tecla Return
 EsperarCuadro "la pregunta por el ticket"
-Foto "$SALIDA/10-ticket.png"
+Retrato ticket
 Tecla Return
 EsperarCuadro "el mensaje de éxito"
-Foto "$SALIDA/11-exito.png"
+Retrato exito
 Tecla Return
 EsperarPrincipal
-Foto "$SALIDA/12-emitida.png"
+Retrato emitida
+
+# The statement of that customer: from the list, which has the focus, back to the search field and to the list again.
+Tecla F7
+Retrato cuentas
+Tecla Return
+Retrato elegir
+Tecla shift+Tab shift+Tab
+Escribir "${CLIENTE#*|}"
+Tecla Return Tab Tab Return
+Retrato estado
+
+# A receipt with its slip.
+Tecla Tab Return
+Escribir 25,50
+Retrato importe
+Tecla Return Return
+EsperarCuadro "la pregunta por el recibo"
+Retrato recibo
+Tecla Return
+EsperarPrincipal
+Retrato cobrado
+
+# The return of the sale, the newest invoice, with its slip.
+Tecla Tab Tab Tab space End space
+Retrato devolver
+Tecla Tab Return
+EsperarCuadro "la pregunta por el comprobante"
+Retrato comprobante
+Tecla Return
+EsperarPrincipal
+Retrato devuelto
+
+# The cash list; then the cash sheet of today, from the first of its dates on to the button, and back to the buttons.
+Tecla shift+Tab shift+Tab space
+Retrato contado
+Tecla Tab space
+Tecla Return Return Return Return Return
+Retrato caja
+Tecla $(printf 'shift+Tab %.0s' {1..12}) space
+Retrato caja-botones
+Tecla Tab Tab space
+EsperarCuadro "la pregunta por la planilla"
+Retrato planilla
+Tecla Return
+EsperarPrincipal
 
 # The other windows, as they stand.
 Modulo() {
     Tecla "$1"
-    Foto "$SALIDA/$2.png"
+    Retrato "$2"
 }
 # Exports the list on screen to that file of salida/.
 Exportar() {
     Tecla ctrl+F6
     EsperarCuadro "el diálogo de exportar"
     Escribir "$SALIDA/$1"
-    [ -z "${2:-}" ] || Foto "$SALIDA/$2.png"
+    [ -z "${2:-}" ] || Retrato "$2"
     Tecla Return
     EsperarPrincipal
     Esperar 10 "el archivo $1" test -s "$SALIDA/$1"
 }
-Modulo F2 13-articulos
+Modulo F2 articulos
 Exportar articulos.xls
-Exportar articulos.txt 13-exportar
-Modulo F3 14-proveedores
-Modulo F4 15-clientes
+Exportar articulos.txt exportar
+Modulo F3 proveedores
+Modulo F4 clientes
 Tecla F4 F9
 EsperarCuadro "las opciones"
-Foto "$SALIDA/16-opciones.png"
+Retrato opciones
 Tecla Escape
 EsperarPrincipal
 
@@ -111,7 +164,7 @@ EsperarPrincipal
 Seleccionada() { [ "$(xdotool getactivewindow)" = "$RESPALDO" ]; }
 Aceptar() {
     EsperarCuadro "$1"
-    Foto "$SALIDA/$2.png"
+    Retrato "$2"
     Tecla "${@:3}"
     Esperar 10 "la vuelta a la ventana de respaldo" Seleccionada
 }
@@ -119,22 +172,22 @@ Tecla F6
 EsperarCuadro "la ventana de respaldo"
 readonly RESPALDO=$CUADRO
 Tecla Tab Tab Tab Tab Tab space
-Aceptar "el aviso de que se vaciarán las ventas" 17-vaciar Return
-Foto "$SALIDA/18-respaldar.png"
+Aceptar "el aviso de que se vaciarán las ventas" vaciar Return
+Retrato respaldar
 Tecla Tab Tab Tab Tab Tab Tab Tab Tab Tab space
-Aceptar "el éxito del respaldo" 19-respaldado Return
+Aceptar "el éxito del respaldo" respaldado Return
 COPIA=$(find "$CARPETA/Respaldo" -mindepth 1 -type d)
 [ "$(find "$COPIA" -name '*.mdb' | wc -l)" -eq 5 ] || Fallar "el respaldo no tiene los cinco archivos"
-[ "$(sqlite3 "$COPIA/ventas.mdb" 'SELECT count(*) FROM Ventas')" -eq $((VENTAS + 1)) ] ||
+[ "$(sqlite3 "$COPIA/ventas.mdb" 'SELECT count(*) FROM Ventas')" -eq $((VENTAS + 3)) ] ||
     Fallar "faltan ventas en el respaldo"
 cmp -s "$CARPETA/Datos/ventas.mdb" "$CARPETA/Datos/vacio/ventas.mdb" || Fallar "las ventas no quedaron vacías"
 Tecla Down Tab Tab Tab Tab Tab space
-Foto "$SALIDA/20-recuperar.png"
+Retrato recuperar
 Tecla Tab Tab Tab Tab space
 EsperarCuadro "la pregunta de la recuperación"
-Foto "$SALIDA/21-pregunta.png"
+Retrato pregunta
 Tecla Tab space
-Aceptar "el éxito de la recuperación" 22-recuperado Return
+Aceptar "el éxito de la recuperación" recuperado Return
 Tecla Escape
 EsperarPrincipal
 
@@ -144,9 +197,15 @@ Esperar 15 "el fin del programa" Terminado
 wait "$PROGRAMA" || Fallar "el programa terminó con error"
 
 # What the files hold now.
-[ "$(Consultar ventas 'SELECT count(*) FROM Ventas')" -eq $((VENTAS + 1)) ] || Fallar "no hay una venta más"
-Consultar ventas "SELECT idcliente, tipo, descripcion, numcomp, idoperador FROM Ventas ORDER BY id DESC LIMIT 1" |
-    grep -qx "${CLIENTE%%|*}|Credito|Factura crédito|$NUMERO|1" || Fallar "la fila de la venta no es la esperada"
+[ "$(Consultar ventas 'SELECT count(*) FROM Ventas')" -eq $((VENTAS + 3)) ] || Fallar "no hay tres filas más"
+Nueva() { Consultar ventas "SELECT idcliente, tipo, descripcion, numcomp, idoperador FROM Ventas WHERE id = $((VENTAS + $1))"; }
+Exigir() { [ "$1" = "$2" ] || Fallar "la fila nueva es $1, se esperaba $2"; }
+readonly ID=${CLIENTE%%|*}
+MOMENTO=$(Consultar ventas "SELECT fecha || ' - ' || hora FROM Ventas WHERE numcomp = '$NUMERO'")
+Exigir "$(Nueva 1)" "$ID|Credito|Factura crédito|$NUMERO|1"
+Exigir "$(Nueva 2)" "$ID|Recibo|Recibo||"
+Exigir "$(Nueva 3)" "$ID|NotaCredito|Nota de crédito ($MOMENTO)||"
+[ "$(Consultar ventas "SELECT total FROM Ventas WHERE id = $((VENTAS + 2))")" = '$ 25,50' ] || Fallar "el recibo es de otro importe"
 DESPUES=$(Existencias)
 esperadas=$(awk '{ print $1 - 1, $2 - 1, $3 - 4 }' <<<"$ANTES")
 [ "$DESPUES" = "$esperadas" ] || Fallar "existencias $DESPUES, se esperaban $esperadas"
@@ -156,14 +215,20 @@ esperadas=$(awk '{ print $1 - 1, $2 - 1, $3 - 4 }' <<<"$ANTES")
     Fallar "el texto exportado no tiene todos los artículos"
 [ "$(head -c 8 "$SALIDA/articulos.xls" | od -An -tx1 | tr -d ' \n')" = 0900040002000a00 ] || Fallar "la hoja exportada no empieza bien"
 
-ticket=("$CARPETA"/Impresos/*.pdf)
-[ -s "${ticket[0]}" ] || Fallar "no hay ticket en Impresos"
-cp "${ticket[0]}" "$SALIDA/ticket.pdf"
-pdftoppm -png -r 150 -singlefile "$SALIDA/ticket.pdf" "$SALIDA/ticket"
-pdftotext -layout "$SALIDA/ticket.pdf" - | grep -q 'Total c/Descuento' || Fallar "el ticket no tiene total"
+# Imprimido <beginning of the file's name> <name of the picture> <text that must stand on it>
+Imprimido() {
+    local papel=("$CARPETA"/Impresos/"$1"*.pdf)
+    [ -s "${papel[0]}" ] || Fallar "no hay $1 en Impresos"
+    cp "${papel[0]}" "$SALIDA/$2.pdf"
+    pdftoppm -png -r 150 -singlefile "$SALIDA/$2.pdf" "$SALIDA/$2"
+    pdftotext -layout "$SALIDA/$2.pdf" - | grep -q "$3" || Fallar "$2 no dice: $3"
+}
+Imprimido factura ticket 'Total c/Descuento'
+Imprimido recibo recibo '25,50'
+Imprimido nota nota-de-credito 'Nota de crédito'
+Imprimido planilla planilla-de-caja 'PLANILLA DE CAJA'
 
-sqlite3 -header -line "$CARPETA/Datos/ventas.mdb" 'SELECT * FROM Ventas ORDER BY id DESC LIMIT 1' |
-    tee "$SALIDA/venta.txt"
+sqlite3 -header -line "$CARPETA/Datos/ventas.mdb" "SELECT * FROM Ventas WHERE id > $VENTAS" | tee "$SALIDA/filas.txt"
 echo "Existencias: antes $ANTES, después $DESPUES"
-echo "Imágenes, ticket y fila de la venta: $SALIDA"
+echo "Imágenes, papeles y filas nuevas: $SALIDA"
 echo "Programa y datos del recorrido: $CARPETA"

@@ -2,7 +2,6 @@
 
 #include "desktop/reloj.h"
 #include "store/store.h"
-#include "store/transaccion.h"
 
 namespace tarvo {
 
@@ -48,20 +47,18 @@ void MarcarFactura(FrmBases &bases, const DocumentoDevuelto &devolucion) {
 
 } // namespace
 
-void GuardarRecibo(FrmBases &bases, const QString &idCliente, const QString &total,
+void EscribirRecibo(FrmBases &bases, const QString &idCliente, const QString &total,
                    const QDateTime &momento) {
-    Transaccion transaccion(bases);
     EmpezarFila(bases, momento);
     bases.camVentDescripcion = QStringLiteral("Recibo");
     bases.camVentIdCliente = idCliente;
     bases.camVentTipo = QStringLiteral("Recibo");
     bases.camVentTotal = total;
     bases.datVentas.Refresh();
-    transaccion.Confirmar();
 }
 
 std::optional<DocumentoDevuelto> DevolucionDe(const ListaTexto &lista, ListaCuenta cual, int fila,
-                                       const QString &idCliente) {
+                                              const QString &idCliente) {
     const std::string_view detalle = lista.CeldaUtf8(fila, movimiento::Detalle);
     const auto *const regla = std::ranges::find_if(
         kReglas, [&](const ReglaDevolucion &r) { return r.cual == cual && r.detalle == detalle; });
@@ -70,16 +67,16 @@ std::optional<DocumentoDevuelto> DevolucionDe(const ListaTexto &lista, ListaCuen
     const QString fecha = lista.Celda(fila, movimiento::Fecha);
     const QString hora = lista.Celda(fila, movimiento::Hora);
     return DocumentoDevuelto{.fecha = fecha,
-                      .hora = hora,
-                      .detalle = lista.Celda(fila, movimiento::Detalle),
-                      .tipo = QString::fromUtf8(regla->tipo),
-                      .descripcion = QString::fromUtf8(regla->descripcion).arg(fecha, hora),
-                      .idCliente = cual == ListaCuenta::Contado ? QStringLiteral("0") : idCliente,
-                      .total = lista.Celda(fila, regla->columnaTotal),
-                      .titulo = QString::fromUtf8(regla->titulo),
-                      .importe = lista.Celda(fila, regla->columnaImporte),
-                      .idFactura = lista.Celda(fila, regla->columnaId),
-                      .marca = QString::fromUtf8(regla->marca)};
+                             .hora = hora,
+                             .detalle = lista.Celda(fila, movimiento::Detalle),
+                             .tipo = QString::fromUtf8(regla->tipo),
+                             .descripcion = QString::fromUtf8(regla->descripcion).arg(fecha, hora),
+                             .idCliente = cual == ListaCuenta::Contado ? QStringLiteral("0") : idCliente,
+                             .total = lista.Celda(fila, regla->columnaTotal),
+                             .titulo = QString::fromUtf8(regla->titulo),
+                             .importe = lista.Celda(fila, regla->columnaImporte),
+                             .idFactura = lista.Celda(fila, regla->columnaId),
+                             .marca = QString::fromUtf8(regla->marca)};
 }
 
 bool NoSeDevuelve(const ListaTexto &lista, ListaCuenta cual, int fila) {
@@ -89,8 +86,7 @@ bool NoSeDevuelve(const ListaTexto &lista, ListaCuenta cual, int fila) {
     return cual == ListaCuenta::Estado && (detalle.starts_with("Nota") || detalle == "Recibo");
 }
 
-void GuardarDevolucion(FrmBases &bases, const DocumentoDevuelto &devolucion, const QDateTime &momento) {
-    Transaccion transaccion(bases);
+void EscribirDevolucion(FrmBases &bases, const DocumentoDevuelto &devolucion, const QDateTime &momento) {
     EmpezarFila(bases, momento);
     bases.camVentDescripcion = devolucion.descripcion;
     bases.camVentIdCliente = devolucion.idCliente;
@@ -98,7 +94,6 @@ void GuardarDevolucion(FrmBases &bases, const DocumentoDevuelto &devolucion, con
     bases.camVentTotal = devolucion.total;
     bases.datVentas.Refresh();
     MarcarFactura(bases, devolucion);
-    transaccion.Confirmar();
 }
 
 bool EsContado(const ListaTexto &estado, int fila) {

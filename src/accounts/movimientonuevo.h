@@ -1,7 +1,7 @@
 // The rows that the accounts window adds to Ventas: receipts, returns and credit notes. Each is one
 // transaction; a return's row and the mark on its invoice are one.
 //
-// The writes throw ErrorDatos; then nothing of them is in the files.
+// The writes run inside the transaction that is open, and throw ErrorDatos.
 #pragma once
 
 #include "accounts/listascuenta.h"
@@ -15,7 +15,7 @@ namespace tarvo {
 class FrmBases;
 
 // A payment on account; `total` is money text.
-void GuardarRecibo(FrmBases &bases, const QString &idCliente, const QString &total, const QDateTime &momento);
+void EscribirRecibo(FrmBases &bases, const QString &idCliente, const QString &total, const QDateTime &momento);
 
 // A document of a list that is taken back whole.
 struct DocumentoDevuelto {
@@ -43,11 +43,11 @@ struct DocumentoDevuelto {
 // amount. `idFactura` too comes from fixed columns, which hold no id: the mark is not written, and an invoice
 // can be taken back more than once. Both are how the shop's files have always been kept, they stay.
 std::optional<DocumentoDevuelto> DevolucionDe(const ListaTexto &lista, ListaCuenta cual, int fila,
-                                       const QString &idCliente);
+                                              const QString &idCliente);
 // Row `fila` has nothing to take back and leaves the list while documents are chosen.
 bool NoSeDevuelve(const ListaTexto &lista, ListaCuenta cual, int fila);
 
-void GuardarDevolucion(FrmBases &bases, const DocumentoDevuelto &devolucion, const QDateTime &momento);
+void EscribirDevolucion(FrmBases &bases, const DocumentoDevuelto &devolucion, const QDateTime &momento);
 
 // Row `fila` of the statement is a cash document: an invoice, marked or not, or its return.
 bool EsContado(const ListaTexto &estado, int fila);

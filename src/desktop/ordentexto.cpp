@@ -42,6 +42,15 @@ bool SencilloMenor(std::string_view a, std::string_view b) {
                                         [](char x, char y) { return Peso(x) < Peso(y); });
 }
 
+// The first row of each run of equal neighbours.
+std::vector<std::int64_t> Tramos(const ColumnaTexto &columna) {
+    std::vector<std::int64_t> tramos;
+    for (std::int64_t fila = 0; fila < columna.Filas(); ++fila)
+        if (fila == 0 || columna.Celda(fila) != columna.Celda(fila - 1))
+            tramos.push_back(fila);
+    return tramos;
+}
+
 // Ranks of rows of which `menor` tells whether one stands before another.
 template <typename Menor> std::vector<std::uint32_t> RangosPor(std::size_t filas, Menor menor) {
     std::vector<std::uint32_t> orden(filas);
@@ -62,17 +71,29 @@ template <typename Menor> std::vector<std::uint32_t> RangosPor(std::size_t filas
 
 } // namespace
 
+// Neighbours are often equal (dates stand in their order in most tables), and a run of them is ranked once.
 std::vector<std::uint32_t> OrdenTexto::Rangos(const ColumnaTexto &columna) const {
-    const auto filas = static_cast<std::size_t>(columna.Filas());
+    const std::vector<std::int64_t> tramos = Tramos(columna);
+    const std::vector<std::uint32_t> rangosTramo = RangosTramos(columna, tramos);
+    std::vector<std::uint32_t> rangos(static_cast<std::size_t>(columna.Filas()));
+    for (std::size_t tramo = 0; tramo < tramos.size(); ++tramo) {
+        const std::int64_t fin = tramo + 1 < tramos.size() ? tramos[tramo + 1] : columna.Filas();
+        std::fill(rangos.begin() + tramos[tramo], rangos.begin() + fin, rangosTramo[tramo]);
+    }
+    return rangos;
+}
+
+std::vector<std::uint32_t> OrdenTexto::RangosTramos(const ColumnaTexto &columna,
+                                                    const std::vector<std::int64_t> &tramos) const {
     if (TodosSencillos(columna))
-        return RangosPor(filas, [&](std::uint32_t a, std::uint32_t b) {
-            return SencilloMenor(columna.Celda(a), columna.Celda(b));
+        return RangosPor(tramos.size(), [&](std::uint32_t a, std::uint32_t b) {
+            return SencilloMenor(columna.Celda(tramos[a]), columna.Celda(tramos[b]));
         });
     std::vector<QCollatorSortKey> claves;
-    claves.reserve(filas);
-    for (std::size_t i = 0; i < filas; ++i)
-        claves.push_back(comparador_.sortKey(columna.Texto(static_cast<std::int64_t>(i))));
-    return RangosPor(filas,
+    claves.reserve(tramos.size());
+    for (const std::int64_t fila : tramos)
+        claves.push_back(comparador_.sortKey(columna.Texto(fila)));
+    return RangosPor(tramos.size(),
                      [&](std::uint32_t a, std::uint32_t b) { return claves[a].compare(claves[b]) < 0; });
 }
 

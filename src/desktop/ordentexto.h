@@ -23,6 +23,8 @@ class OrdenTexto {
     std::vector<std::uint32_t> Rangos(const ColumnaTexto &columna) const;
 
   private:
+    std::vector<std::uint32_t> RangosTramos(const ColumnaTexto &columna,
+                                            const std::vector<std::int64_t> &tramos) const;
     QCollator comparador_;
 };
 

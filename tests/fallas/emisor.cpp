@@ -2,14 +2,16 @@
 //
 //   emisor abrir CARPETA     opens the files: "estado archivo motivo"
 //   emisor vender CARPETA    one sale of ten articles in one transaction: "OK" when it is on disk, "ERROR"
-//                            else, and "CONSTA" with the sales and changed stocks that the cursors then show;
-//                            after an error once more on a healed disk, "ANTERIOR" when the first one turns
-//                            out to stand
-//   emisor otra CARPETA      the same, but the second try is another operation: "OTRA"
+//                            else, and "CONSTA" with the new rows of Ventas, the changed stocks and the
+//                            marked invoices that the cursors then show; after an error once more on a healed
+//                            disk, "ANTERIOR" when the first one turns out to stand
+//   emisor otra CARPETA      the same with a sale, but the second try is another operation: "OTRA"
+//   emisor recibir CARPETA   the same with a receipt
+//   emisor devolver CARPETA  the same with the return of the invoice 1, and its mark
 //   emisor retener CARPETA   opens the files when a byte comes in, insisting; tells "ABIERTO" or "OCUPADO"
-//   and
-//                            holds them until its input ends
+//                            and holds them until its input ends
 //   emisor instalar CARPETA  makes `Datos` in CARPETA on a first start
+#include "accounts/movimientonuevo.h"
 #include "store/errordatos.h"
 #include "store/instalacion.h"
 #include "store/store.h"
@@ -30,8 +32,7 @@ void Decir(const QString &linea) {
     std::fflush(stdout);
 }
 
-void Vender(FrmBases &bases, const QString &operacion) {
-    Transaccion transaccion(bases, {operacion});
+void Vender(FrmBases &bases) {
     bases.datVentas.AddNew();
     bases.camVentTipo = QStringLiteral("Contado");
     bases.camVentTotal = QStringLiteral("$ 12,50");
@@ -42,7 +43,26 @@ void Vender(FrmBases &bases, const QString &operacion) {
         bases.camArtStock = QStringLiteral("vendido");
         bases.datArticulos.Refresh();
     }
-    transaccion.Confirmar();
+}
+
+void Recibir(FrmBases &bases) {
+    EscribirRecibo(bases, QStringLiteral("1"), QStringLiteral("$ 12,50"), QDateTime::currentDateTime());
+}
+
+void Devolver(FrmBases &bases) {
+    DocumentoDevuelto factura;
+    factura.tipo = QStringLiteral("DevContado");
+    factura.idFactura = QStringLiteral("1");
+    factura.marca = QStringLiteral("Factura contado (D)");
+    EscribirDevolucion(bases, factura, QDateTime::currentDateTime());
+}
+
+using Escritor = void (*)(FrmBases &);
+
+Escritor EscritorDe(const char *orden) {
+    if (std::strcmp(orden, "recibir") == 0)
+        return Recibir;
+    return std::strcmp(orden, "devolver") == 0 ? Devolver : Vender;
 }
 
 int Vendidos(FrmBases &bases) {
@@ -54,9 +74,20 @@ int Vendidos(FrmBases &bases) {
     return vendidos;
 }
 
-bool Intentar(FrmBases &bases, const char *operacion) {
+int Marcadas(FrmBases &bases) {
+    int marcadas = 0;
+    Recorrer(bases.datVentas, [&] {
+        marcadas += bases.camVentDescripcion.Es("Factura contado (D)") ? 1 : 0;
+        return false;
+    });
+    return marcadas;
+}
+
+bool Intentar(FrmBases &bases, Escritor escribir, const char *operacion) {
     try {
-        Vender(bases, QString::fromUtf8(operacion));
+        Transaccion transaccion(bases, {QString::fromUtf8(operacion)});
+        escribir(bases);
+        transaccion.Confirmar();
         Decir(QStringLiteral("OK"));
         return true;
     } catch (const OperacionAnterior &anterior) {
@@ -75,7 +106,10 @@ void SanarDisco() {
 }
 
 void Contar(FrmBases &bases) {
-    Decir(QStringLiteral("CONSTA %1 %2").arg(bases.datVentas.RecordCount()).arg(Vendidos(bases)));
+    Decir(QStringLiteral("CONSTA %1 %2 %3")
+              .arg(bases.datVentas.RecordCount() - 1)
+              .arg(Vendidos(bases))
+              .arg(Marcadas(bases)));
 }
 
 // Opens when the word comes, tells the state, and holds what is open until its input ends.
@@ -96,10 +130,11 @@ int ConBases(const char *orden, FrmBases &bases) {
                   .arg(apertura.archivo, apertura.motivo));
         return 0;
     }
-    const bool hecho = Intentar(bases, "vender");
+    const Escritor escribir = EscritorDe(orden);
+    const bool hecho = Intentar(bases, escribir, "primera");
     SanarDisco();
     Contar(bases);
-    if (!hecho && Intentar(bases, orden))
+    if (!hecho && Intentar(bases, escribir, std::strcmp(orden, "otra") == 0 ? orden : "primera"))
         Contar(bases);
     return 0;
 }

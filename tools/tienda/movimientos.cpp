@@ -1,5 +1,6 @@
 #include "tienda/movimientos.h"
 
+#include <algorithm>
 #include <cstdio>
 
 using namespace std::string_literals;
@@ -7,7 +8,8 @@ using namespace std::string_literals;
 namespace tarvo {
 
 namespace {
-constexpr int kDias = 365;
+constexpr int kDias = 3 * 365;
+constexpr int kHabituales = 6;
 constexpr int kMinutosApertura = 9 * 60;
 constexpr int kMinutosAbierto = 11 * 60;
 } // namespace
@@ -30,11 +32,11 @@ const Movimiento &Movimientos::Hacer(int indice) {
     else if (clientes_ > 0 && sorteo_.Cae(8))
         HacerRecibo();
     else
-        HacerVenta(quedan > pendientes + 1 && sorteo_.Cae(2));
+        HacerVenta(quedan > pendientes + 1 && sorteo_.Cae(4));
     return actual_;
 }
 
-// The documents spread evenly over the year, and over the opening hours of each day.
+// The documents spread evenly over the years, and over the opening hours of each day.
 void Movimientos::PonerMomento(int indice) {
     const std::int64_t instante = std::int64_t{indice} * kDias * kMinutosAbierto / total_;
     const int dia = static_cast<int>(instante / kMinutosAbierto);
@@ -60,6 +62,11 @@ Movimientos::Importes Movimientos::SumarLineas() {
     return suma;
 }
 
+std::string Movimientos::Cliente() {
+    const bool habitual = sorteo_.Cae(50);
+    return std::to_string(sorteo_.Entre(1, habitual ? std::min(kHabituales, clientes_) : clientes_));
+}
+
 void Movimientos::HacerVenta(bool seDevuelve) {
     const bool conCliente = clientes_ > 0 && sorteo_.Cae(35);
     const bool contado = !conCliente || sorteo_.Cae(40);
@@ -67,7 +74,7 @@ void Movimientos::HacerVenta(bool seDevuelve) {
     const int descuento = sorteo_.Cae(10) ? 5 * sorteo_.Entre(1, 4) : 0;
     char numero[24];
     std::snprintf(numero, sizeof numero, "0001-%08d", ++comprobante_);
-    actual_.idCliente = conCliente ? std::to_string(sorteo_.Entre(1, clientes_)) : "0"s;
+    actual_.idCliente = conCliente ? Cliente() : "0"s;
     actual_.idOperador = std::to_string(sorteo_.Entre(1, vendedores_));
     actual_.numComp = numero;
     actual_.tipo = contado ? "Contado"s : "Credito"s;
@@ -83,7 +90,7 @@ void Movimientos::HacerVenta(bool seDevuelve) {
 }
 
 void Movimientos::HacerRecibo() {
-    actual_.idCliente = std::to_string(sorteo_.Entre(1, clientes_));
+    actual_.idCliente = Cliente();
     actual_.idOperador.clear();
     actual_.numComp.clear();
     actual_.tipo = "Recibo"s;

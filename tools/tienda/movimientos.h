@@ -1,5 +1,6 @@
-// A year of the sample shop's documents: cash and credit sales, receipts, returns and credit notes, in the
-// order of time, each with its mark on the sale that it takes back.
+// Three years of the sample shop's documents: cash and credit sales, receipts, returns and credit notes, in
+// the order of time, each with its mark on the sale that it takes back. The first few customers are regulars,
+// with a long history of every kind.
 #pragma once
 
 #include "store/moneda.h"
@@ -49,6 +50,7 @@ class Movimientos {
     void HacerVenta(bool seDevuelve);
     void HacerRecibo();
     void HacerDevolucion();
+    std::string Cliente();
     Importes SumarLineas();
     std::string Dinero(std::int64_t centimos) const;
 

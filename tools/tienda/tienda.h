@@ -1,5 +1,5 @@
-// A sample shop: the five files filled with goods, people and a year of documents, the same for the same size
-// and day. For trying the program out, for the tests of the whole program and for the benches.
+// A sample shop: the five files filled with goods, people and three years of documents, the same for the same
+// size and day. For trying the program out, for the tests of the whole program and for the benches.
 #pragma once
 
 #include "store/moneda.h"
@@ -12,7 +12,7 @@ namespace tarvo {
 struct MedidaTienda {
     int articulos = 400;
     int clientes = 60;
-    int ventas = 2000;
+    int ventas = 6000;
 };
 
 // Makes the folder `Datos` (with its templates in `vacio`) in `carpeta` and fills it, and beside it

@@ -1,5 +1,6 @@
 #include "shell/ventanas/composicion.h"
 
+#include "accounts/ventanas/frmestados.h"
 #include "config/ventanas/frmconfig.h"
 #include "interchange/mnuexportar.h"
 #include "interchange/ventanas/frmrespaldo.h"
@@ -51,6 +52,7 @@ Composicion Componer(const Servicios &servicios) {
     Composicion composicion;
     composicion.modulos = {
         {Modulo::Ventas, Fabrica<FrmVentas>(servicios)},
+        {Modulo::Estados, Fabrica<FrmEstados>(servicios)},
         {Modulo::Articulos, Fabrica<FrmArticulos>(servicios)},
         {Modulo::Clientes, Fabrica<FrmClientes>(servicios)},
         {Modulo::Proveedores, Fabrica<FrmProveedores>(servicios)},
@@ -61,6 +63,12 @@ Composicion Componer(const Servicios &servicios) {
     composicion.disenador = true;
     composicion.respaldo = [servicios](QWidget *padre) { FrmRespaldo(servicios, padre).exec(); };
     composicion.exportar = [servicios](const Exportable &lo) { mnuExportar(servicios.preguntas, lo); };
+    composicion.devContado = [](VentanaModulo &estados) {
+        static_cast<FrmEstados &>(estados).EjecutarContado();
+    };
+    composicion.devCliente = [](VentanaModulo &estados) {
+        static_cast<FrmEstados &>(estados).EjecutarPorCliente();
+    };
     return composicion;
 }
 
