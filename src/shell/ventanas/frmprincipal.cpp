@@ -28,6 +28,8 @@ FrmPrincipal::FrmPrincipal(const Servicios &servicios, const Composicion &compos
       carpetaPrograma_(std::move(carpetaPrograma)),
       pantalla_(*this, ajustes_),
       acciones_((ui_->setupUi(this), std::make_unique<Acciones>(*ui_->mnuBarra, *ui_->tbrPrincipal))),
+      atajos_(*acciones_, servicios.preguntas,
+              servicios.frmBases.CarpetaDatos() + QStringLiteral("/atajos.dat")),
       area_(std::make_unique<AreaModulos>(*ui_->area, *this, composicion)),
       conmutador_(*this, *area_, servicios.preguntas),
       Timer1(new QTimer(this)) {
@@ -40,6 +42,7 @@ FrmPrincipal::FrmPrincipal(const Servicios &servicios, const Composicion &compos
     connect(ui_->SB1, &BarraEstado::FabricantePulsado, this, [this] { Abrir(ajustes_.SitioFabricante()); });
     CrearManejadores();
     ConectarAcciones();
+    CrearAccionAtajos();
     AplicarAjustes();
     DesactivarSinVentana();
     PonerExportable(false);
@@ -56,6 +59,15 @@ void FrmPrincipal::ConectarAcciones() {
     const QMenu *const emergente = acciones_->Emergente();
     connect(emergente, &QMenu::hovered, this, [this](QAction *accion) { accion->showStatusText(this); });
     connect(emergente, &QMenu::aboutToHide, this, [this] { PonerAyudaEntrada(QString()); });
+}
+
+// The dialog of the keys stands in no menu.
+void FrmPrincipal::CrearAccionAtajos() {
+    auto *const accion = new QAction(QStringLiteral("Atajos de teclado"), this);
+    accion->setObjectName(QStringLiteral("atajos"));
+    accion->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_K));
+    connect(accion, &QAction::triggered, this, [this] { atajos_.Mostrar(this); });
+    addAction(accion);
 }
 
 void FrmPrincipal::CrearManejadores() {

@@ -8,6 +8,7 @@
 #include "desktop/servicios.h"
 #include "shell/ajustesprincipal.h"
 #include "shell/conmutador.h"
+#include "shell/ventanas/atajosprincipal.h"
 #include "shell/ventanas/pantallacompleta.h"
 
 #include <QMainWindow>
@@ -57,6 +58,7 @@ class FrmPrincipal : public QMainWindow, public Anfitrion, public TableroModulos
 
   private:
     void ConectarAcciones();
+    void CrearAccionAtajos();
     void CrearManejadores();
     void AplicarAjustes();
     void DesactivarSinVentana();
@@ -84,6 +86,7 @@ class FrmPrincipal : public QMainWindow, public Anfitrion, public TableroModulos
     QString carpetaPrograma_;
     PantallaCompleta pantalla_;
     std::unique_ptr<Acciones> acciones_;
+    AtajosPrincipal atajos_;
     std::unique_ptr<AreaModulos> area_;
     Conmutador conmutador_;
     QTimer *Timer1;
