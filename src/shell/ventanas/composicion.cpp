@@ -1,11 +1,14 @@
 #include "shell/ventanas/composicion.h"
 
+#include "accounts/ventanas/frmstats.h"
 #include "config/ventanas/frmconfig.h"
 #include "desktop/preguntas.h"
+#include "desktop/ventanas/frmcalc.h"
 #include "masterdata/ventanas/frmarticulos.h"
 #include "masterdata/ventanas/frmclientes.h"
 #include "masterdata/ventanas/frmproveedores.h"
 #include "sales/ventanas/frmventas.h"
+#include "store/store.h"
 
 #include <algorithm>
 
@@ -53,9 +56,13 @@ Composicion Componer(const Servicios &servicios) {
         {Modulo::Articulos, Fabrica<FrmArticulos>(servicios)},
         {Modulo::Clientes, Fabrica<FrmClientes>(servicios)},
         {Modulo::Proveedores, Fabrica<FrmProveedores>(servicios)},
+        {Modulo::Stats, Fabrica<FrmStats>(servicios)},
     };
     composicion.opciones = [servicios](bool abrirDisenador, QWidget *padre) {
         FrmConfig(servicios, abrirDisenador, padre).exec();
+    };
+    composicion.calculadora = [servicios](QWidget *padre) {
+        return new FrmCalc(servicios.frmBases.sDecimal(), padre);
     };
     composicion.exportar = [servicios](const Exportable &) {
         servicios.preguntas.Informar(QStringLiteral("La exportación no está disponible en esta versión."));
