@@ -112,6 +112,16 @@ QColor BotonZel::Color(uint color) const {
 
 // --- look
 
+void BotonZel::PonerPictureHover(const QIcon &imagen) {
+    pictureHover_ = imagen;
+    update();
+}
+
+void BotonZel::PonerMouseIcon(const QPixmap &imagen) {
+    mouseIcon_ = imagen;
+    Aplicar();
+}
+
 void BotonZel::Aplicar() {
     if (defCurHand_)
         setCursor(Qt::PointingHandCursor);

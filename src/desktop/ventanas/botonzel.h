@@ -40,7 +40,7 @@ class BotonZel : public QPushButton {
     Q_OBJECT
     Q_PROPERTY(QString Caption READ text WRITE setText)
     Q_PROPERTY(QIcon Picture READ icon WRITE setIcon)
-    Q_PROPERTY(QIcon PictureHover MEMBER pictureHover_)
+    Q_PROPERTY(QIcon PictureHover READ PictureHover WRITE PonerPictureHover)
     Q_PROPERTY(int PicturePosition MEMBER picturePosition_ NOTIFY AspectoCambiado)
     Q_PROPERTY(int PictureWidth MEMBER pictureWidth_ NOTIFY AspectoCambiado)
     Q_PROPERTY(int PictureHeight MEMBER pictureHeight_ NOTIFY AspectoCambiado)
@@ -49,7 +49,7 @@ class BotonZel : public QPushButton {
     Q_PROPERTY(int OriginalPicSizeH MEMBER originalPicSizeH_ NOTIFY AspectoCambiado)
     Q_PROPERTY(uint MaskColor MEMBER maskColor_ NOTIFY AspectoCambiado)
     Q_PROPERTY(QFont Font READ font WRITE setFont)
-    Q_PROPERTY(QPixmap MouseIcon MEMBER mouseIcon_ NOTIFY AspectoCambiado)
+    Q_PROPERTY(QPixmap MouseIcon READ MouseIcon WRITE PonerMouseIcon)
     Q_PROPERTY(int MousePointer MEMBER mousePointer_ NOTIFY AspectoCambiado)
     Q_PROPERTY(bool DefCurHand MEMBER defCurHand_ NOTIFY AspectoCambiado)
     Q_PROPERTY(bool Enabled READ isEnabled WRITE setEnabled)
@@ -79,6 +79,11 @@ class BotonZel : public QPushButton {
     // caption's default is the name of the control, a font's that of the container.
     QVariantMap Guardar() const;
     void Leer(const QVariantMap &bolsa);
+
+    const QIcon &PictureHover() const { return pictureHover_; }
+    void PonerPictureHover(const QIcon &imagen);
+    const QPixmap &MouseIcon() const { return mouseIcon_; }
+    void PonerMouseIcon(const QPixmap &imagen);
 
     // The pointer is over the button.
     bool BajoRaton() const { return bajoRaton_; }
