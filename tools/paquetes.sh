@@ -3,7 +3,8 @@
 
 PAQUETES_COMPILAR=(
     g++ cmake ninja-build ccache pkg-config
-    qt6-base-dev qt6-svg-dev qt6-translations-l10n libgl-dev libxcb1-dev
+    qt6-base-dev qt6-svg-dev qt6-charts-dev qt6-multimedia-dev qt6-translations-l10n
+    libgl-dev libopengl-dev libvulkan-dev libxkbcommon-dev libqt6opengl6-dev libxcb1-dev
     libsqlite3-dev libsqlitecpp-dev
     libgtest-dev libgmock-dev libbenchmark-dev
     fonts-liberation fonts-noto-core fonts-dejavu-core

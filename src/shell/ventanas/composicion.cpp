@@ -1,13 +1,16 @@
 #include "shell/ventanas/composicion.h"
 
 #include "accounts/ventanas/frmestados.h"
+#include "accounts/ventanas/frmstats.h"
 #include "config/ventanas/frmconfig.h"
+#include "desktop/ventanas/frmcalc.h"
 #include "interchange/mnuexportar.h"
 #include "interchange/ventanas/frmrespaldo.h"
 #include "masterdata/ventanas/frmarticulos.h"
 #include "masterdata/ventanas/frmclientes.h"
 #include "masterdata/ventanas/frmproveedores.h"
 #include "sales/ventanas/frmventas.h"
+#include "store/store.h"
 
 #include <algorithm>
 
@@ -56,6 +59,7 @@ Composicion Componer(const Servicios &servicios) {
         {Modulo::Articulos, Fabrica<FrmArticulos>(servicios)},
         {Modulo::Clientes, Fabrica<FrmClientes>(servicios)},
         {Modulo::Proveedores, Fabrica<FrmProveedores>(servicios)},
+        {Modulo::Stats, Fabrica<FrmStats>(servicios)},
     };
     composicion.opciones = [servicios](bool abrirDisenador, QWidget *padre) {
         FrmConfig(servicios, abrirDisenador, padre).exec();
@@ -68,6 +72,9 @@ Composicion Componer(const Servicios &servicios) {
     };
     composicion.devCliente = [](VentanaModulo &estados) {
         static_cast<FrmEstados &>(estados).EjecutarPorCliente();
+    };
+    composicion.calculadora = [servicios](QWidget *padre) {
+        return new FrmCalc(servicios.frmBases.sDecimal(), padre);
     };
     return composicion;
 }

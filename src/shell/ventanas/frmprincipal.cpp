@@ -38,6 +38,8 @@ FrmPrincipal::FrmPrincipal(const Servicios &servicios, const Composicion &compos
       pantalla_(*this, ajustes_),
       acciones_((ui_->setupUi(this), std::make_unique<Acciones>(*ui_->mnuBarra, *ui_->tbrPrincipal))),
       inicio_(new PanelInicio(*acciones_)),
+      atajos_(*acciones_, servicios.preguntas,
+              servicios.frmBases.CarpetaDatos() + QStringLiteral("/atajos.dat")),
       area_(std::make_unique<AreaModulos>(*ui_->area, *this, composicion)),
       conmutador_(*this, *area_, servicios.preguntas),
       Timer1(new QTimer(this)) {
@@ -52,6 +54,7 @@ FrmPrincipal::FrmPrincipal(const Servicios &servicios, const Composicion &compos
     connect(area_.get(), &AreaModulos::Cambio, this, [this](bool abierta) { MostrarInicio(!abierta); });
     CrearManejadores();
     ConectarAcciones();
+    CrearAccionAtajos();
     AplicarAjustes();
     DesactivarSinVentana();
     PonerExportable(false);
@@ -71,6 +74,15 @@ void FrmPrincipal::ConectarAcciones() {
     connect(emergente, &QMenu::aboutToHide, this, [this] { PonerAyudaEntrada(QString()); });
     auto *menu = new QShortcut(Qt::Key_F10, this);
     connect(menu, &QShortcut::activated, this, [this] { EntrarAlMenu(*ui_->mnuBarra); });
+}
+
+// The dialog of the keys stands in no menu.
+void FrmPrincipal::CrearAccionAtajos() {
+    auto *const accion = new QAction(QStringLiteral("Atajos de teclado"), this);
+    accion->setObjectName(QStringLiteral("atajos"));
+    accion->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_K));
+    connect(accion, &QAction::triggered, this, [this] { atajos_.Mostrar(this); });
+    addAction(accion);
 }
 
 void FrmPrincipal::CrearManejadores() {

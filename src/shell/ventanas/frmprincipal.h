@@ -8,6 +8,7 @@
 #include "desktop/servicios.h"
 #include "shell/ajustesprincipal.h"
 #include "shell/conmutador.h"
+#include "shell/ventanas/atajosprincipal.h"
 #include "shell/ventanas/pantallacompleta.h"
 
 #include <QMainWindow>
@@ -58,6 +59,7 @@ class FrmPrincipal : public QMainWindow, public Anfitrion, public TableroModulos
 
   private:
     void ConectarAcciones();
+    void CrearAccionAtajos();
     void CrearManejadores();
     void AplicarAjustes();
     void DesactivarSinVentana();
@@ -87,6 +89,7 @@ class FrmPrincipal : public QMainWindow, public Anfitrion, public TableroModulos
     PantallaCompleta pantalla_;
     std::unique_ptr<Acciones> acciones_;
     PanelInicio *inicio_;
+    AtajosPrincipal atajos_;
     std::unique_ptr<AreaModulos> area_;
     Conmutador conmutador_;
     QTimer *Timer1;

@@ -8,6 +8,7 @@
 #include "shell/ventanas/composicion.h"
 #include "shell/ventanas/frmprincipal.h"
 #include "shell/ventanas/frmsplash.h"
+#include "shell/ventanas/pedidosbotones.h"
 #include "shell/ventanas/senalfin.h"
 #include "store/instalacion.h"
 #include "store/store.h"
@@ -73,6 +74,7 @@ ResultadoApertura Programa::AbrirDatos() {
 
 void Programa::MostrarPrincipal(const ResultadoApertura &resultado) {
     const Servicios servicios{*frmBases_, preguntas_, reloj_, *impresoras_, ajustes_, escritorio_};
+    pedidos_ = std::make_unique<PedidosBotones>(escritorio_, carpetaPrograma_);
     frmPrincipal_ = std::make_unique<FrmPrincipal>(servicios, Componer(servicios), carpetaPrograma_);
     Avisar(AvisoLugar(frmBases_->CarpetaDatos(), carpetaPrograma_));
     Avisar(AvisoApertura(resultado));

@@ -15,6 +15,7 @@ namespace tarvo {
 class FrmBases;
 class FrmPrincipal;
 class FrmSplash;
+class PedidosBotones;
 class Impresoras;
 struct ResultadoApertura;
 
@@ -47,6 +48,7 @@ class Programa : public QObject {
     QSettings ajustes_;
     RelojSistema reloj_;
     EscritorioQt escritorio_;
+    std::unique_ptr<PedidosBotones> pedidos_;
     std::unique_ptr<FrmBases> frmBases_;
     std::unique_ptr<Impresoras> impresoras_;
     std::unique_ptr<FrmSplash> frmSplash_;

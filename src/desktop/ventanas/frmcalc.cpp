@@ -1,0 +1,202 @@
+#include "desktop/ventanas/frmcalc.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QGridLayout>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QScreen>
+
+namespace tarvo {
+
+namespace {
+
+constexpr QSize kTamano(260, 360);
+constexpr int kBajoBarra = 120; // pixels from the top of the main window, below its toolbar
+
+} // namespace
+
+// Place in the grid, name and caption, and what a screen reader calls it.
+struct FrmCalc::Boton {
+    int fila;
+    int columna;
+    QString nombre;
+    QString texto;
+    QString hablado;
+    std::function<void()> accion;
+};
+
+FrmCalc::FrmCalc(const QString &sDecimal, QWidget *principal)
+    : QWidget(principal, Qt::Dialog | Qt::WindowStaysOnTopHint),
+      calculadora_(sDecimal),
+      txtDisplay(new QLineEdit(this)) {
+    setObjectName(QStringLiteral("frmCalc"));
+    setWindowTitle(QStringLiteral("Calculadora - Velbrina"));
+    auto *rejilla = new QGridLayout(this);
+    rejilla->setContentsMargins(10, 8, 10, 8);
+    rejilla->setSpacing(7);
+    CrearDisplay(*rejilla);
+    CrearBotones(*rejilla);
+    installEventFilter(this);
+    for (QWidget *control : findChildren<QWidget *>())
+        control->installEventFilter(this);
+    resize(kTamano);
+    Alinear(*principal);
+    Mostrar();
+    cmdEquals->setFocus();
+}
+
+void FrmCalc::CrearDisplay(QGridLayout &rejilla) {
+    txtDisplay->setObjectName(QStringLiteral("txtDisplay"));
+    txtDisplay->setAccessibleName(QStringLiteral("Resultado"));
+    txtDisplay->setAlignment(Qt::AlignRight);
+    QFont letra(QStringLiteral("Courier New"));
+    letra.setPointSizeF(font().pointSizeF() * 2.4);
+    txtDisplay->setFont(letra);
+    txtDisplay->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    rejilla.addWidget(txtDisplay, 0, 0, 1, 4);
+    connect(txtDisplay, &QLineEdit::textEdited, this,
+            [this](const QString &texto) { calculadora_.PonerDisplay(texto); });
+    connect(txtDisplay, &QLineEdit::selectionChanged, this, [this] {
+        if (!txtDisplay->hasSelectedText())
+            txtDisplay->end(false);
+    });
+}
+
+void FrmCalc::CrearBotones(QGridLayout &rejilla) {
+    using C = Calculadora;
+    const auto texto = [](const char *t) { return QString::fromUtf8(t); };
+    const auto operador = [&](int fila, C::Operador n, const char *signo, const char *hablado) {
+        return Boton{
+            fila, 3, QStringLiteral("cmdOperador(%1)").arg(n), texto(signo), texto(hablado), [this, n] {
+                calculadora_.Operar(n);
+            }};
+    };
+    std::vector<Boton> botones{
+        {1, 0, texto("cmdClear"), texto("C"), texto("Borrar todo"), [this] { calculadora_.Borrar(); }},
+        {1, 1, texto("cmdClearEntry"), texto("CE"), texto("Borrar entrada"),
+         [this] { calculadora_.BorrarEntrada(); }},
+        {1, 2, texto("cmdMasMenos"), texto("±"), texto("Cambiar signo"), [this] { calculadora_.MasMenos(); }},
+        operador(1, C::Dividir, "÷", "Dividir"),
+        operador(2, C::Multiplicar, "×", "Multiplicar"),
+        operador(3, C::Restar, "−", "Restar"),
+        operador(4, C::Sumar, "+", "Sumar"),
+        {5, 1, texto("cmdDecimal"), QString(calculadora_.Separador()), texto("Separador decimal"),
+         [this] { Decimal(); }},
+        {5, 2, texto("cmdCopiar"), texto("Copiar"), texto("Copiar el resultado"), [this] { Copiar(); }},
+        {5, 3, texto("cmdEquals"), texto("="), texto("Igual"), [this] { calculadora_.Igual(); }},
+    };
+    for (int n = 0; n <= 9; ++n)
+        botones.push_back({n == 0 ? 5 : 4 - (n - 1) / 3, n == 0 ? 0 : (n - 1) % 3,
+                           QStringLiteral("cmdNumero(%1)").arg(n), QString::number(n), QString::number(n),
+                           [this, n] { Digito(n); }});
+    for (const Boton &boton : botones) {
+        auto *const control = new QPushButton(boton.texto, this);
+        control->setObjectName(boton.nombre);
+        control->setAccessibleName(boton.hablado);
+        control->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Expanding);
+        control->setAutoDefault(false);
+        rejilla.addWidget(control, boton.fila, boton.columna);
+        connect(control, &QPushButton::clicked, this, [this, accion = boton.accion] {
+            accion();
+            Mostrar();
+        });
+    }
+    cmdEquals = findChild<QPushButton *>(QStringLiteral("cmdEquals"));
+    cmdEquals->setProperty("principal", true);
+}
+
+// The right edges of both windows stand one below the other, as far as the screen reaches.
+void FrmCalc::Alinear(const QWidget &principal) {
+    const QRect ventana = principal.geometry();
+    QRect lugar({0, 0}, kTamano);
+    lugar.moveTopRight({ventana.right(), ventana.top() + kBajoBarra});
+    const QRect pantalla = principal.screen()->availableGeometry();
+    lugar.moveBottom(qMin(lugar.bottom(), pantalla.bottom()));
+    setGeometry(lugar);
+}
+
+bool FrmCalc::eventFilter(QObject *objeto, QEvent *evento) {
+    switch (evento->type()) {
+    case QEvent::KeyPress:
+        return Tecla(objeto, *static_cast<QKeyEvent *>(evento));
+    case QEvent::KeyRelease:
+        return TeclaSoltada(*static_cast<QKeyEvent *>(evento));
+    case QEvent::MouseButtonRelease:
+        if (objeto == txtDisplay && !txtDisplay->hasSelectedText())
+            txtDisplay->end(false);
+        return false;
+    default:
+        return false;
+    }
+}
+
+// True when the key goes no further. Copying, pasting and the keys that only move the focus do; a blank
+// presses the button that has the focus.
+bool FrmCalc::Tecla(const QObject *recibe, const QKeyEvent &tecla) {
+    if (tecla.key() == Qt::Key_F5) {
+        if (!tecla.isAutoRepeat())
+            close();
+        return true;
+    }
+    if (tecla.key() == Qt::Key_Return || tecla.key() == Qt::Key_Enter)
+        return Caracter(u'=');
+    if (tecla.key() == Qt::Key_Backspace || tecla.key() == Qt::Key_Delete)
+        return true; // they act when they are let go
+    if (tecla.key() == Qt::Key_Space && recibe != txtDisplay)
+        return false;
+    if ((tecla.modifiers() & (Qt::ControlModifier | Qt::AltModifier)) != 0 || tecla.text().isEmpty() ||
+        !tecla.text().front().isPrint())
+        return false;
+    return Caracter(tecla.text().front());
+}
+
+bool FrmCalc::Caracter(QChar caracter) {
+    using C = Calculadora;
+    static const QHash<QChar, C::Operador> operadores{{u'+', C::Sumar},       {u'-', C::Restar},
+                                                      {u'*', C::Multiplicar}, {u'x', C::Multiplicar},
+                                                      {u'X', C::Multiplicar}, {u'/', C::Dividir}};
+    if (caracter >= u'0' && caracter <= u'9')
+        Digito(caracter.digitValue());
+    else if (operadores.contains(caracter))
+        calculadora_.Operar(operadores.value(caracter));
+    else if (caracter == u'=')
+        calculadora_.Igual();
+    else if (caracter == u'.')
+        Decimal();
+    else if (caracter == u'c' || caracter == u'C')
+        calculadora_.BorrarEntrada();
+    Mostrar();
+    return true;
+}
+
+bool FrmCalc::TeclaSoltada(const QKeyEvent &tecla) {
+    if (tecla.isAutoRepeat() || (tecla.key() != Qt::Key_Backspace && tecla.key() != Qt::Key_Delete))
+        return false;
+    calculadora_.CortarUltimo();
+    Mostrar();
+    return true;
+}
+
+// Enter gives the result next.
+void FrmCalc::Digito(int digito) {
+    calculadora_.Digito(digito);
+    cmdEquals->setFocus();
+}
+
+void FrmCalc::Decimal() {
+    if (!calculadora_.Decimal())
+        QApplication::beep();
+}
+
+void FrmCalc::Copiar() {
+    QApplication::clipboard()->setText(calculadora_.Display());
+}
+
+void FrmCalc::Mostrar() {
+    txtDisplay->setText(calculadora_.Display());
+    txtDisplay->end(false);
+}
+
+} // namespace tarvo

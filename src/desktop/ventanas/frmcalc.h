@@ -1,0 +1,46 @@
+// The pocket calculator: a small window on top of the main one, beside any module.
+//
+// All keys are handled by the window, whatever button has the focus. The display takes no typing of its own;
+// a text can be pasted into it, and is no number for the arithmetic when it isn't one.
+#pragma once
+
+#include "desktop/calculadora.h"
+
+#include <QWidget>
+
+class QGridLayout;
+class QKeyEvent;
+class QLineEdit;
+class QPushButton;
+
+namespace tarvo {
+
+class FrmCalc : public QWidget {
+    Q_OBJECT
+  public:
+    // `principal` is the main window, whose right edge it takes; `sDecimal` the separator in force.
+    FrmCalc(const QString &sDecimal, QWidget *principal);
+
+  protected:
+    bool eventFilter(QObject *objeto, QEvent *evento) override;
+
+  private:
+    struct Boton;
+    void CrearDisplay(QGridLayout &rejilla);
+    void CrearBotones(QGridLayout &rejilla);
+    void Alinear(const QWidget &principal);
+
+    bool Tecla(const QObject *recibe, const QKeyEvent &tecla);
+    bool Caracter(QChar caracter);
+    bool TeclaSoltada(const QKeyEvent &tecla);
+    void Digito(int digito);
+    void Decimal();
+    void Copiar();
+    void Mostrar();
+
+    Calculadora calculadora_;
+    QLineEdit *txtDisplay;
+    QPushButton *cmdEquals = nullptr;
+};
+
+} // namespace tarvo

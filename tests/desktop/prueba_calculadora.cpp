@@ -1,0 +1,149 @@
+#include "desktop/calculadora.h"
+#include "desktop/ventanas/frmcalc.h"
+#include "testkit/manos.h"
+
+#include <gtest/gtest.h>
+
+#include <QClipboard>
+#include <QLineEdit>
+#include <QPointer>
+
+namespace tarvo {
+namespace {
+
+// Keys as on the window, plus "s" for the sign, "p" for the decimal point, "<" to cut, "C" to clear all.
+QString Tras(const char *teclas, const QString &sDecimal = QStringLiteral(",")) {
+    Calculadora calculo(sDecimal);
+    const QString operadores = QStringLiteral("+-*/");
+    for (const char *t = teclas; *t != 0; ++t) {
+        const QChar tecla = QLatin1Char(*t);
+        if (tecla.isDigit())
+            calculo.Digito(tecla.digitValue());
+        else if (operadores.contains(tecla))
+            calculo.Operar(Calculadora::Operador(operadores.indexOf(tecla) + 1));
+        else if (tecla == u'=')
+            calculo.Igual();
+        else if (tecla == u's')
+            calculo.MasMenos();
+        else if (tecla == u'p')
+            calculo.Decimal();
+        else if (tecla == u'<')
+            calculo.CortarUltimo();
+        else if (tecla == u'c')
+            calculo.BorrarEntrada();
+        else
+            calculo.Borrar();
+    }
+    return calculo.Display();
+}
+
+TEST(Calculadora, DisplayAfterKeys) {
+    const std::vector<std::pair<const char *, const char *>> casos{
+        {"1+2+", "3"},
+        {"1+2+4=", "7"},
+        {"9-12=", "-3"},
+        {"6*7=", "42"},
+        {"8=5", "5"},        // a digit after a result starts anew
+        {"2*3==", "6"},      // nothing is pending the second time
+        {"5/0=", ""},        // and the division still waits for its divisor...
+        {"5/0=2=", "0"},     // ...with the accumulator at 0
+        {"5/0*", ""},        // an operator takes its place
+        {"s=", "0"},         // "-" alone
+        {"s4=", "-4"},       // a sign before the number
+        {"8=s5", "5"},       // a result with changed sign gives way to the next digit
+        {"8=s+1=", "-7"},    // and counts with its sign
+        {"4p5+p5=", "5"},    // both decimals with the comma
+        {"1p5p", "1,5,"},    // a second comma can be typed...
+        {"1p5p5=", "1,5,5"}, // ...and is no number
+        {"7+1pp5=", "8,5"},  // a point behind a point is none
+        {"12<<<3", "03"},    // the last digit gives way to a 0
+        {"12s<<", "0"},      // a sign goes with it
+        {"7+3c4=", "11"},    // only the entry
+        {"7+3C4=", "4"},     // everything
+        {"1/3=", "0,333333333333333"},
+        {"1000000*1000000*1000000=", "1E+18"},
+        {"1000000*1000000*1000000=+0=", "1E+18"}, // its own result is a number again
+        {"0*5s=", "0"},                           // no minus before a zero
+        {"1p1*1p1=", "1,21"},
+    };
+    for (const auto &[teclas, display] : casos)
+        EXPECT_EQ(Tras(teclas), QString::fromUtf8(display)) << teclas;
+}
+
+TEST(Calculadora, OtherSeparators) {
+    EXPECT_EQ(Tras("1p5+1p5=", QStringLiteral(".")), QStringLiteral("3"));
+    EXPECT_EQ(Tras("3/2=p", QStringLiteral(".")), QStringLiteral("1.5")); // refused: it holds a point
+    EXPECT_EQ(Tras("3/2=", QStringLiteral("·")), QStringLiteral("1,5"));
+}
+
+TEST(Calculadora, WhatIsNoNumberChangesNothing) {
+    for (const QString &texto : {QString(400, u'9'), QStringLiteral("1.5"), QStringLiteral("doce"),
+                                 QStringLiteral("1 2"), QStringLiteral("$ 5")}) {
+        Calculadora calculo(QStringLiteral(","));
+        calculo.Digito(4);
+        calculo.Operar(Calculadora::Sumar);
+        calculo.PonerDisplay(texto);
+        calculo.Igual();
+        EXPECT_EQ(calculo.Display(), texto);
+        calculo.PonerDisplay(QStringLiteral("1"));
+        calculo.Igual();
+        EXPECT_EQ(calculo.Display(), QStringLiteral("5")); // the sum was still pending
+    }
+}
+
+class PruebaFrmCalc : public ::testing::Test {
+  protected:
+    QWidget principal;
+    QPointer<FrmCalc> frm;
+    void SetUp() override {
+        principal.setGeometry(100, 50, 800, 600);
+        principal.show();
+        frm = new FrmCalc(QStringLiteral(","), &principal);
+        frm->setAttribute(Qt::WA_DeleteOnClose);
+        MostrarVentana(*frm);
+    }
+    QString Display() { return Control<QLineEdit>(*frm, "txtDisplay")->text(); }
+};
+
+TEST_F(PruebaFrmCalc, TakesKeysWhateverHasTheFocus) {
+    for (const char *control : {"txtDisplay", "cmdNumero(7)", "cmdCopiar"}) {
+        Pulsar(Control<QWidget>(*frm, "cmdClear"));
+        Teclear(Control<QWidget>(*frm, control), QStringLiteral("12x3w;"));
+        EXPECT_EQ(Display(), QStringLiteral("3"));
+        EXPECT_EQ(ConFoco(), QStringLiteral("cmdEquals"));
+        Tecla(Control<QWidget>(*frm, control), Qt::Key_Return);
+        EXPECT_EQ(Display(), QStringLiteral("36"));
+    }
+}
+
+TEST_F(PruebaFrmCalc, CutsWhenTheKeyIsLetGo) {
+    auto *const display = Control<QLineEdit>(*frm, "txtDisplay");
+    Teclear(display, QStringLiteral("345"));
+    for (int repeticion = 0; repeticion < 3; ++repeticion) // held down
+        QTest::keyPress(display, Qt::Key_Backspace);
+    EXPECT_EQ(Display(), QStringLiteral("345"));
+    QTest::keyRelease(display, Qt::Key_Backspace);
+    EXPECT_EQ(Display(), QStringLiteral("34"));
+    Tecla(display, Qt::Key_Delete);
+    EXPECT_EQ(Display(), QStringLiteral("3"));
+}
+
+TEST_F(PruebaFrmCalc, CopiesAndTakesAPaste) {
+    auto *const display = Control<QLineEdit>(*frm, "txtDisplay");
+    QApplication::clipboard()->setText(QStringLiteral("12,5"));
+    display->setFocus();
+    display->paste();
+    Teclear(display, QStringLiteral("*2="));
+    Pulsar(Control<QWidget>(*frm, "cmdCopiar"));
+    EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("25"));
+}
+
+TEST_F(PruebaFrmCalc, StandsAtTheRightEdgeAndClosesByF5) {
+    EXPECT_EQ(frm->geometry().right(), principal.geometry().right());
+    Tecla(Control<QWidget>(*frm, "cmdNumero(1)"), Qt::Key_F5);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_TRUE(frm.isNull());
+}
+
+} // namespace
+} // namespace tarvo

@@ -1,0 +1,136 @@
+#include "shell/atajos.h"
+#include "shell/ventanas/frmatajos.h"
+#include "testkit/manos.h"
+#include "testkit/preguntasguion.h"
+
+#include <gtest/gtest.h>
+
+#include <QBuffer>
+#include <QKeySequenceEdit>
+#include <QRandomGenerator>
+
+namespace tarvo {
+namespace {
+
+QKeySequence Tecla(const char *texto) {
+    return QKeySequence(QString::fromLatin1(texto), QKeySequence::PortableText);
+}
+
+Atajos Leidos(QByteArray archivo) {
+    Atajos atajos;
+    QBuffer origen(&archivo);
+    origen.open(QIODevice::ReadOnly);
+    atajos.Leer(origen);
+    return atajos;
+}
+
+// Texts with a "|" behind each, as a file.
+QByteArray Archivo(const char *fichas) {
+    return QByteArray(fichas).replace('|', '\0');
+}
+const QByteArray kCabeza = Archivo("|[Nerlo-Menus-Shortcuts]|[V-1-0-0]|");
+
+TEST(Atajos, WritesItsFile) {
+    Atajos atajos;
+    atajos.Poner(Entrada::Ventas, Tecla("Ctrl+1"));
+    const QByteArray archivo = atajos.Archivo();
+    EXPECT_TRUE(archivo.startsWith(kCabeza + Archivo("I|1|exportar|K|Ctrl+F6|exportar|")));
+    EXPECT_TRUE(archivo.contains(Archivo("|ventas|K|Ctrl+1|ventas|")));
+    EXPECT_FALSE(archivo.contains("factura")); // it has no key
+    EXPECT_EQ(Leidos(archivo), atajos);
+}
+
+TEST(Atajos, ReadsUpToWhatIsWrong) {
+    const Atajos iniciales;
+    const struct {
+        const char *grupos;
+        const char *ventas;   // its key afterwards
+        const char *clientes; // likewise
+    } casos[] = {
+        {"K|Ctrl+1|ventas|K|Ctrl+2|clientes|", "Ctrl+1", "Ctrl+2"},
+        {"K|Ctrl+1|ventas|X|Ctrl+2|clientes|", "Ctrl+1", "F4"},
+        {"K|Ctrl+1|ventas|K|Ctrl+2", "Ctrl+1", "F4"},
+        {"K|Ctrl+1|nadie|K|Ctrl+2|clientes|", "F8", "Ctrl+2"},
+        {"I|5|ventas|I|9|clientes|", "F8", "F4"},
+        {"K|A|ventas|K|Ctrl+C|clientes|", "F8", "F4"}, // they write and edit text
+        {"K|F4|ventas|K|F8|clientes|", "F4", "F8"},    // two that change places
+        {"K|F4|ventas|", "F8", "F4"},                  // shared: nothing counts
+        {"K|Ctrl+1, Ctrl+2|ventas|", "F8", "F4"},
+        {"", "F8", "F4"},
+    };
+    for (const auto &caso : casos) {
+        const Atajos leidos = Leidos(kCabeza + Archivo(caso.grupos));
+        EXPECT_EQ(leidos.De(Entrada::Ventas), Tecla(caso.ventas)) << caso.grupos;
+        EXPECT_EQ(leidos.De(Entrada::Clientes), Tecla(caso.clientes)) << caso.grupos;
+    }
+    for (const char *cabeza :
+         {"", "|[Nerlo-Menus-Shortcuts]|[V-2-0-0]|", "[Nerlo-Menus-Shortcuts]|[V-1-0-0]|"})
+        EXPECT_EQ(Leidos(Archivo(cabeza) + Archivo("K|Ctrl+1|ventas|")), iniciales) << cabeza;
+}
+
+TEST(Atajos, AnyBytesLeaveOneKeyForEachEntry) {
+    const QByteArray entero = Atajos().Archivo();
+    QRandomGenerator azar(20261122);
+    for (int vuelta = 0; vuelta < 20000; ++vuelta) {
+        QByteArray archivo = entero;
+        for (int cambios = azar.bounded(1, 12); cambios > 0; --cambios) {
+            const qsizetype lugar = azar.bounded(int(archivo.size()));
+            if (azar.bounded(4) == 0)
+                archivo.remove(lugar, azar.bounded(1, 20));
+            else
+                archivo[lugar] = char(azar.bounded(256));
+            if (archivo.isEmpty())
+                break;
+        }
+        const Atajos leidos = Leidos(archivo);
+        QSet<QString> teclas;
+        for (const Entrada entrada : Atajos::Asignables()) {
+            const QString tecla = leidos.De(entrada).toString();
+            ASSERT_FALSE(!tecla.isEmpty() && teclas.contains(tecla)) << vuelta;
+            ASSERT_EQ(tecla.isEmpty(), Atajos::Inicial(entrada).isEmpty() && tecla.isEmpty()) << vuelta;
+            teclas.insert(tecla);
+        }
+    }
+}
+
+TEST(Atajos, RefusesKeysThatAreTakenOrWriteText) {
+    const Atajos atajos;
+    for (const char *tecla : {"F8", "Ctrl+1", "Ctrl+Shift+V", "Shift+F3", "Alt+F2"})
+        EXPECT_EQ(atajos.MotivoRechazo(Entrada::Ventas, Tecla(tecla)), QString()) << tecla;
+    for (const char *tecla :
+         {"A", "1", "Shift+B", "Ctrl+V", "Ctrl+Z", "Ctrl+N", "Ctrl+K", "Alt+V", "Ctrl+Alt+2", "F10", "Return",
+          "Esc", "Tab", "Del", "Left", "Ctrl+Left", "Ctrl+1, Ctrl+2", ""})
+        EXPECT_NE(atajos.MotivoRechazo(Entrada::Ventas, Tecla(tecla)), QString()) << tecla;
+    EXPECT_EQ(atajos.MotivoRechazo(Entrada::Ventas, Tecla("F4")),
+              QStringLiteral("La tecla F4 ya es la de \"Clientes\"."));
+}
+
+TEST(FrmAtajos, AssignsTellsAndRestores) {
+    Atajos atajos;
+    PreguntasGuion preguntas;
+    int cambios = 0;
+    FrmAtajos frm(
+        atajos, preguntas, [&cambios] { ++cambios; }, nullptr);
+    MostrarVentana(frm);
+    auto *const lista = Control<ListaVista>(frm, "LVAtajos");
+    auto *const tecla = Control<QKeySequenceEdit>(frm, "kseTecla");
+    lista->SeleccionarFila(lista->Lista()->Buscar(2, "ventas"));
+
+    tecla->setKeySequence(Tecla("F7"));
+    preguntas.EsperaMensaje(QStringLiteral("La tecla F7 ya es la de \"Estados de cuenta\"."),
+                            Icono::Informacion);
+    Pulsar(Control<QWidget>(frm, "cmdAsignar"));
+    EXPECT_EQ(tecla->keySequence(), Tecla("F8"));
+    EXPECT_EQ(cambios, 0);
+
+    tecla->setKeySequence(Tecla("Ctrl+1"));
+    Pulsar(Control<QWidget>(frm, "cmdAsignar"));
+    EXPECT_EQ(atajos.De(Entrada::Ventas), Tecla("Ctrl+1"));
+    EXPECT_EQ(lista->Lista()->Celda(lista->FilaActual(), 1), QStringLiteral("Ctrl+1"));
+    Pulsar(Control<QWidget>(frm, "cmdRestablecer"));
+    EXPECT_EQ(atajos, Atajos());
+    EXPECT_EQ(cambios, 2);
+}
+
+} // namespace
+} // namespace tarvo
