@@ -1,3 +1,4 @@
+#include "desktop/ventanas/listavista.h"
 #include "shell/atajos.h"
 #include "shell/ventanas/frmatajos.h"
 #include "testkit/manos.h"
