@@ -302,6 +302,8 @@ void ListaDetalle::Guardar() {
 
 // The row of the list that the fields show: the selected one, unless a search has moved on since.
 int ListaDetalle::FilaMostrada() const {
+    if (idMostrado_.isEmpty())
+        return -1;
     const int elegida = vista_.FilaActual();
     const QByteArray id = idMostrado_.toUtf8();
     if (elegida >= 0 && lista_.CeldaUtf8(elegida, columnaId_) == Vista8(id))

@@ -99,8 +99,10 @@ TEST(Listado, AReportIsAskedForAndTellsWhatFails) {
                             .listado = ListadoNumerado(contadas)};
     ImpresorasPrueba impresoras;
     PreguntasGuion preguntas;
-    const auto imprimir = [&](Respuesta respuesta) {
+    const auto imprimir = [&](Respuesta respuesta, const QString &mensaje = {}) {
         preguntas.Espera(reporte.pregunta, Respuesta::Si, respuesta);
+        if (!mensaje.isEmpty())
+            preguntas.EsperaMensaje(mensaje, Icono::Informacion);
         return ImprimirReporte(impresoras, preguntas, reporte, 1);
     };
     EXPECT_FALSE(imprimir(Respuesta::No));
@@ -108,13 +110,10 @@ TEST(Listado, AReportIsAskedForAndTellsWhatFails) {
     EXPECT_TRUE(imprimir(Respuesta::Si));
     EXPECT_EQ(impresoras.documentos.size(), 1U);
     impresoras.fallar = true;
-    preguntas.EsperaMensaje(QStringLiteral("No se han encontrado impresoras instaladas."),
-                            Icono::Informacion);
-    EXPECT_FALSE(imprimir(Respuesta::Si));
+    EXPECT_FALSE(imprimir(Respuesta::Si, QStringLiteral("No se han encontrado impresoras instaladas.")));
     impresoras.fallar = false;
     reporte.listado.imprimirFila = [](Superficie &, int) {
         throw ErrorDatos(errores::kEscritura, QStringLiteral("Disco lleno."));
     };
-    preguntas.EsperaMensaje(reporte.mensajeError, Icono::Informacion);
-    EXPECT_FALSE(imprimir(Respuesta::Si));
+    EXPECT_FALSE(imprimir(Respuesta::Si, reporte.mensajeError));
 }
