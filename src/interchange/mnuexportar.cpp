@@ -47,12 +47,13 @@ bool SeRenombra(const QString &ruta) {
            std::rename(otro.constData(), nombre.constData()) == 0;
 }
 
-// A file that is not there is no obstacle.
+// A file that is not there is no obstacle. One without any permission to write is protected from the
+// administrator too.
 bool SePuedeReemplazar(const QString &ruta) {
     const QFileInfo archivo(ruta);
     if (!archivo.exists())
         return true;
-    constexpr auto kEscritura = QFile::WriteOwner | QFile::WriteUser | QFile::WriteGroup | QFile::WriteOther;
+    constexpr auto kEscritura = QFile::WriteOwner | QFile::WriteGroup | QFile::WriteOther;
     return archivo.isFile() && archivo.isWritable() && (archivo.permissions() & kEscritura) != 0 &&
            !EnUso(ruta) && SeRenombra(ruta);
 }
@@ -64,8 +65,10 @@ template <typename Escritor> void Guardar(Preguntas &preguntas, const QString &r
         return;
     }
     escribir(archivo);
-    archivo.flush();
+    const bool escrito = archivo.flush();
     const bool lleno = archivo.error() == QFileDevice::ResourceError;
+    if (!escrito)
+        archivo.cancelWriting(); // the commit forgets what the flush could not write
     if (!archivo.commit())
         preguntas.Mostrar(QStringLiteral("No se pudo escribir \"%1\": %2.")
                               .arg(QFileInfo(ruta).fileName(), MotivoSistema(lleno ? ENOSPC : EIO)),
