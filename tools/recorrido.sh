@@ -9,7 +9,7 @@ source tools/pantalla.sh
 
 readonly SALIDA=$PWD/salida CARPETA=$PWD/build/recorrido NUMERO=0001-00009001
 rm -rf "$SALIDA" "$CARPETA"
-mkdir -p "$SALIDA" "$CARPETA/ajustes" "$CARPETA/registros"
+mkdir -p "$SALIDA" "$CARPETA/ajustes" "$CARPETA/registros" "$CARPETA/Respaldo"
 cp build/release/tarvo "$CARPETA/tarvo"
 build/release/muestra "$CARPETA"
 
@@ -18,6 +18,17 @@ FOTOS=0
 Retrato() {
     FOTOS=$((FOTOS + 1))
     Foto "$SALIDA/$(printf %02d "$FOTOS")-$1.png"
+}
+
+# Exports the list on screen to that file of salida/.
+Exportar() {
+    Tecla ctrl+F6
+    EsperarCuadro "el diálogo de exportar"
+    Escribir "$SALIDA/$1"
+    [ -z "${2:-}" ] || Retrato "$2"
+    Tecla Return
+    EsperarPrincipal
+    Esperar 10 "el archivo $1" test -s "$SALIDA/$1"
 }
 
 Consultar() { sqlite3 "$CARPETA/Datos/$1.mdb" "$2"; }
@@ -76,7 +87,7 @@ Tecla shift+Tab space
 Retrato completa
 
 # From the discount on to the button that issues.
-Tecla alt+d Tab space
+Tecla alt+d Tab Tab space
 EsperarCuadro "la confirmación"
 Retrato confirma
 Tecla Return
@@ -98,6 +109,8 @@ Tecla shift+Tab shift+Tab
 Escribir "${CLIENTE#*|}"
 Tecla Return Tab Tab Return
 Retrato estado
+Exportar estado.xls
+Exportar estado.txt exportar
 
 # A receipt with its slip.
 Tecla Tab Return
@@ -139,19 +152,9 @@ Modulo() {
     Tecla "$1"
     Retrato "$2"
 }
-# Exports the list on screen to that file of salida/.
-Exportar() {
-    Tecla ctrl+F6
-    EsperarCuadro "el diálogo de exportar"
-    Escribir "$SALIDA/$1"
-    [ -z "${2:-}" ] || Retrato "$2"
-    Tecla Return
-    EsperarPrincipal
-    Esperar 10 "el archivo $1" test -s "$SALIDA/$1"
-}
 Modulo F2 articulos
 Exportar articulos.xls
-Exportar articulos.txt exportar
+Exportar articulos.txt
 Modulo F3 proveedores
 Modulo F4 clientes
 Tecla F4 F9
@@ -210,10 +213,13 @@ DESPUES=$(Existencias)
 esperadas=$(awk '{ print $1 - 1, $2 - 1, $3 - 4 }' <<<"$ANTES")
 [ "$DESPUES" = "$esperadas" ] || Fallar "existencias $DESPUES, se esperaban $esperadas"
 
-# What was exported: a line for each article; the spreadsheet of the articles has no end record.
+# What was exported: a line for each article; the spreadsheet of the articles has no end record, the other one has.
+Bytes() { od -An -tx1 | tr -d ' \n'; }
 [ "$(wc -l <"$SALIDA/articulos.txt")" -eq "$(Consultar articulos 'SELECT count(*) FROM Articulos')" ] ||
     Fallar "el texto exportado no tiene todos los artículos"
-[ "$(head -c 8 "$SALIDA/articulos.xls" | od -An -tx1 | tr -d ' \n')" = 0900040002000a00 ] || Fallar "la hoja exportada no empieza bien"
+[ "$(head -c 8 "$SALIDA/articulos.xls" | Bytes)" = 0900040002000a00 ] || Fallar "la hoja exportada no empieza bien"
+[ "$(tail -c 4 "$SALIDA/articulos.xls" | Bytes)" != 0a000000 ] || Fallar "la hoja de los artículos está terminada"
+[ "$(tail -c 4 "$SALIDA/estado.xls" | Bytes)" = 0a000000 ] || Fallar "la hoja del estado no está terminada"
 
 # Imprimido <beginning of the file's name> <name of the picture> <text that must stand on it>
 Imprimido() {
