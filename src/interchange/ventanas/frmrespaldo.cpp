@@ -9,7 +9,6 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QKeyEvent>
-#include <QStyle>
 #include <QTimer>
 
 #include <algorithm>
@@ -146,10 +145,8 @@ void FrmRespaldo::MostrarPanel(bool recuperar) {
     ui_->paneles->setCurrentWidget(recuperar ? ui_->frRecuperar : ui_->frRespaldar);
     ui_->shRespaldar->setVisible(!recuperar);
     ui_->shRecuperar->setVisible(recuperar);
-    ui_->cmdRespaldar->setProperty("marcado", !recuperar);
-    ui_->cmdRecuperar->setProperty("marcado", recuperar);
-    for (QPushButton *boton : {ui_->cmdRespaldar, ui_->cmdRecuperar})
-        boton->style()->polish(boton);
+    ui_->cmdRespaldar->setChecked(!recuperar);
+    ui_->cmdRecuperar->setChecked(recuperar);
 }
 
 void FrmRespaldo::cmdRespaldar_Click() {
