@@ -57,7 +57,9 @@ TEST_F(Ventana, TheDesignerOpensOverTheOptionsByButtonOrAtOnce) {
         Tecla(modal, Qt::Key_Escape);
     });
     cerrar.start(0);
-    Abrir(true);
+    mundo.datos.Abrir();
+    ventana = std::make_unique<FrmConfig>(mundo.servicios(), true);
+    ventana->show();
     ASSERT_TRUE(QTest::qWaitFor([&] { return disenadores == 1; }));
     EXPECT_EQ(Titulo(), QStringLiteral("Configuración de impresión"));
     EXPECT_TRUE(ventana->isVisible());

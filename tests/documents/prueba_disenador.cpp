@@ -74,6 +74,7 @@ class DisenadorPrueba : public testing::Test {
                 Tecla(dialogo, Qt::Key_Escape);
         });
         Pulsar(Control<QWidget>(*frmFactura, boton));
+        ASSERT_TRUE(QTest::qWaitForWindowActive(frmFactura.get()));
     }
 
     MundoPrueba mundo;
@@ -189,13 +190,13 @@ TEST_F(DisenadorPrueba, LabelDialogChecksItsFields) {
             texto->setText(QString::fromUtf8(caso.texto));
             Control<QLineEdit>(dialogo, "txtSize")->setText(QString::fromUtf8(caso.pixeles));
             Pulsar(Control<QWidget>(dialogo, "optDer"));
-            Pulsar(Control<QWidget>(dialogo, "chkTachado"));
+            Control<QAbstractButton>(dialogo, "chkTachado")->click();
             EXPECT_TRUE(texto->font().strikeOut());
             EXPECT_TRUE(texto->alignment().testFlag(Qt::AlignRight));
             Pulsar(Control<QWidget>(dialogo, "cmdAgregarEtiqueta"));
             EXPECT_EQ(dialogo.isVisible(), caso.mensaje != nullptr);
             if (caso.foco != nullptr) {
-                EXPECT_EQ(ConFoco(), QString::fromUtf8(caso.foco));
+                EXPECT_EQ(dialogo.focusWidget()->objectName(), QString::fromUtf8(caso.foco));
             }
         });
     }
@@ -203,7 +204,7 @@ TEST_F(DisenadorPrueba, LabelDialogChecksItsFields) {
     EXPECT_EQ(segunda->geometry(), QRect(16, 176, 600, 16));
     EXPECT_EQ(segunda->text(), QStringLiteral("b"));
     EXPECT_TRUE(segunda->font().strikeOut());
-    EXPECT_EQ(ConFoco(), QStringLiteral("lblPers(1)"));
+    EXPECT_EQ(frmFactura->focusWidget()->objectName(), QStringLiteral("lblPers(1)"));
     Tecla(frmFactura.get(), Qt::Key_Z, Qt::ControlModifier);
     EXPECT_FALSE(segunda->isVisible());
 }
@@ -223,7 +224,7 @@ TEST_F(DisenadorPrueba, ThirtyLabelsAndNoMore) {
 TEST_F(DisenadorPrueba, FieldDialogAppliesAtOnceAndIsOneStep) {
     Abrir();
     EnDialogo<FrmFacturaAdmin>("cmdAdminCampos", [this](FrmFacturaAdmin &dialogo) {
-        Pulsar(Control<QWidget>(dialogo, "chkLogo"));
+        Control<QAbstractButton>(dialogo, "chkLogo")->click();
         EXPECT_FALSE(Pieza("imgLogo")->isVisible());
         Tecla(Control<QWidget>(dialogo, "lstCampos"), Qt::Key_Space);
         EXPECT_FALSE(Pieza("lblCliCodigo")->isVisible());

@@ -35,11 +35,11 @@ QImage Logo() {
 
 void PonerRotulos(DisenoFactura &diseno) {
     constexpr Rotulo rotulos[] = {
-        {"LA ESQUINA DE ÑANDÚ", 240, 1410, true},
-        {"Cliente", 2760, 720, false},
-        {"Código", 2760, 360, false},
-        {"Id. Fiscal", 2580, 1080, false},
-        {"CF", 5400, 1080, false},
+        {"LA ESQUINA DE ÑANDÚ", 3840, 60, true},
+        {"Cliente", 2940, 720, false},
+        {"Código", 3060, 360, false},
+        {"Id. Fiscal", 2640, 1080, false},
+        {"CF", 5430, 1080, false},
         {"Nº", 8160, 240, false},
         {"Código", 240, 1680, true},
         {"Artículo", 1500, 1680, true},
@@ -51,7 +51,7 @@ void PonerRotulos(DisenoFactura &diseno) {
         {"Percepción", 7200, 5130, false},
         {"Total", 7200, 5415, false},
         {"A pagar", 7200, 5700, true},
-        {"Descuento", 5160, 5700, false},
+        {"Descuento", 4740, 5700, false},
         {"Gracias por su compra", 240, 5940, false},
     };
     auto etiqueta = diseno.etiquetas.begin();

@@ -1,5 +1,6 @@
 #include "documents/ventanas/frmfactura.h"
 
+#include "desktop/ventanas/estilo.h"
 #include "desktop/ventanas/filtrocampos.h"
 #include "documents/ventanas/frmfacturaadmin.h"
 #include "documents/ventanas/frmfacturaetiqueta.h"
@@ -41,11 +42,13 @@ FrmFactura::FrmFactura(const Servicios &servicios, const QString &carpetaFactura
     CrearTeclas();
     disenador_.CargarInicial();
     ui_->picFactura->Mostrar(disenador_);
-    Dimensionar();
+    Presentar();
     ui_->cmdAbrir->setFocus();
 }
 
-FrmFactura::~FrmFactura() = default;
+FrmFactura::~FrmFactura() {
+    ui_->picFactura->disconnect(this);
+}
 
 void FrmFactura::ConectarOrdenes() {
     connect(ui_->cmdAbrir, &QPushButton::clicked, &disenador_, &Disenador::Abrir);
@@ -73,8 +76,13 @@ void FrmFactura::CrearTeclas() {
     connect(rehacer, &QShortcut::activated, &historia, &QUndoStack::redo);
 }
 
-void FrmFactura::Dimensionar() {
-    resize(kTamano.boundedTo(screen()->availableSize()));
+void FrmFactura::Presentar() {
+    QPalette mesa = ui_->mesa->palette();
+    mesa.setColor(QPalette::Window, colores::kEncabezado);
+    ui_->mesa->setPalette(mesa);
+    ui_->mesa->setAutoFillBackground(true);
+    const QSize borde(16, 40); // of the window's own frame, which isn't known before it shows
+    resize(kTamano.boundedTo(screen()->availableSize() - borde));
 }
 
 void FrmFactura::MostrarPosicion() {

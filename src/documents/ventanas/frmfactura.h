@@ -26,7 +26,7 @@ class FrmFactura : public QDialog {
   private:
     void ConectarOrdenes();
     void CrearTeclas();
-    void Dimensionar();
+    void Presentar();
     void MostrarPosicion();
     void InsertarEtiqueta();
     void AdministrarCampos();

@@ -14,6 +14,7 @@ namespace tarvo {
 namespace {
 
 constexpr int kLetra = 11; // pixels: a field is 16 high
+constexpr int kSangria = 2;
 const QColor kColorEtiqueta(192, 192, 255);
 const QColor kColorGuia(200, 24, 48);
 
@@ -60,6 +61,12 @@ Lienzo::Lienzo(QWidget *padre) : QWidget(padre), trazos_(new Trazos(this)) {
     trazos_->setGeometry(rect());
 }
 
+// A piece that dies with the focus still tells that it loses it.
+Lienzo::~Lienzo() {
+    for (PiezaLienzo *pieza : piezas_)
+        pieza->disconnect(this);
+}
+
 void Lienzo::Mostrar(Disenador &disenador) {
     disenador_ = &disenador;
     for (int numero = 0; numero < pieza::kTodas; ++numero)
@@ -85,7 +92,8 @@ void Lienzo::CrearPieza(int numero) {
     colores.setColor(QPalette::Window, numero < pieza::kLogo ? DatosDe(static_cast<std::size_t>(numero)).color
                                                              : kColorEtiqueta);
     pieza->setPalette(colores);
-    pieza->setIndent(2);
+    if (numero != pieza::kLogo)
+        pieza->setIndent(kSangria);
     if (numero < pieza::kLogo)
         pieza->setText(disenador_->Rotulo(numero));
     piezas_.push_back(pieza);
@@ -124,7 +132,8 @@ void Lienzo::Vestir(PiezaLienzo &pieza) {
     QFont letra = font();
     letra.setPixelSize(kLetra);
     if (numero == pieza::kLogo) {
-        pieza.setPixmap(QPixmap::fromImage(disenador_->Logo()));
+        if (std::exchange(logo_, disenador_->Logo().cacheKey()) != disenador_->Logo().cacheKey())
+            pieza.setPixmap(QPixmap::fromImage(disenador_->Logo()));
     } else if (numero > pieza::kLogo) {
         const auto lugar = static_cast<std::size_t>(numero - pieza::kEtiquetas);
         const EtiquetaLibre &etiqueta = disenador_->Diseno().etiquetas[lugar];

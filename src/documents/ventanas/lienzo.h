@@ -16,6 +16,7 @@ class Lienzo : public QWidget {
     Q_OBJECT
   public:
     explicit Lienzo(QWidget *padre = nullptr);
+    ~Lienzo() override;
     // Shows the layout of `disenador` from now on; once.
     void Mostrar(Disenador &disenador);
     // The piece under work, -1 when there is none or it is hidden.
@@ -44,6 +45,7 @@ class Lienzo : public QWidget {
     std::vector<PiezaLienzo *> piezas_;
     Trazos *trazos_;
     int enTrabajo_ = -1;
+    qint64 logo_ = 0; // the picture that is shown
     bool arrastrando_ = false;
 };
 
