@@ -74,7 +74,7 @@ class DisenadorPrueba : public testing::Test {
                 Tecla(dialogo, Qt::Key_Escape);
         });
         Pulsar(Control<QWidget>(*frmFactura, boton));
-        ASSERT_TRUE(QTest::qWaitForWindowActive(frmFactura.get()));
+        MostrarVentana(*frmFactura);
     }
 
     MundoPrueba mundo;
