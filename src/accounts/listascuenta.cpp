@@ -76,6 +76,7 @@ std::vector<ColumnaLista> ColumnasCuenta(ListaCuenta cual) {
 }
 
 void OrdenInicial(ListaTexto &lista) {
+    lista.DejarVaciaSinOrdenar();
     lista.Ordenar(lista.columnCount() - 1, Qt::AscendingOrder);
 }
 

@@ -46,7 +46,7 @@ struct ReglasCuenta {
 const ReglasCuenta &ReglasDe(ListaCuenta cual);
 
 std::vector<ColumnaLista> ColumnasCuenta(ListaCuenta cual);
-// Sorts by the list's first sort column, ascending.
+// Sorts by the list's first sort column, ascending; a click sorts no list without rows.
 void OrdenInicial(ListaTexto &lista);
 
 } // namespace tarvo

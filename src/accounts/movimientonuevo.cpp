@@ -48,7 +48,7 @@ void MarcarFactura(FrmBases &bases, const DocumentoDevuelto &devolucion) {
 } // namespace
 
 void EscribirRecibo(FrmBases &bases, const QString &idCliente, const QString &total,
-                   const QDateTime &momento) {
+                    const QDateTime &momento) {
     EmpezarFila(bases, momento);
     bases.camVentDescripcion = QStringLiteral("Recibo");
     bases.camVentIdCliente = idCliente;

@@ -15,7 +15,8 @@ namespace tarvo {
 class FrmBases;
 
 // A payment on account; `total` is money text.
-void EscribirRecibo(FrmBases &bases, const QString &idCliente, const QString &total, const QDateTime &momento);
+void EscribirRecibo(FrmBases &bases, const QString &idCliente, const QString &total,
+                    const QDateTime &momento);
 
 // A document of a list that is taken back whole.
 struct DocumentoDevuelto {

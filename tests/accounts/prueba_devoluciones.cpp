@@ -112,7 +112,7 @@ TEST_F(Cuentas, WhatFailsHalfWayEndsTheReturnAndTheSameButtonDoesTheRest) {
     for (int vez = 0; vez < 2; ++vez) {
         mundo.preguntas.EsperaMensaje(
             QStringLiteral(
-                "No se pudo escribir en la base de datos: sin lugar\n\nNo se guardó la devolución de: "
+                "No se pudo escribir en la base de datos: sin lugar.\n\nNo se guardó la devolución de: "
                 "05/11/2026 - 18:40 - Factura contado"),
             Icono::Critico);
         logica->Devolver();
@@ -172,20 +172,20 @@ TEST_F(Cuentas, EachListingPrintsItsListAsItStands) {
           " 05/11/2026   19:00       Factura contado" + std::string(45, ' ') + "$ 10,00",
           " 21/11/2026   09:05       Devolución contado (05/11/2026 - 19:00)" + std::string(21, ' ') +
               "$ 10,00",
-          std::string(56, ' ') + "Total    $ 20,00"}},
+          std::string(57, ' ') + "Total    $ 20,00"}},
         {"Desea imprimir el estado de cuenta?",
          {std::string(29, ' ') + "ESTADO DE CUENTA", std::string(29, ' ') + "----------------",
           "Cliente: Juan", "Hoja     1 de 1 ", raya,
           "  Fecha      Hora   Detalle                      Debe                Haber              Saldo",
           " 22/11/2026 10:30   Factura contado (D)        $ 3,00               $ 3,00             $ 0,00",
-          std::string(57, ' ') + "Saldo    $ 0,00"}},
+          std::string(58, ' ') + "Saldo    $ 0,00"}},
         {"Desea imprimir la planilla de caja?",
          {std::string(29, ' ') + "PLANILLA DE CAJA", std::string(29, ' ') + "----------------",
           "Hoja     1 de 1 ", raya,
           "  Fecha      Hora   Detalle                      Debe                Haber              Saldo",
           " 22/11/2026 10:00   Ticket",
           " 22/11/2026 10:30   Factura contado (D)        $ 3,00               $ 3,00             $ 0,00",
-          std::string(57, ' ') + "Saldo    $ 3,00"}},
+          std::string(58, ' ') + "Saldo    $ 3,00"}},
     };
     Abrir();
     vista.elegido = ClienteElegido{QStringLiteral("2"), QStringLiteral("Juan")};

@@ -172,7 +172,7 @@ TEST_F(Cuentas, ARefusedReceiptStaysInItsFieldAndTheSecondTryWritesOneRow) {
                          "BEGIN SELECT RAISE(FAIL,'sin lugar'); END");
     Abrir();
     logica->AceptarCliente();
-    mundo.preguntas.EsperaMensaje(QStringLiteral("No se pudo escribir en la base de datos: sin lugar"
+    mundo.preguntas.EsperaMensaje(QStringLiteral("No se pudo escribir en la base de datos: sin lugar."
                                                  "\n\nEl recibo no se guardó."),
                                   Icono::Critico);
     Recibir("66");

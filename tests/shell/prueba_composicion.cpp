@@ -58,5 +58,22 @@ TEST_F(ComposicionTest, TheBackupOpensOverTheMainWindowAlone) {
     EXPECT_FALSE(DeBarra("respaldar")->isChecked());
 }
 
+TEST_F(ComposicionTest, TheEntriesOfReturnsOpenTheAccountsAndGoThere) {
+    mundo.datos.Ejecutar("INSERT INTO ventas.Ventas(fecha,hora,idcliente,tipo,descripcion,total) VALUES"
+                         "('22/11/2026','10:00','0','Contado','Factura contado','$ 5,00')");
+    composicion = Componer(mundo.servicios());
+    Abrir();
+    DeMenu("devcontado")->trigger();
+    EXPECT_TRUE(Control<QWidget>(*frm, "cmdContinuarDev")->isVisible());
+    EXPECT_TRUE(DeMenu("estado")->isChecked() && DeBarra("estado")->isChecked());
+    EXPECT_TRUE(DeMenu("exportar")->isEnabled());
+    DeMenu("devcliente")->trigger();
+    EXPECT_TRUE(Control<QWidget>(*frm, "picClientes")->isVisible());
+    EXPECT_TRUE(DeMenu("estado")->isChecked()) << "open accounts are not closed";
+    Tecla(frm.get(), Qt::Key_F7);
+    EXPECT_EQ(frm->findChild<QWidget *>(QStringLiteral("frmEstados")), nullptr);
+    EXPECT_FALSE(DeMenu("exportar")->isEnabled());
+}
+
 } // namespace
 } // namespace tarvo

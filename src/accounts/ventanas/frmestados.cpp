@@ -15,6 +15,7 @@ namespace tarvo {
 namespace {
 
 constexpr int kTwipsPorPunto = 15;
+constexpr int kNombreMayor = 100;  // characters; no window shows more of a name
 constexpr int kDetalleMenor = 600; // twips, on the narrowest screens
 
 QString TextoMovimientos(int filas) {
@@ -109,6 +110,8 @@ ListaVista *FrmEstados::Vista(ListaCuenta cual) const {
 void FrmEstados::Mostrar(const PantallaEstados &pantalla) {
     ui_->lblTitulo->setText(ReglasDe(pantalla.lista).titulo);
     ui_->lblCliente->setText(pantalla.cliente);
+    ui_->lblCliente->PonerAncho(
+        ui_->lblCliente->fontMetrics().horizontalAdvance(pantalla.cliente.left(kNombreMayor)));
     ui_->lblIdCliente->setText(pantalla.idCliente);
     ui_->lblCliente1->setVisible(pantalla.conCliente);
     ui_->lblSaldo1->setText(ReglasDe(pantalla.lista).rotulo);
