@@ -232,6 +232,7 @@ TEST(OrdenCuenta, ADateHeaderSortsByTheHiddenColumnOfItsList) {
                 columna.Agregar("x");
             lista.Asignar(std::move(contenido));
         };
+        lista.ClicEncabezado(2); // nothing, without rows
         llenar();
         EXPECT_EQ(lista.ColumnaOrden(), ultima);
         EXPECT_EQ(lista.ColumnaFlecha(), 0);
