@@ -7,6 +7,7 @@
 #include "shell/apertura.h"
 #include "shell/medidas.h"
 #include "shell/ventanas/acciones.h"
+#include "shell/ventanas/ajustebarra.h"
 #include "shell/ventanas/areamodulos.h"
 #include "shell/ventanas/frmabout.h"
 #include "shell/ventanas/letras.h"
@@ -291,6 +292,7 @@ void FrmPrincipal::AjustarAncho() {
     ayuda->setVisible(CabeAyuda(ancho));
     const QList<QAction *> botones = ui_->tbrPrincipal->actions();
     botones.at(botones.indexOf(ayuda) - 1)->setVisible(CabeAyuda(ancho)); // no separator before nothing
+    AjustarBarra(*ui_->tbrPrincipal, width());
     const bool llena = (windowState() & (Qt::WindowMaximized | Qt::WindowFullScreen)) != 0;
     ui_->SB1->PonerAncho(APixeles(AnchoSeparador(ancho, llena)));
 }

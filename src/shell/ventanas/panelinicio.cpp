@@ -1,6 +1,5 @@
 #include "shell/ventanas/panelinicio.h"
 
-#include "shell/conmutador.h"
 #include "shell/ventanas/acciones.h"
 
 #include <QAction>
@@ -14,6 +13,7 @@ namespace tarvo {
 namespace {
 
 constexpr int kImagen = 48; // pixels
+constexpr int kAncho = 150;
 constexpr int kPorFila = 3;
 
 QLabel *Rotulo(QBoxLayout &pila) {
@@ -68,13 +68,16 @@ PanelInicio::PanelInicio(const Acciones &acciones) {
     auto *grupo = new QButtonGroup(this); // the arrows move among its buttons
     grupo->setExclusive(false);
     int cual = 0;
-    for (const Modulo modulo : kModulos) {
-        const Entrada entrada = DatosDe(modulo).entrada;
-        auto *boton = new BotonModulo(*acciones.DeBarra(entrada), *acciones.DeMenu(entrada), this);
+    for (const std::optional<Entrada> &entrada : OrdenBarra()) {
+        if (!entrada)
+            break; // behind the first separator come the tools
+        auto *boton = new BotonModulo(*acciones.DeBarra(*entrada), *acciones.DeMenu(*entrada), this);
         grupo->addButton(boton);
         rejilla->addWidget(boton, 1 + cual / kPorFila, 1 + cual % kPorFila);
         ++cual;
     }
+    for (int columna = 1; columna <= kPorFila; ++columna)
+        rejilla->setColumnMinimumWidth(columna, kAncho);
     rejilla->setRowStretch(0, 2);
     rejilla->setRowStretch(1 + (cual + kPorFila - 1) / kPorFila, 3);
     rejilla->setColumnStretch(0, 1);
