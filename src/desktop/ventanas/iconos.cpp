@@ -29,7 +29,7 @@ QIcon IconoDe(const QString &clave) {
     Tabla tabla = qApp->property(kTabla).value<Tabla>();
     if (const auto icono = tabla.constFind(clave); icono != tabla.constEnd())
         return *icono;
-    const QIcon icono = Leer(clave);
+    QIcon icono = Leer(clave);
     tabla.insert(clave, icono);
     qApp->setProperty(kTabla, QVariant::fromValue(tabla));
     return icono;
