@@ -45,7 +45,7 @@ bool PulsarLetra(const QWidget &raiz, const QKeySequence &letra) {
 
 // The toolkit has no call for it: the menu bar watches its window for these two events.
 void EntrarAlMenu(QMenuBar &menu) {
-    QKeyEvent baja(QEvent::ShortcutOverride, Qt::Key_Alt, Qt::AltModifier);
+    QKeyEvent baja(QEvent::ShortcutOverride, Qt::Key_Alt, Qt::NoModifier); // adds its own modifier
     QCoreApplication::sendEvent(menu.window(), &baja);
     QKeyEvent sube(QEvent::KeyRelease, Qt::Key_Alt, Qt::NoModifier);
     QCoreApplication::sendEvent(menu.window(), &sube);
