@@ -198,7 +198,7 @@ TEST_F(PruebaRespaldo, FilesThatOthersHoldOrTookAwayAreTold) {
 }
 
 TEST_F(PruebaRespaldo, TargetsThatCanNotBeMadeAreTold) {
-    const QString larga = tienda.Carpeta() + QStringLiteral("/a").repeated(2000) + QLatin1Char('/');
+    const QString larga = tienda.Carpeta() + QStringLiteral("/a").repeated(2100) + QLatin1Char('/');
     const char *const kNoHay = "No se pudo crear la carpeta \"x\": no se encuentra la ruta o el archivo.";
     Escribir("archivo", {});
     const std::pair<QString, const char *> casos[] = {
