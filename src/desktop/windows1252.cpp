@@ -3,13 +3,21 @@
 #include <QStringDecoder>
 #include <QStringEncoder>
 
+#include <algorithm>
+
 namespace tarvo {
 
 namespace {
 constexpr const char *kPagina = "windows-1252";
 }
 
+// Nearly every text has only characters that have the same number in Latin-1, which is quick to write.
 QByteArray AWindows1252(const QString &texto) {
+    const auto comun = [](QChar c) {
+        return c.unicode() < 0x80 || (c.unicode() >= 0xA0 && c.unicode() <= 0xFF);
+    };
+    if (std::all_of(texto.cbegin(), texto.cend(), comun))
+        return texto.toLatin1();
     QStringEncoder codificador(kPagina);
     Q_ASSERT(codificador.isValid());
     QByteArray bytes = codificador.encode(texto);

@@ -120,8 +120,10 @@ Cerrojo::~Cerrojo() {
 }
 
 Archivo::Archivo(const QString &ruta, Modo modo) : ruta_(ruta), fd_(Abrir(ruta, modo)) {
-    if (fd_ >= 0)
+    if (fd_ >= 0) {
+        ::posix_fadvise(fd_, 0, 0, POSIX_FADV_SEQUENTIAL);
         return;
+    }
     const int error = errno;
     if (modo == Modo::Leer && error == ENOENT && QFileInfo(CarpetaDe(ruta)).isDir())
         Fallar(errores::kArchivoNoEncontrado, error, "leer", ruta);
