@@ -1,12 +1,12 @@
 #include "documents/archivofactura.h"
 
 #include "desktop/reloj.h"
+#include "desktop/windows1252.h"
 #include "documents/archivos.h"
 #include "store/errordatos.h"
 
 #include <QFileInfo>
 #include <QSaveFile>
-#include <QStringConverter>
 
 #include <algorithm>
 #include <charconv>
@@ -18,7 +18,6 @@ namespace tarvo {
 
 namespace {
 
-constexpr const char *kPaginaCodigos = "windows-1252";
 constexpr std::size_t kFichas = 368;
 constexpr std::size_t kFichasMarca = 4; // maker, date, time, format: never looked at
 constexpr qint64 kTrozo = 32 * 1024;
@@ -60,12 +59,9 @@ class Escritor {
     }
     // A line end inside a token would end the line; a character that the code page lacks is a "?".
     QByteArray Bytes() {
-        constexpr char kSustituto = 0x1A; // the converter's
         std::replace_if(
             linea_.begin(), linea_.end(), [](QChar c) { return c == u'\r' || c == u'\n'; }, QLatin1Char(' '));
-        QStringEncoder codificador(kPaginaCodigos);
-        QByteArray bytes = codificador(linea_);
-        return bytes.replace(kSustituto, '?') + "\r\n";
+        return AWindows1252(linea_) + "\r\n";
     }
 
   private:
@@ -102,7 +98,7 @@ QByteArray PrimeraLinea(QIODevice &entrada) {
 // token; neither does what stands behind the last comma.
 class Cola {
   public:
-    explicit Cola(const QByteArray &linea) : linea_(QStringDecoder(kPaginaCodigos)(linea)) {
+    explicit Cola(const QByteArray &linea) : linea_(DeWindows1252(linea)) {
         fichas_.reserve(kFichas);
         qsizetype desde = 1;
         for (qsizetype coma = linea_.indexOf(u','); coma >= 0 && fichas_.size() < kFichas;
