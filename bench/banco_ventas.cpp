@@ -7,6 +7,7 @@
 #include "ventacruda.h"
 
 #include "desktop/ventanas/listavista.h"
+#include "sales/ultimocomprobante.h"
 #include "sales/ventanas/frmventas.h"
 #include "store/transaccion.h"
 
@@ -150,7 +151,7 @@ void DosEntrar() {
 class Caja {
   public:
     explicit Caja(const QString &carpeta) : puesto_(carpeta) {
-        ventana_ = std::make_unique<FrmVentas>(puesto_.servicios(), puesto_.anfitrion, nullptr);
+        ventana_ = std::make_unique<FrmVentas>(puesto_.servicios(), puesto_.anfitrion, ultimo_, nullptr);
         ventana_->resize(800, 455);
         ventana_->show();
         ventana_->activateWindow();
@@ -203,6 +204,7 @@ class Caja {
   private:
     Puesto puesto_;
     Pintado pintado_;
+    UltimoComprobante ultimo_{puesto_.servicios()};
     std::unique_ptr<FrmVentas> ventana_;
     ListaVista *detalle_ = nullptr;
     ListaVista *articulos_ = nullptr;

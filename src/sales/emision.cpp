@@ -120,7 +120,8 @@ Comprobante HacerComprobante(const Venta &venta) {
     return comprobante;
 }
 
-ResultadoEmision Emitir(const Servicios &servicios, const Venta &venta, const QString &impresora) {
+ResultadoEmision Emitir(const Servicios &servicios, const Venta &venta, const QString &impresora,
+                        const std::function<void(const Comprobante &)> &alEmitir) {
     Preguntas &preguntas = servicios.preguntas;
     if (!venta.EnCurso()) {
         preguntas.Informar(QStringLiteral("Debe agregar al menos un artículo a la lista."));
@@ -135,6 +136,7 @@ ResultadoEmision Emitir(const Servicios &servicios, const Venta &venta, const QS
     const Comprobante comprobante = HacerComprobante(venta);
     if (!IntentarGuardar(servicios, venta, comprobante))
         return ResultadoEmision::NoGuardada;
+    alEmitir(comprobante);
     OfrecerTicket(servicios, comprobante, impresora);
     preguntas.Informar(QStringLiteral("La venta se realizó con exito."));
     return ResultadoEmision::Emitida;

@@ -9,6 +9,8 @@
 #include "documents/ticket.h"
 #include "sales/venta.h"
 
+#include <functional>
+
 namespace tarvo {
 
 enum class ResultadoEmision {
@@ -22,7 +24,10 @@ enum class ResultadoEmision {
 // Validates, asks, writes, offers the ticket on `impresora` and tells the success. The sale stays as it is:
 // starting over after Emitida is the caller's. The document is what the sale holds when the operator has
 // confirmed, since the clock goes on while the question is up; table and ticket get the same one.
-ResultadoEmision Emitir(const Servicios &servicios, const Venta &venta, const QString &impresora);
+// `alEmitir` gets it as soon as it is stored.
+ResultadoEmision Emitir(
+    const Servicios &servicios, const Venta &venta, const QString &impresora,
+    const std::function<void(const Comprobante &)> &alEmitir = [](const Comprobante &) {});
 
 // The document as paper shows it. A custom tax in use that has no name is called "Impuesto".
 Comprobante HacerComprobante(const Venta &venta);

@@ -129,7 +129,7 @@ TEST_F(Escaner, AScanIntoABoxAnswersNoQuestionAndIsSearchedBehindIt) {
     Cuadros cuadros;
     ventana = std::make_unique<FrmVentas>(
         Servicios{mundo.frmBases(), cuadros, mundo.reloj, mundo.impresoras, mundo.ajustes, mundo.escritorio},
-        anfitrion, nullptr);
+        anfitrion, Ultimo(), nullptr);
     MostrarVentana(*ventana);
     const auto escanear = [this](QDialog &) { Escaneado(kAzucar); };
     const auto hallado = [this] {

@@ -5,6 +5,7 @@
 
 #include "desktop/anfitrion.h"
 #include "desktop/ventanas/listavista.h"
+#include "sales/ultimocomprobante.h"
 #include "sales/ventanas/frmventas.h"
 
 #include <QAction>
@@ -36,9 +37,15 @@ class VentanaVentas : public ::testing::Test {
     VentanaVentas() { mundo.datos.Ejecutar(kTienda); }
 
     void Abrir() {
-        ventana = std::make_unique<FrmVentas>(mundo.servicios(), anfitrion, nullptr);
+        ventana = std::make_unique<FrmVentas>(mundo.servicios(), anfitrion, Ultimo(), nullptr);
         ventana->resize(800, 455);
         MostrarVentana(*ventana);
+    }
+    // The document that was issued last in this program.
+    UltimoComprobante &Ultimo() {
+        if (!ultimo)
+            ultimo = std::make_unique<UltimoComprobante>(mundo.servicios());
+        return *ultimo;
     }
     template <typename T> T *C(const char *nombre) { return Control<T>(*ventana, nombre); }
     QLineEdit *Campo(const char *nombre) { return C<QLineEdit>(nombre); }
@@ -65,6 +72,7 @@ class VentanaVentas : public ::testing::Test {
 
     MundoPrueba mundo;
     AnfitrionMudo anfitrion;
+    std::unique_ptr<UltimoComprobante> ultimo;
     std::unique_ptr<FrmVentas> ventana;
 };
 

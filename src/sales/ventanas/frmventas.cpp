@@ -9,7 +9,9 @@
 #include "desktop/ventanas/solocaracteres.h"
 #include "documents/impresoras.h"
 #include "masterdata/ventanas/picclientes.h"
+#include "sales/ultimocomprobante.h"
 #include "sales/ventanas/camposescaner.h"
+#include "sales/ventanas/tarjetaultimo.h"
 #include "store/store.h"
 #include "ui_frmventas.h"
 
@@ -37,15 +39,18 @@ std::vector<ModoBusqueda> ModosArticulos() {
 
 } // namespace
 
-FrmVentas::FrmVentas(Servicios servicios, Anfitrion &anfitrion, QWidget *padre)
+FrmVentas::FrmVentas(Servicios servicios, Anfitrion &anfitrion, UltimoComprobante &ultimo, QWidget *padre)
     : VentanaModulo(padre),
       ui_(std::make_unique<Ui::FrmVentas>()),
+      ultimo_(ultimo),
       escaner_(servicios.preguntas),
       anfitrion_(anfitrion),
       servicios_{servicios.frmBases,   escaner_,          servicios.reloj,
                  servicios.impresoras, servicios.ajustes, servicios.escritorio},
       venta_(servicios.frmBases) {
     ui_->setupUi(this);
+    frUltimo = new TarjetaUltimo(ultimo_);
+    ui_->columnaDatos->insertWidget(ui_->columnaDatos->indexOf(ui_->cmdNuevo) + 1, frUltimo);
     filtro_ = new FiltroCampos(this);
     PrepararReloj();
     PrepararControles();
@@ -328,7 +333,8 @@ void FrmVentas::Buscar() {
 }
 
 void FrmVentas::Emitir() {
-    switch (tarvo::Emitir(servicios_, venta_, impresora_)) {
+    const auto alEmitir = [this](const Comprobante &comprobante) { ultimo_.Poner(comprobante); };
+    switch (tarvo::Emitir(servicios_, venta_, impresora_, alEmitir)) {
     case ResultadoEmision::SinLineas:
         EnfocarBusqueda();
         break;

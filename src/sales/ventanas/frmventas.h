@@ -21,11 +21,14 @@ class Anfitrion;
 class BarraBusqueda;
 class FiltroCampos;
 class PicClientes;
+class TarjetaUltimo;
+class UltimoComprobante;
 
 class FrmVentas : public VentanaModulo {
     Q_OBJECT
   public:
-    FrmVentas(Servicios servicios, Anfitrion &anfitrion, QWidget *padre);
+    // `ultimo` outlives the window, which shows it and puts there what it issues.
+    FrmVentas(Servicios servicios, Anfitrion &anfitrion, UltimoComprobante &ultimo, QWidget *padre);
     ~FrmVentas() override;
 
     bool EntradaEnCurso() const override;
@@ -78,6 +81,8 @@ class FrmVentas : public VentanaModulo {
     void Emitir();
 
     std::unique_ptr<Ui::FrmVentas> ui_;
+    UltimoComprobante &ultimo_;
+    TarjetaUltimo *frUltimo = nullptr;
     RutaEscaner escaner_;
     Anfitrion &anfitrion_;
     Servicios servicios_; // whose questions go through the scanner's road

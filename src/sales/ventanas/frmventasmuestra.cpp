@@ -3,6 +3,7 @@
 #include "desktop/reloj.h"
 #include "masterdata/ventanas/picclientes.h"
 #include "sales/ventanas/frmventas.h"
+#include "sales/ventanas/tarjetaultimo.h"
 #include "store/store.h"
 #include "ui_frmventas.h"
 
@@ -114,6 +115,8 @@ void FrmVentas::AjustarColumnas() {
 
 void FrmVentas::resizeEvent(QResizeEvent *evento) {
     VentanaModulo::resizeEvent(evento);
+    constexpr int kAltoHolgado = 640; // pixels; below it the card takes a line only
+    frUltimo->Plegar(height() < kAltoHolgado);
     picClientes_->Colocar(rect().adjusted(0, ui_->lblTitulo->height(), 0, 0));
     AjustarColumnas();
 }

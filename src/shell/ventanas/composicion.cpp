@@ -9,6 +9,7 @@
 #include "masterdata/ventanas/frmarticulos.h"
 #include "masterdata/ventanas/frmclientes.h"
 #include "masterdata/ventanas/frmproveedores.h"
+#include "sales/ultimocomprobante.h"
 #include "sales/ventanas/frmventas.h"
 #include "store/store.h"
 
@@ -53,8 +54,12 @@ bool Composicion::Hay(Entrada entrada) const {
 
 Composicion Componer(const Servicios &servicios) {
     Composicion composicion;
+    const auto ultimo = std::make_shared<UltimoComprobante>(servicios); // until the program ends
+    const auto ventas = [servicios, ultimo](Anfitrion &anfitrion, QWidget *padre) {
+        return new FrmVentas(servicios, anfitrion, *ultimo, padre);
+    };
     composicion.modulos = {
-        {Modulo::Ventas, Fabrica<FrmVentas>(servicios)},
+        {Modulo::Ventas, ventas},
         {Modulo::Estados, Fabrica<FrmEstados>(servicios)},
         {Modulo::Articulos, Fabrica<FrmArticulos>(servicios)},
         {Modulo::Clientes, Fabrica<FrmClientes>(servicios)},

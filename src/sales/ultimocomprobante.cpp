@@ -1,0 +1,80 @@
+#include "sales/ultimocomprobante.h"
+
+#include "desktop/preguntas.h"
+#include "documents/factura.h"
+#include "documents/impresoras.h"
+#include "documents/superficie.h"
+#include "documents/ticket.h"
+#include "store/errordatos.h"
+#include "store/store.h"
+
+#include <exception>
+#include <functional>
+
+namespace tarvo {
+
+namespace {
+
+// What the one row of table Factura holds; nothing when it can't be read.
+struct AjustesFactura {
+    QString ruta;
+    int lineas = 0;
+};
+
+AjustesFactura LeerAjustes(FrmBases &bases) {
+    try {
+        bases.datFactura.MoveFirst();
+        return {bases.camFacRutaFactura.Texto(), bases.camFacCantLineas.Texto().toInt()};
+    } catch (const ErrorDatos &) {
+        return {};
+    }
+}
+
+void Imprimir(const Servicios &servicios, ClasePapel clase, const QString &titulo,
+              const std::function<void(Superficie &)> &imprimir) {
+    try {
+        ElegirImpresora(servicios.impresoras, servicios.ajustes, Proposito::Ticket);
+        const auto papel = servicios.impresoras.NuevoDocumento(clase, titulo);
+        imprimir(*papel);
+    } catch (const std::exception &error) {
+        servicios.preguntas.Mostrar(
+            QStringLiteral("No se pudo imprimir. %1").arg(QString::fromUtf8(error.what())), Icono::Critico);
+    }
+}
+
+} // namespace
+
+void UltimoComprobante::Poner(const Comprobante &comprobante) {
+    documento_ = comprobante;
+    emit Cambiado();
+}
+
+bool UltimoComprobante::HayDiseno() const {
+    return !LeerAjustes(servicios_.frmBases).ruta.isEmpty();
+}
+
+void UltimoComprobante::ReimprimirTicket() {
+    if (!documento_)
+        return;
+    Imprimir(servicios_, ClasePapel::Rollo, documento_->tipo, [this](Superficie &papel) {
+        ImprimirTicket(papel, LeerCabecera(servicios_.frmBases), *documento_);
+    });
+}
+
+void UltimoComprobante::ImprimirFactura() {
+    const AjustesFactura ajustes = LeerAjustes(servicios_.frmBases);
+    if (!documento_ || ajustes.ruta.isEmpty())
+        return;
+    FormularioFactura formulario;
+    try {
+        CargarFormulario(ajustes.ruta, formulario);
+    } catch (const ErrorDatos &error) {
+        AvisarLectura(servicios_.preguntas, error);
+        return;
+    }
+    Imprimir(servicios_, ClasePapel::Formulario, QStringLiteral("Factura"), [&](Superficie &papel) {
+        tarvo::ImprimirFactura(papel, formulario, *documento_, ajustes.lineas);
+    });
+}
+
+} // namespace tarvo

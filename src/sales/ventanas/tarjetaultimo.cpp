@@ -1,0 +1,108 @@
+#include "sales/ventanas/tarjetaultimo.h"
+
+#include "desktop/ventanas/etiquetaelidida.h"
+#include "desktop/ventanas/iconos.h"
+#include "sales/ultimocomprobante.h"
+
+#include <QGridLayout>
+#include <QKeySequence>
+#include <QPushButton>
+
+#include <utility>
+
+namespace tarvo {
+
+namespace {
+
+constexpr QKeyCombination kTeclaTicket = Qt::CTRL | Qt::Key_R;
+constexpr QKeyCombination kTeclaFactura = Qt::CTRL | Qt::Key_I;
+
+} // namespace
+
+TarjetaUltimo::TarjetaUltimo(UltimoComprobante &ultimo, QWidget *padre)
+    : QFrame(padre),
+      ultimo_(ultimo),
+      lblUltimo(new EtiquetaElidida(this)),
+      lblUltimoTotal(new EtiquetaElidida(this)),
+      cmdReimprimir(CrearBoton(QStringLiteral("cmdReimprimir"), QStringLiteral("Reimprimir ticket"),
+                               QStringLiteral("imprimir"), kTeclaTicket)),
+      cmdFactura(CrearBoton(QStringLiteral("cmdFactura"), QStringLiteral("Imprimir factura"),
+                            QStringLiteral("factura"), kTeclaFactura)) {
+    setObjectName(QStringLiteral("frUltimo"));
+    setProperty("tarjeta", true);
+    setAccessibleName(QStringLiteral("Último comprobante"));
+    lblUltimo->setObjectName(QStringLiteral("lblUltimo"));
+    lblUltimo->setProperty("tenue", true);
+    lblUltimoTotal->setObjectName(QStringLiteral("lblUltimoTotal"));
+    for (EtiquetaElidida *etiqueta : {lblUltimo, lblUltimoTotal})
+        etiqueta->setTextFormat(Qt::PlainText);
+    auto *rejilla = new QGridLayout(this);
+    rejilla->setContentsMargins(9, 4, 9, 4);
+    rejilla->setSpacing(4);
+    rejilla->setColumnStretch(0, 1);
+    rejilla->setColumnStretch(1, 1);
+    Plegar(false);
+    connect(cmdReimprimir, &QPushButton::clicked, &ultimo_, &UltimoComprobante::ReimprimirTicket);
+    connect(cmdFactura, &QPushButton::clicked, &ultimo_, &UltimoComprobante::ImprimirFactura);
+    connect(&ultimo_, &UltimoComprobante::Cambiado, this, &TarjetaUltimo::Mostrar);
+    Mostrar();
+}
+
+QPushButton *TarjetaUltimo::CrearBoton(const QString &nombre, const QString &texto, const QString &imagen,
+                                       const QKeySequence &tecla) {
+    auto *boton = new QPushButton(IconoDe(imagen), texto, this);
+    boton->setObjectName(nombre);
+    boton->setToolTip(QStringLiteral("%1 (%2)").arg(texto, tecla.toString(QKeySequence::NativeText)));
+    boton->setAccessibleName(texto);
+    boton->setAutoDefault(false);
+    boton->setFocusPolicy(Qt::NoFocus);
+    return boton;
+}
+
+// Folded, the buttons are pictures behind the one line.
+void TarjetaUltimo::Plegar(bool plegada) {
+    plegada_ = plegada;
+    auto *rejilla = static_cast<QGridLayout *>(layout());
+    for (QWidget *control :
+         std::initializer_list<QWidget *>{lblUltimo, lblUltimoTotal, cmdReimprimir, cmdFactura})
+        rejilla->removeWidget(control);
+    lblUltimo->setVisible(!plegada);
+    for (auto [boton, tecla] : {std::pair(cmdReimprimir, kTeclaTicket), {cmdFactura, kTeclaFactura}}) {
+        boton->setText(plegada ? QString() : boton->accessibleName());
+        boton->setShortcut(tecla); // a new text has taken it away
+    }
+    if (plegada) {
+        rejilla->addWidget(lblUltimoTotal, 0, 0, 1, 2);
+        rejilla->addWidget(cmdReimprimir, 0, 2);
+        rejilla->addWidget(cmdFactura, 0, 3);
+    } else {
+        rejilla->addWidget(lblUltimo, 0, 0, 1, 2);
+        rejilla->addWidget(lblUltimoTotal, 1, 0, 1, 2);
+        rejilla->addWidget(cmdReimprimir, 2, 0);
+        rejilla->addWidget(cmdFactura, 2, 1);
+    }
+    Mostrar();
+}
+
+void TarjetaUltimo::Mostrar() {
+    const auto &documento = ultimo_.Documento();
+    setVisible(documento.has_value());
+    if (!documento)
+        return;
+    QStringList nombre{documento->tipo};
+    if (!documento->numero.isEmpty())
+        nombre.prepend(documento->numero);
+    const QString titulo = nombre.join(QStringLiteral(" · "));
+    const QString total = QStringLiteral("%1 · %2").arg(documento->totalConDescuento, documento->hora);
+    lblUltimo->setText(titulo);
+    lblUltimoTotal->setText(plegada_ ? total + QStringLiteral(" · ") + titulo : total);
+    cmdFactura->setEnabled(ultimo_.HayDiseno());
+}
+
+// The layout may have been stored since.
+void TarjetaUltimo::showEvent(QShowEvent *evento) {
+    QFrame::showEvent(evento);
+    cmdFactura->setEnabled(ultimo_.HayDiseno());
+}
+
+} // namespace tarvo
