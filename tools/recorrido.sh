@@ -1,11 +1,12 @@
 #!/usr/bin/env bash
-# One sale in the real program, by real keys on a screen of its own, on a fresh sample shop; then its customer's
-# statement, a receipt, the return of the sale, the cash list and the cash sheet of the day; exports, a backup that empties
-# the sales, and their restore. Leaves the pictures of each stage, everything printed or exported and the new rows in
-# salida/, and fails when anything is not as it must be.
+# The shop's invoice form and one sale with its invoice in the real program, by real keys on a screen of its own, on a
+# fresh sample shop; then its customer's statement, a receipt, the return of the sale, the cash list and the cash sheet of
+# the day; exports, a backup that empties the sales, and their restore. Leaves the pictures of each stage, everything
+# printed or exported and the new rows in salida/, and fails when anything is not as it must be.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 source tools/pantalla.sh
+source tools/recorridofactura.sh
 
 readonly SALIDA=$PWD/salida CARPETA=$PWD/build/recorrido NUMERO=0001-00009001
 rm -rf "$SALIDA" "$CARPETA"
@@ -56,6 +57,8 @@ Esperar 30 "la ventana principal" VentanaPrincipal
 EsperarPrincipal
 Retrato principal
 
+DisenarFactura
+
 # The sale: two scans of one unit; of the third article four units.
 Tecla F8
 Retrato ventas
@@ -99,6 +102,7 @@ Retrato exito
 Tecla Return
 EsperarPrincipal
 Retrato emitida
+ImprimirFactura
 
 # The statement of that customer: from the list, which has the focus, back to the search field and to the list again.
 Tecla F7
@@ -229,7 +233,7 @@ Imprimido() {
     pdftoppm -png -r 150 -singlefile "$SALIDA/$2.pdf" "$SALIDA/$2"
     pdftotext -layout "$SALIDA/$2.pdf" - | grep -q "$3" || Fallar "$2 no dice: $3"
 }
-Imprimido factura ticket 'Total c/Descuento'
+Imprimido factura-credito ticket 'Total c/Descuento'
 Imprimido recibo recibo '25,50'
 Imprimido nota nota-de-credito 'Nota de crédito'
 Imprimido planilla planilla-de-caja 'PLANILLA DE CAJA'
