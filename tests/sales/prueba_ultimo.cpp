@@ -43,6 +43,7 @@ TEST_F(Ultimo, StaysBeyondItsWindowAndPrintsTheTicketAgain) {
     mundo.impresoras.fallar = true;
     mundo.preguntas.EsperaMensaje(QStringLiteral("No se pudo imprimir. No hay impresora."), Icono::Critico);
     Tecla(ventana.get(), Qt::Key_R, Qt::ControlModifier);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return mundo.preguntas.Terminado(); })); // a pressed button shows it
     EXPECT_EQ(mundo.datos.Filas("SELECT id FROM ventas.Ventas").size(), 1U);
 }
 
