@@ -27,7 +27,7 @@
 namespace tarvo {
 
 namespace {
-constexpr int kAnchoConRotulos = 700; // pixels; below it the buttons of the toolbar show no captions
+constexpr int kLetrasConRotulos = 100; // in a narrower window the buttons of the toolbar show no captions
 }
 
 FrmPrincipal::FrmPrincipal(const Servicios &servicios, const Composicion &composicion,
@@ -285,8 +285,9 @@ void FrmPrincipal::resizeEvent(QResizeEvent *evento) {
 
 void FrmPrincipal::AjustarAncho() {
     const int ancho = ATwips(width());
-    ui_->tbrPrincipal->setToolButtonStyle(width() < kAnchoConRotulos ? Qt::ToolButtonIconOnly
-                                                                     : Qt::ToolButtonTextUnderIcon);
+    ui_->tbrPrincipal->setToolButtonStyle(width() < kLetrasConRotulos * fontMetrics().horizontalAdvance(u'0')
+                                              ? Qt::ToolButtonIconOnly
+                                              : Qt::ToolButtonTextUnderIcon);
     acciones_->DeBarra(Entrada::Salir)->setVisible(CabeSalir(ancho));
     QAction *const ayuda = acciones_->DeBarra(Entrada::AyudaPdf);
     ayuda->setVisible(CabeAyuda(ancho));
