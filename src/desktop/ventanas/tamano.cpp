@@ -43,8 +43,8 @@ void Escribir(QLayout *disposicion, const Medidas &medidas, double factor) {
 QFont LetraDelPrograma(double puntos) {
     QFont letra;
     // All of these have figures of one width, so that amounts stand in columns.
-    letra.setFamilies(
-        {QStringLiteral("Noto Sans"), QStringLiteral("DejaVu Sans"), QStringLiteral("sans-serif")});
+    letra.setFamilies({QStringLiteral("Noto Sans"), QStringLiteral("DejaVu Sans"),
+                       QStringLiteral("Liberation Sans"), QStringLiteral("sans-serif")});
     letra.setPointSizeF(puntos);
     letra.setStyleHint(QFont::SansSerif);
     return letra;

@@ -1,5 +1,6 @@
 #include "masterdata/ventanas/controlesdetalle.h"
 
+#include "desktop/ventanas/estilo.h"
 #include "desktop/ventanas/filtrocampos.h"
 #include "desktop/ventanas/listavista.h"
 #include "masterdata/listadetalle.h"
@@ -7,16 +8,11 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QStyle>
 
 namespace tarvo {
 
 void MarcarSinDatos(QWidget *campo, bool sinDatos) {
-    if (campo->property("sinDatos").toBool() == sinDatos)
-        return;
-    campo->setProperty("sinDatos", sinDatos);
-    campo->style()->unpolish(campo);
-    campo->style()->polish(campo);
+    Marcar(campo, "sinDatos", sinDatos);
 }
 
 ControlesDetalle::ControlesDetalle(QWidget *marco, ListaVista *lista, QString prefijo, QWidget *bajoPaneles)
