@@ -1,6 +1,8 @@
 // Every window of the program, as a screen reader walks through it.
 #include "mundoprincipal.h"
 
+#include "documents/ventanas/frmfactura.h"
+
 #include <QAccessible>
 #include <QDialog>
 #include <QTimer>
@@ -89,6 +91,8 @@ TEST_F(AccesoTest, EveryControlHasAName) {
         RevisarDialogo([&] { composicion.opciones(false, frm.get()); }, u"options"_qs);
     if (composicion.respaldo)
         RevisarDialogo([&] { composicion.respaldo(frm.get()); }, u"backup"_qs);
+    FrmFactura disenador(mundo.servicios(), mundo.datos.Carpeta(), frm.get());
+    Revisar(&disenador, u"designer"_qs);
     if (composicion.calculadora) {
         const std::unique_ptr<QWidget> calculadora(composicion.calculadora(frm.get()));
         Revisar(calculadora.get(), u"calculator"_qs);
