@@ -36,7 +36,8 @@ FrmConfig::FrmConfig(const Servicios &servicios, bool abrirDisenador, QWidget *p
     Llenar();
     ConectarTeclas();
     SeleccionarNodo(abrirDisenador ? kNodoImpresion : 0);
-    resize(size().boundedTo(screen()->availableSize() - QSize(kMarcoVentana, kTituloVentana)));
+    const QSize cabe = screen()->availableSize() - QSize(kMarcoVentana, kTituloVentana);
+    resize(size().expandedTo(sizeHint()).boundedTo(cabe));
     const auto disenar = [this, servicios] { FrmFactura(servicios, this).exec(); };
     connect(frImpresion, &PanelImpresion::DisenadorPedido, this, disenar);
     if (abrirDisenador) // behind the showing of this window

@@ -16,7 +16,7 @@ class EtiquetaTotal final : public EtiquetaImporte {
 
   protected:
     double TamanoMayor() const override;
-    double Aire() const override { return 0.45; }
+    double Aire() const override { return 0.3; }
     bool eventFilter(QObject *objeto, QEvent *evento) override;
     void showEvent(QShowEvent *evento) override;
 
