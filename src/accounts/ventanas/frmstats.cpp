@@ -61,6 +61,9 @@ void FrmStats::CrearGrafico() {
     ejeDias_ = new QBarCategoryAxis(grafico);
     ejeValores_ = new QValueAxis(grafico);
     ejeDias_->setLabelsColor(colores::kTexto);
+    QFont dias = font();
+    dias.setPointSizeF(dias.pointSizeF() * 0.75); // thirty-one of them stand side by side
+    ejeDias_->setLabelsFont(dias);
     ejeDias_->setGridLineVisible(false);
     ejeValores_->setLabelsColor(colores::kTexto);
     ejeValores_->setGridLineColor(colores::kLineas);
