@@ -39,6 +39,7 @@ class PruebaBotonZel : public ::testing::Test {
         QObject::connect(&boton, &BotonZel::Click, &ventana, [this] { ++clics; });
         MostrarVentana(ventana);
         boton.setFocus();
+        Pedidos_(); // what an earlier test left behind
     }
     QStringList Pedidos_() {
         QCoreApplication::sendPostedEvents();
