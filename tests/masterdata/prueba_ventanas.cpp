@@ -110,17 +110,6 @@ TEST_F(VentanaArticulos, TheNewCategoryPanelCoversTheWindowUntilItIsSavedOrEscap
     EXPECT_EQ(ConFoco(), u"LVArticulos"_qs) << "not the button that is hidden now";
 }
 
-TEST_F(VentanaArticulos, ARefusedCategoryLeavesThePanelAsTyped) {
-    emit C<QComboBox>("cboxFiltrarCategoria")->activated(3);
-    C("txtCatCodigo")->setText(u"1"_qs);
-    C("txtCatCategoria")->setText(u"Otra"_qs);
-    mundo_.preguntas.EsperaMensaje(u"El código ingresado ya existe en la base de datos."_qs,
-                                   Icono::Informacion);
-    Click("cmdCatGuardar");
-    EXPECT_TRUE(C<QFrame>("picNuevaCategoria")->isVisible());
-    EXPECT_EQ(C("txtCatCategoria")->text(), u"Otra"_qs);
-}
-
 TEST_F(VentanaArticulos, TheSearchPanelShutsTheFilterAndLeavesTheFocusInTheEntry) {
     Click("cmdNuevo");
     Teclear(C("txtCodigo"), u"A2"_qs);
