@@ -7,7 +7,9 @@
 int main(int argc, char **argv) {
     tarvo::PreguntasQt preguntas;
     const tarvo::Aplicacion aplicacion(argc, argv, preguntas);
+    const QStringList argumentos = QCoreApplication::arguments();
     return tarvo::Programa(preguntas, QCoreApplication::applicationDirPath(),
                            QStandardPaths::writableLocation(QStandardPaths::AppDataLocation))
-        .Ejecutar(QCoreApplication::arguments().contains(QStringLiteral("--directo")));
+        .Ejecutar({argumentos.contains(QStringLiteral("--directo")),
+                   argumentos.contains(QStringLiteral("--usuarios"))});
 }

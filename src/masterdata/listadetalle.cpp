@@ -289,7 +289,7 @@ void ListaDetalle::Guardar() {
     if (!BotonesDelEstado().guardar || !RequeridosLlenos() || !CamposValidos())
         return;
     const bool nueva = estado_ == EstadoDetalle::Nueva;
-    if (!nueva && !preguntas_.Confirma(reglas_.preguntaModificar, Respuesta::No))
+    if (!nueva && !preguntas_.Confirma(reglas_.preguntaModificar, reglas_.preseleccionada))
         return;
     const int fila = nueva ? -1 : FilaMostrada();
     if (HayDuplicado(fila) || !EnTransaccion(QStringLiteral("guardar"), Textos(), [this] { EscribirFila(); }))
@@ -351,6 +351,7 @@ void ListaDetalle::EscribirFila() {
             detalle.campo->Poner(AGuardar(static_cast<int>(i)));
     }
     reglas_.cursor.Refresh();
+    TrasEscribir(estado_ == EstadoDetalle::Nueva);
 }
 
 void ListaDetalle::TrasModificar(int fila) {
@@ -410,7 +411,7 @@ void ListaDetalle::Eliminar() {
         preguntas_.Informar(reglas_.avisoUltimaFila);
         return;
     }
-    if (!preguntas_.Confirma(reglas_.preguntaEliminar, Respuesta::No))
+    if (!preguntas_.Confirma(reglas_.preguntaEliminar, reglas_.preseleccionada))
         return;
     if (!EnTransaccion(QStringLiteral("eliminar"), {}, [this] { QuitarFila(); }))
         return;

@@ -13,6 +13,7 @@
 
 #include "desktop/buscador.h"
 #include "desktop/listatexto.h"
+#include "desktop/preguntas.h"
 #include "masterdata/indicetextos.h"
 #include "masterdata/vistadetalle.h"
 #include "store/cursor.h"
@@ -58,11 +59,12 @@ struct ReglasDetalle {
     QString indice{};                          // named for Seek; empty: the table has none
     QString preguntaModificar{};
     QString preguntaEliminar{};
-    QString preguntaCerrar{};        // when the program closes during a new entry
-    QString avisoUltimaFila{};       // told instead of deleting the only row; empty: it can go
-    bool vaciaApagaBusqueda = false; // an empty list turns search and print off; else they stay
-    bool nuevoTrasGuardar = false;   // a saved new row begins another one
-    bool rellenarAlGuardar = false;  // every save fills the list again
+    Respuesta preseleccionada = Respuesta::No; // of the two questions before
+    QString preguntaCerrar{};                  // when the program closes during a new entry
+    QString avisoUltimaFila{};                 // told instead of deleting the only row; empty: it can go
+    bool vaciaApagaBusqueda = false;           // an empty list turns search and print off; else they stay
+    bool nuevoTrasGuardar = false;             // a saved new row begins another one
+    bool rellenarAlGuardar = false;            // every save fills the list again
     bool enfocarAlLlenar = false;
     bool enfocarTrasModificar = false;  // a saved change gives the list the focus; else it stays
     bool eliminarApagaExportar = false; // until the fill after it finds rows
@@ -130,6 +132,8 @@ class ListaDetalle {
     // Text of a stored column in its field, and text of a field as it is stored.
     virtual QString AMostrar(int campo, const QString &guardado) const;
     virtual QString AGuardar(int campo) const;
+    // The row is written, in the transaction that goes on.
+    virtual void TrasEscribir(bool /*nueva*/) {}
     // Text of a column in the list row of what was just saved.
     virtual QString CeldaGuardada(int columna) const;
 
@@ -138,7 +142,6 @@ class ListaDetalle {
     Preguntas &preguntas() { return preguntas_; }
     VistaDetalle &vista() { return vista_; }
     const VistaDetalle &vista() const { return vista_; }
-    // Runs `escribir` as one transaction. False when it failed; the operator was told why.
     // Stores what `escribir` writes (see Almacenar); `accion` and `textos` name the operation.
     bool EnTransaccion(const QString &accion, const QStringList &textos,
                        const std::function<void()> &escribir);

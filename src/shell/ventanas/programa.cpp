@@ -1,8 +1,9 @@
 #include "shell/ventanas/programa.h"
 
 #include "documents/ventanas/impresorassistema.h"
-#include "shell/ajustesprincipal.h"
 #include "interchange/reemplazo.h"
+#include "masterdata/ventanas/frmusuarios.h"
+#include "shell/ajustesprincipal.h"
 #include "shell/apertura.h"
 #include "shell/medidas.h"
 #include "shell/ventanas/composicion.h"
@@ -28,13 +29,14 @@ Programa::Programa(Preguntas &preguntas, QString carpetaPrograma, QString carpet
 
 Programa::~Programa() = default;
 
-int Programa::Ejecutar(bool directo) {
+int Programa::Ejecutar(const OpcionesInicio &opciones) {
+    opciones_ = opciones;
     // Between the splash and the main window no window is open.
     QGuiApplication::setQuitOnLastWindowClosed(false);
     // No question holds up a system that is going down: edits are committed, a half-done entry is not kept.
     SenalFin senal;
     connect(&senal, &SenalFin::Pedida, this, [] { QCoreApplication::exit(0); });
-    if (directo || !AjustesPrincipal(ajustes_).Presentacion())
+    if (opciones_.directo || !AjustesPrincipal(ajustes_).Presentacion())
         QTimer::singleShot(0, this, &Programa::Arrancar);
     else
         Presentar();
@@ -80,6 +82,9 @@ void Programa::MostrarPrincipal(const ResultadoApertura &resultado) {
     Avisar(AvisoApertura(resultado));
     QGuiApplication::setQuitOnLastWindowClosed(true);
     frmPrincipal_->Presentar(ATwips(frmPrincipal_->screen()->size().width()));
+    if (opciones_.usuarios)
+        QTimer::singleShot(0, frmPrincipal_.get(),
+                           [this, servicios] { MostrarUsuarios(servicios, frmPrincipal_.get()); });
 }
 
 void Programa::Avisar(const QString &aviso) {

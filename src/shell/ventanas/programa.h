@@ -19,6 +19,12 @@ class PedidosBotones;
 class Impresoras;
 struct ResultadoApertura;
 
+// What the command line asks for.
+struct OpcionesInicio {
+    bool directo = false;  // straight to the main window, as the setting "Presentacion" = 0 does
+    bool usuarios = false; // the window of the users over the main one
+};
+
 class Programa : public QObject {
     Q_OBJECT
   public:
@@ -27,9 +33,8 @@ class Programa : public QObject {
     Programa(Preguntas &preguntas, QString carpetaPrograma, QString carpetaUsuario);
     ~Programa() override;
 
-    // Runs to the end and returns the exit code: 1 when the data could not be had. `directo`: goes straight
-    // to the main window, as the setting "Presentacion" = 0 does.
-    int Ejecutar(bool directo);
+    // Runs to the end and returns the exit code: 1 when the data could not be had.
+    int Ejecutar(const OpcionesInicio &opciones);
 
   private:
     void Presentar();
@@ -44,6 +49,7 @@ class Programa : public QObject {
     Preguntas &preguntas_;
     QString carpetaPrograma_;
     QString carpetaUsuario_;
+    OpcionesInicio opciones_;
     QStringList avisos_;
     QSettings ajustes_;
     RelojSistema reloj_;
