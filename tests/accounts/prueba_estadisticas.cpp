@@ -1,5 +1,6 @@
 #include "accounts/ventanas/frmstats.h"
 #include "accounts/ventasdelmes.h"
+#include "testkit/anfitrionprueba.h"
 #include "testkit/mundoprueba.h"
 
 #include <QBarCategoryAxis>
@@ -47,7 +48,8 @@ TEST(VentasDelMes, AddsInvoicesByDayAndCountsWhatItCantRead) {
 TEST(FrmStats, ShowsSampleValuesUntilTheSalesAreAskedFor) {
     MundoPrueba mundo;
     mundo.datos.Ejecutar(kNoviembre);
-    FrmStats frm(mundo.servicios());
+    AnfitrionPrueba anfitrion;
+    FrmStats frm(mundo.servicios(), anfitrion);
     MostrarVentana(frm);
     auto *const grafico = Control<QChartView>(frm, "Chart1")->chart();
     const auto barras = [&] {

@@ -2,8 +2,8 @@
 #include "cuentasprueba.h"
 
 #include "accounts/ventanas/frmestados.h"
-#include "desktop/anfitrion.h"
 #include "desktop/ventanas/listavista.h"
+#include "testkit/anfitrionprueba.h"
 
 #include <QDateEdit>
 #include <QFrame>
@@ -15,13 +15,6 @@
 
 namespace tarvo {
 namespace {
-
-class AnfitrionExportable final : public Anfitrion {
-  public:
-    bool exportable = false;
-    void PonerExportable(bool posible) override { exportable = posible; }
-    void Sugerencia(const QString &) override {}
-};
 
 class VentanaEstados : public ::testing::Test {
   protected:
@@ -59,7 +52,7 @@ class VentanaEstados : public ::testing::Test {
     }
 
     MundoPrueba mundo;
-    AnfitrionExportable anfitrion;
+    AnfitrionPrueba anfitrion;
     std::unique_ptr<FrmEstados> ventana;
 };
 
@@ -77,7 +70,7 @@ TEST_F(VentanaEstados, OpensEmptyWithTodayInThePickers) {
         EXPECT_FALSE(Se(nombre)) << nombre;
     for (const char *nombre : {"cmdImprimir", "cmdEliminar", "cmdDevolucion", "cmdRecibo", "txtCantidad"})
         EXPECT_FALSE(C<QWidget>(nombre)->isEnabled()) << nombre;
-    EXPECT_FALSE(anfitrion.exportable);
+    EXPECT_FALSE(anfitrion.Exportable());
     EXPECT_FALSE(ventana->ParaExportar().has_value());
     EXPECT_EQ(ConFoco(), QStringLiteral("cmdCliente"));
 }
@@ -87,7 +80,7 @@ TEST_F(VentanaEstados, AReceiptAndAReturnByKeysAlone) {
     ElegirCliente("jua");
     EXPECT_EQ(Texto("lblCliente") + Texto("lblIdCliente"), QStringLiteral("Juan2"));
     EXPECT_EQ(ConFoco(), QStringLiteral("LVEstado"));
-    EXPECT_TRUE(anfitrion.exportable);
+    EXPECT_TRUE(anfitrion.Exportable());
     EXPECT_EQ(ventana->ParaExportar()->nombre, QStringLiteral("LVEstado"));
     EXPECT_EQ(ventana->ParaExportar()->cliente, QStringLiteral("Juan"));
     TabHasta("cmdRecibo");

@@ -1,8 +1,8 @@
 // A window that is only a record: what the list-and-detail logic has put into it.
 #pragma once
 
-#include "desktop/anfitrion.h"
 #include "masterdata/articuloslogica.h"
+#include "testkit/anfitrionprueba.h"
 
 #include <map>
 
@@ -45,15 +45,6 @@ class FiltroPrueba : public VistaFiltro {
     void HabilitarFiltro(bool si) override { habilitado = si; }
     void EnfocarCatCodigo() override {}
     void EnfocarCatCategoria() override {}
-};
-
-// Remembers whether a list can be exported.
-class AnfitrionPrueba : public Anfitrion {
-  public:
-    QList<bool> dicho;
-
-    void PonerExportable(bool posible) override { dicho << posible; }
-    void Sugerencia(const QString &) override {}
 };
 
 } // namespace tarvo

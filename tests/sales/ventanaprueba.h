@@ -3,10 +3,10 @@
 
 #include "tiendaprueba.h"
 
-#include "desktop/anfitrion.h"
 #include "desktop/ventanas/listavista.h"
 #include "sales/ultimocomprobante.h"
 #include "sales/ventanas/frmventas.h"
+#include "testkit/anfitrionprueba.h"
 
 #include <QAction>
 #include <QCheckBox>
@@ -23,14 +23,6 @@
 namespace tarvo {
 
 inline const QString kFinal = QStringLiteral("La búsqueda ha finalizado.");
-
-class AnfitrionMudo final : public Anfitrion {
-  public:
-    void PonerExportable(bool) override {}
-    void Sugerencia(const QString &texto) override { sugerencia = texto; }
-
-    QString sugerencia;
-};
 
 class VentanaVentas : public ::testing::Test {
   protected:
@@ -71,7 +63,7 @@ class VentanaVentas : public ::testing::Test {
     }
 
     MundoPrueba mundo;
-    AnfitrionMudo anfitrion;
+    AnfitrionPrueba anfitrion;
     std::unique_ptr<UltimoComprobante> ultimo;
     std::unique_ptr<FrmVentas> ventana;
 };
