@@ -4,6 +4,7 @@
 #include "testkit/mundoprueba.h"
 
 #include <QComboBox>
+#include <QLineEdit>
 
 namespace tarvo {
 namespace {
