@@ -65,8 +65,8 @@ TEST_F(PruebaUsuarios, ANewUserIsAskedForEverythingInTurn) {
     Avisa("Debe seleccionar una Categoría.");
     Elegir("Operador");
     Guardar();
-    EXPECT_EQ(Guardados(), std::vector{Fila({QStringLiteral("Ana"), QStringLiteral("secreta"),
-                                             QStringLiteral("t917"), QStringLiteral("1")})});
+    EXPECT_EQ(Guardados(), std::vector<Fila>{Fila({QStringLiteral("Ana"), QStringLiteral("secreta"),
+                                                   QStringLiteral("t917"), QStringLiteral("1")})});
     EXPECT_EQ(Control<ListaVista>(*frm, "LVUsuarios")->Lista()->Celda(0, 1), QStringLiteral("Operador"));
 }
 
