@@ -16,10 +16,16 @@ namespace {
 
 constexpr int kTwipsPorPunto = 15;
 constexpr int kNombreMayor = 100;  // characters; no window shows more of a name
+constexpr int kHolgura = 6;        // pixels, for what the measure of a text leaves out
 constexpr int kDetalleMenor = 600; // twips, on the narrowest screens
 
 QString TextoMovimientos(int filas) {
     return filas == 1 ? QStringLiteral("1 movimiento") : QStringLiteral("%1 movimientos").arg(filas);
+}
+
+// Pixels that show the text of the label whole.
+int AnchoNombre(const QLabel &etiqueta) {
+    return etiqueta.fontMetrics().horizontalAdvance(etiqueta.text().left(kNombreMayor)) + kHolgura;
 }
 
 // What the visible list says while it has no rows.
@@ -110,8 +116,7 @@ ListaVista *FrmEstados::Vista(ListaCuenta cual) const {
 void FrmEstados::Mostrar(const PantallaEstados &pantalla) {
     ui_->lblTitulo->setText(ReglasDe(pantalla.lista).titulo);
     ui_->lblCliente->setText(pantalla.cliente);
-    ui_->lblCliente->PonerAncho(
-        ui_->lblCliente->fontMetrics().horizontalAdvance(pantalla.cliente.left(kNombreMayor)));
+    ui_->lblCliente->PonerAncho(AnchoNombre(*ui_->lblCliente));
     ui_->lblIdCliente->setText(pantalla.idCliente);
     ui_->lblCliente1->setVisible(pantalla.conCliente);
     ui_->lblSaldo1->setText(ReglasDe(pantalla.lista).rotulo);
