@@ -116,8 +116,9 @@ void BarraBusqueda::Buscar() {
     }
     const int fila = buscador_.Buscar(*c_.lista->Lista(), {Modo().columna}, texto);
     if (fila < 0) {
-        preguntas_.Informar(QStringLiteral("La búsqueda ha finalizado."));
+        // Before the box: a key that comes while it is closing must not go to the text that was not found.
         c_.lista->setFocus();
+        preguntas_.Informar(QStringLiteral("La búsqueda ha finalizado."));
         emit Terminado();
         return;
     }
