@@ -123,8 +123,11 @@ void ProgramaEnPantalla::Escribir(const QString &texto) {
 }
 
 void ProgramaEnPantalla::Escanear(const std::string &codigo) {
-    Escribir(QString::fromStdString(codigo));
-    Teclas({QStringLiteral("Return"), QStringLiteral("Return")});
+    const QString sinDemora = QStringLiteral("0");
+    Ejecutar(kTeclado,
+             {QStringLiteral("type"), QStringLiteral("--args"), QStringLiteral("1"),
+              QStringLiteral("--delay"), sinDemora, QString::fromStdString(codigo), QStringLiteral("key"),
+              QStringLiteral("--delay"), sinDemora, QStringLiteral("Return"), QStringLiteral("Return")});
 }
 
 void ProgramaEnPantalla::FotoDeFallo() const {

@@ -46,7 +46,7 @@ class ProgramaEnPantalla {
     // Keys by their X names, in turn.
     void Teclas(const QStringList &teclas);
     void Escribir(const QString &texto);
-    // What a barcode scanner sends, and the Enter that adds the article.
+    // What a barcode scanner sends, and the Enter that adds the article, all at once.
     void Escanear(const std::string &codigo);
 
     QStringList VentanasVisibles() const;

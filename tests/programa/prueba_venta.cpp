@@ -126,6 +126,24 @@ TEST_F(VentaPrograma, TicketComesOutOfTheSystemsPrinter) {
         EXPECT_TRUE(texto.contains(k(linea))) << linea << " is not in\n" << texto.toStdString();
 }
 
+// From every control that the Tab key reaches.
+TEST_F(VentaPrograma, EachScanIsSoldWhateverHasTheFocus) {
+    HacerTiendaConocida(carpeta_);
+    ProgramaEnPantalla programa(carpeta_, kDirecto);
+    programa.EsperarPrincipal();
+    programa.Teclas({k("F8")});
+    constexpr int kControles = 18;
+    for (int tabuladores = 0; tabuladores < kControles; ++tabuladores) {
+        if (tabuladores > 0)
+            programa.Teclas(QStringList(tabuladores, k("Tab")));
+        programa.Escanear("7791000000002");
+    }
+    programa.Teclas({k("alt+d"), k("shift+Tab"), k("Down")});
+    EmitirConTicket(programa);
+    programa.Cerrar();
+    EXPECT_EQ(carpeta_.Valor("articulos.mdb", kStock), "5 -13");
+}
+
 // Asked to end by the system while the question of the issue stands, the program closes in order and nothing
 // of the sale is stored; killed behind the commit, all of it is.
 TEST_F(VentaPrograma, EndedFromOutsideTheSaleIsWholeOrAbsent) {
