@@ -138,7 +138,7 @@ bool FiltroCampos::eventFilter(QObject *objeto, QEvent *evento) {
         return false;
     case QEvent::KeyPress: {
         auto *const tecla = static_cast<QKeyEvent *>(evento);
-        teclaAnterior_ = std::exchange(ultimaTecla_, tecla->timestamp());
+        anterior_ = std::exchange(ultima_, {tecla->timestamp(), tecla->isAutoRepeat()});
         return recibe->window() == ventana_->window() && Tecla(recibe, tecla);
     }
     case QEvent::FocusIn:
@@ -188,12 +188,13 @@ bool FiltroCampos::Tecla(QWidget *recibe, QKeyEvent *evento) {
     return false;
 }
 
-// The system takes two strokes of one key with equal times for a held key; no key repeats that fast, but a
-// scanner does that sends its Enter twice.
+// The system takes the second of two strokes for a held key when it comes as the first one ends, as from a
+// scanner that sends its Enter twice. A key that is held begins to repeat much later.
 bool FiltroCampos::Sostenida(const QKeyEvent &evento) const {
-    constexpr quint64 kRepeticionMenor = 5; // ms
-    const bool alaVez = evento.timestamp() != 0 && evento.timestamp() - teclaAnterior_ < kRepeticionMenor;
-    return evento.isAutoRepeat() && !alaVez;
+    constexpr quint64 kEsperaMenor = 100; // ms
+    const bool segunda = evento.timestamp() != 0 && !anterior_.repetida &&
+                         evento.timestamp() - anterior_.momento < kEsperaMenor;
+    return evento.isAutoRepeat() && !segunda;
 }
 
 bool FiltroCampos::Entrar(QWidget *control, const QKeyEvent &evento) {

@@ -40,6 +40,11 @@ class FiltroCampos : public QObject {
     bool eventFilter(QObject *objeto, QEvent *evento) override;
 
   private:
+    struct Pulsacion {
+        quint64 momento = 0; // ms
+        bool repetida = false;
+    };
+
     void Vigilar(QWidget *control);
     QWidget *ControlDe(QWidget *recibe) const;
     bool AdmiteRueda(QWidget *recibe) const;
@@ -58,8 +63,8 @@ class FiltroCampos : public QObject {
     std::function<bool()> alEscapar_;
     QPointer<QWidget> enfocado_; // control whose entering was told; stays it while another window is active
     QPointer<QWidget> porRaton_; // field that a mouse button, still down, gave the focus
-    quint64 ultimaTecla_ = 0;    // times of the strokes, ms
-    quint64 teclaAnterior_ = 0;
+    Pulsacion ultima_;
+    Pulsacion anterior_;
     bool escapeVisto_ = false; // this stroke found nothing to do and is on its way up to the window
 };
 
