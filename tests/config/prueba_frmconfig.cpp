@@ -72,6 +72,10 @@ TEST_F(Ventana, TheListOfTheFirstPanelHasTheFocusAtTheOpening) {
     Sql("INSERT INTO Vendedores (codigo, nombre) VALUES ('1', 'Ana')");
     Abrir();
     EXPECT_EQ(ConFoco(), u"LVIVA"_qs);
+    for (const QString &anterior : {u"TVOpciones"_qs, u"cmdCerrar"_qs, u"cmdGuardarPersonalizado"_qs}) {
+        Tecla(QApplication::focusWidget(), Qt::Key_Backtab, Qt::ShiftModifier);
+        EXPECT_EQ(ConFoco(), anterior);
+    }
 }
 
 TEST_F(Ventana, ASellerIsEnteredWithTheKeyboardAlone) {

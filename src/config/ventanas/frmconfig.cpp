@@ -60,6 +60,7 @@ void FrmConfig::CrearPaneles(const Servicios &servicios) {
     picTicket = new PanelTicket(servicios, frImpresion->ImpresoraTicket(), this);
     ui_->rejilla->addWidget(picTicket, 0, 0, Qt::AlignCenter);
     picTicket->hide();
+    setTabOrder(picTicket->previousInFocusChain(), ui_->cmdCerrar); // behind all panels, as on screen
     connect(frImpresion, &PanelImpresion::LineasTicketPedidas, this, [this] { MostrarTicket(true); });
     connect(ui_->cmdCerrar, &QPushButton::clicked, this, &QDialog::reject);
     connect(picTicket, &PanelTicket::CierrePedido, this, [this] { MostrarTicket(false); });

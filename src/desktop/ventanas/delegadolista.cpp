@@ -16,13 +16,19 @@ namespace tarvo {
 namespace {
 
 constexpr qsizetype kLetrasALaVista = 400; // no column is wide enough for more
-constexpr int kAnchoBarra = 4;              // pixels
+constexpr int kAnchoBarra = 4;             // pixels
 
 QColor FondoDe(const QStyleOptionViewItem &celda) {
     const bool elegida = celda.state.testFlag(QStyle::State_Selected);
     if (!celda.state.testFlag(QStyle::State_Enabled))
         return elegida ? colores::kPresionadoTenue : colores::kDeshabilitado;
     return elegida ? colores::kPresionado : colores::kSegundaFila;
+}
+
+QColor Palido(const QColor &color) {
+    const QColor gris = colores::kTextoTenue;
+    return {(color.red() + 2 * gris.red()) / 3, (color.green() + 2 * gris.green()) / 3,
+            (color.blue() + 2 * gris.blue()) / 3};
 }
 
 } // namespace
@@ -49,10 +55,8 @@ void DelegadoLista::initStyleOption(QStyleOptionViewItem *opcion, const QModelIn
     opcion->state &= ~QStyle::State_HasFocus;
     const bool habilitada = opcion->state.testFlag(QStyle::State_Enabled);
     const QVariant tono = indice.data(Qt::ForegroundRole);
-    const QColor color = tono.isValid() ? tono.value<QColor>()
-                         : habilitada   ? colores::kTexto
-                                        : colores::kTextoTenue;
-    const QColor legible = Legible(color, FondoDe(*opcion));
+    const QColor color = tono.isValid() ? tono.value<QColor>() : colores::kTexto;
+    const QColor legible = Legible(habilitada ? color : Palido(color), FondoDe(*opcion));
     for (const QPalette::ColorRole papel : {QPalette::Text, QPalette::HighlightedText})
         opcion->palette.setColor(papel, legible);
 }
