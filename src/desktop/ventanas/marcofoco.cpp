@@ -55,6 +55,12 @@ int EstiloConMarco::styleHint(StyleHint cual, const QStyleOption *opcion, const 
     return QProxyStyle::styleHint(cual, opcion, control, respuesta);
 }
 
+// The picture of a chosen row stays as dark as those of the others.
+QPixmap EstiloConMarco::generatedIconPixmap(QIcon::Mode modo, const QPixmap &imagen,
+                                            const QStyleOption *opcion) const {
+    return modo == QIcon::Selected ? imagen : QProxyStyle::generatedIconPixmap(modo, imagen, opcion);
+}
+
 MarcoFoco::MarcoFoco(QApplication &aplicacion) : QObject(&aplicacion) {
     connect(&aplicacion, &QApplication::focusChanged, this,
             [this](const QWidget *, QWidget *ahora) { Seguir(ahora); });

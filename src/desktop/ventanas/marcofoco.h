@@ -1,5 +1,6 @@
 // The one focus mark: a ring around whatever has the focus, the same for fields, buttons, lists and links of
-// all windows. The marks that the toolkit draws inside of buttons and rows are left out.
+// all windows. The marks that the toolkit draws inside of buttons and rows are left out, the
+// pale picture of a chosen row too.
 #pragma once
 
 #include <QPointer>
@@ -21,6 +22,8 @@ class EstiloConMarco final : public QProxyStyle {
     int pixelMetric(PixelMetric medida, const QStyleOption *opcion, const QWidget *control) const override;
     int styleHint(StyleHint cual, const QStyleOption *opcion, const QWidget *control,
                   QStyleHintReturn *respuesta) const override;
+    QPixmap generatedIconPixmap(QIcon::Mode modo, const QPixmap &imagen,
+                                const QStyleOption *opcion) const override;
 };
 
 // Moves the ring along with the focus.
