@@ -34,7 +34,7 @@ Esperar() {
 AbrirPantalla() {
     local carpeta=$2
     : >"$carpeta/numero"
-    Xvfb -displayfd 5 -screen 0 "$1x24" -nolisten tcp 5>"$carpeta/numero" 2>"$carpeta/xvfb.log" &
+    Xvfb -displayfd 5 -screen 0 "$1x24" -noreset -nolisten tcp 5>"$carpeta/numero" 2>"$carpeta/xvfb.log" &
     HIJOS+=($!)
     Esperar 15 "la pantalla virtual" test -s "$carpeta/numero"
     DISPLAY=":$(cat "$carpeta/numero")"

@@ -27,10 +27,11 @@ Pantalla::Pantalla() {
     const QString numero = registros_.filePath(QStringLiteral("numero"));
     servidor_.setStandardOutputFile(numero);
     servidor_.setStandardErrorFile(QProcess::nullDevice());
+    // A server that resets itself when its first client leaves would take the window manager along.
     servidor_.start(QStringLiteral("Xvfb"),
                     {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
-                     QStringLiteral("0"), QStringLiteral("1280x900x24"), QStringLiteral("-nolisten"),
-                     QStringLiteral("tcp")});
+                     QStringLiteral("0"), QStringLiteral("1280x900x24"), QStringLiteral("-noreset"),
+                     QStringLiteral("-nolisten"), QStringLiteral("tcp")});
     QByteArray leido;
     Esperar("display number of the X server", [&] {
         QFile archivo(numero);

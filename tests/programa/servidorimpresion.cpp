@@ -40,6 +40,16 @@ void Escribir(const QString &ruta, const QString &texto) {
         archivo.write(texto.toUtf8());
 }
 
+// The driver of the CUPS PDF printer, made to leave PDF as it is: the text of PostScript can't be read back.
+bool EscribirControlador(const QString &ruta) {
+    QFile original(QString::fromLatin1(kControlador));
+    if (!original.open(QIODevice::ReadOnly))
+        return false;
+    Escribir(ruta, QString::fromUtf8(original.readAll()) +
+                       QStringLiteral("*cupsFilter2: \"application/vnd.cups-pdf application/pdf 0 -\"\n"));
+    return true;
+}
+
 bool Responde() {
     return Ejecutar(QStringLiteral("lpstat"), {QStringLiteral("-r")}, true).contains("is running");
 }
@@ -65,6 +75,8 @@ ServidorImpresion::~ServidorImpresion() {
 }
 
 void ServidorImpresion::Configurar() const {
+    // The filters run as another user.
+    QFile::setPermissions(raiz_.path(), QFile::Permissions(0x7755));
     for (const char *carpeta : {"raiz", "cola", "cache", "estado", "papel"})
         QDir(raiz_.path()).mkdir(QLatin1String(carpeta));
     Escribir(Ruta("raiz/cups-files.conf"), QString::fromLatin1(kArchivos).arg(raiz_.path()));
@@ -72,11 +84,13 @@ void ServidorImpresion::Configurar() const {
 }
 
 bool ServidorImpresion::Instalar() const {
+    if (!EscribirControlador(Ruta("controlador.ppd")))
+        return false;
     const QString nombre = QStringLiteral("Mostrador");
     Ejecutar(QStringLiteral("lpadmin"),
              {QStringLiteral("-p"), nombre, QStringLiteral("-E"), QStringLiteral("-P"),
-              QString::fromLatin1(kControlador), QStringLiteral("-v"),
-              QStringLiteral("file:") + Ruta("papel/hoja.ps")},
+              Ruta("controlador.ppd"), QStringLiteral("-v"),
+              QStringLiteral("file:") + Ruta("papel/hoja.pdf")},
              true);
     Ejecutar(QStringLiteral("lpadmin"), {QStringLiteral("-d"), nombre}, true);
     return Ejecutar(QStringLiteral("lpstat"), {QStringLiteral("-d")}, true).contains("Mostrador");
@@ -84,10 +98,9 @@ bool ServidorImpresion::Instalar() const {
 
 QString ServidorImpresion::Texto() const {
     Esperar("the end of the printed paper", [this] {
-        QFile papel(Ruta("papel/hoja.ps"));
-        return papel.open(QIODevice::ReadOnly) && papel.readAll().contains("%%EOF");
+        QFile papel(Ruta("papel/hoja.pdf"));
+        return papel.open(QIODevice::ReadOnly) && papel.readAll().trimmed().endsWith("%%EOF");
     });
-    Ejecutar(QStringLiteral("ps2pdf"), {Ruta("papel/hoja.ps"), Ruta("papel/hoja.pdf")});
     return QString::fromUtf8(
         Ejecutar(QStringLiteral("pdftotext"),
                  {QStringLiteral("-layout"), Ruta("papel/hoja.pdf"), QStringLiteral("-")}));

@@ -25,9 +25,9 @@ void AreaModulos::Mostrar(Modulo modulo) {
     cual_ = modulo;
     // What the window chose to have the keyboard while it was not visible gets it now.
     QWidget *const elegido = abierta_->focusWidget();
+    emit Cambio(true);
     area_.setWidget(abierta_);
     abierta_->show();
-    emit Cambio(true);
     if (!abierta_->isAncestorOf(QApplication::focusWidget()))
         (elegido != nullptr ? elegido : abierta_.data())->setFocus();
 }

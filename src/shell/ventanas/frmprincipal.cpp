@@ -127,9 +127,9 @@ void FrmPrincipal::DesactivarSinVentana() {
 
 // With a module open the Tab key stays within it.
 void FrmPrincipal::MostrarInicio(bool visible) {
+    ui_->SB1->PermitirFoco(visible);
     ui_->area->setVisible(!visible);
     inicio_->setVisible(visible);
-    ui_->SB1->PermitirFoco(visible);
     if (visible)
         inicio_->setFocus();
 }
