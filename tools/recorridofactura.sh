@@ -8,8 +8,9 @@ HayFactura() { ls "$CARPETA"/Impresos/factura-2*.pdf; }
 # EnDisenador <x> <y>: the mouse to a point of the designer's window.
 EnDisenador() { xdotool mousemove --window "$DISENADOR" "$1" "$2"; }
 
-# Orden <n>: presses the n-th button of the designer.
+# Orden <n>: presses the n-th button of the designer, once it has come to rest.
 Orden() {
+    Foto "$CARPETA/registros/reposo.png" >/dev/null
     EnDisenador 862 $((30 + 32 * ($1 - 1)))
     xdotool click 1
 }
@@ -39,11 +40,11 @@ DisenarFactura() {
     Retrato etiqueta
     Tecla shift+Tab space
     Esperar 10 "la vuelta al diseñador" DisenadorActivo
-    # The customer's name, on the canvas, which begins at 29,81 of the window; its corner goes where the cursor is.
-    EnDisenador 329 137
+    # The customer's name, on the canvas, which begins at 30,81 of the window; its corner goes where the cursor is.
+    EnDisenador 330 137
     xdotool mousedown 1
     for paso in 1 2 3 4; do
-        EnDisenador $((329 - 50 * paso)) $((137 + 50 * paso))
+        EnDisenador $((330 - 50 * paso)) $((137 + 50 * paso))
     done
     Retrato arrastre
     xdotool mouseup 1
@@ -59,8 +60,9 @@ DisenarFactura() {
     CUADRO=''
     iconv -f windows-1252 -t utf-8 "$guardada" | grep -q "Vuelva pronto,.*$CARPETA/facturas/logo.bmp," ||
         Fallar "la factura guardada no es la esperada"
-    cut -d, -f9,10 "$guardada" | grep -qx '1500,3840' || Fallar "el campo no quedó donde se soltó"
-    [ "$(Consultar config 'SELECT rutafactura FROM Factura')" = "$guardada" ] || Fallar "falta la ruta de la factura"
+    # 100 and 256 pixels, give or take what a style makes of the window's margins.
+    cut -d, -f9,10 "$guardada" | awk -F, '{ exit !($1 > 1400 && $1 < 1600 && $2 > 3740 && $2 < 3940) }' ||
+        Fallar "el campo no quedó donde se soltó"
 }
 
 # The invoice of the sale that was issued last.
@@ -71,5 +73,7 @@ ImprimirFactura() {
     factura=("$CARPETA"/Impresos/factura-2*.pdf)
     cp "${factura[0]}" "$SALIDA/factura.pdf"
     pdftoppm -png -r 100 -singlefile "$SALIDA/factura.pdf" "$SALIDA/factura"
-    pdftotext -layout "$SALIDA/factura.pdf" - | grep -q "$NUMERO" || Fallar "la factura no tiene el número"
+    pdftotext -layout "$SALIDA/factura.pdf" "$SALIDA/factura.txt"
+    grep -q "$NUMERO" "$SALIDA/factura.txt" || Fallar "la factura no tiene el número"
+    grep -q "Vuelva pronto" "$SALIDA/factura.txt" || Fallar "la factura no está sobre la hoja guardada"
 }
