@@ -16,6 +16,7 @@
 #include "ui_frmventas.h"
 
 #include <QAction>
+#include <QBoxLayout>
 #include <QHeaderView>
 #include <QTimer>
 
@@ -49,8 +50,11 @@ FrmVentas::FrmVentas(Servicios servicios, Anfitrion &anfitrion, UltimoComprobant
                  servicios.impresoras, servicios.ajustes, servicios.escritorio},
       venta_(servicios.frmBases) {
     ui_->setupUi(this);
+    pie_ = new QBoxLayout(QBoxLayout::TopToBottom);
+    ui_->columnaDatos->insertLayout(ui_->columnaDatos->indexOf(ui_->cmdNuevo), pie_);
     frUltimo = new TarjetaUltimo(ultimo_);
-    ui_->columnaDatos->insertWidget(ui_->columnaDatos->indexOf(ui_->cmdNuevo) + 1, frUltimo);
+    pie_->addWidget(ui_->cmdNuevo, 2);
+    pie_->addWidget(frUltimo, 3);
     filtro_ = new FiltroCampos(this);
     PrepararReloj();
     PrepararControles();

@@ -9,6 +9,7 @@
 
 #include <memory>
 
+class QBoxLayout;
 class QLineEdit;
 
 namespace tarvo {
@@ -83,6 +84,7 @@ class FrmVentas : public VentanaModulo {
     std::unique_ptr<Ui::FrmVentas> ui_;
     UltimoComprobante &ultimo_;
     TarjetaUltimo *frUltimo = nullptr;
+    QBoxLayout *pie_ = nullptr; // "Nueva Venta" and the card: below each other, side by side in a low window
     RutaEscaner escaner_;
     Anfitrion &anfitrion_;
     Servicios servicios_; // whose questions go through the scanner's road

@@ -8,6 +8,7 @@
 #include "ui_frmventas.h"
 
 #include <QAction>
+#include <QBoxLayout>
 #include <QSignalBlocker>
 #include <QStyle>
 
@@ -115,8 +116,10 @@ void FrmVentas::AjustarColumnas() {
 
 void FrmVentas::resizeEvent(QResizeEvent *evento) {
     VentanaModulo::resizeEvent(evento);
-    constexpr int kAltoHolgado = 640; // pixels; below it the card takes a line only
-    frUltimo->Plegar(height() < kAltoHolgado);
+    constexpr int kAltoHolgado = 640; // pixels; below it the card takes no line of its own
+    const bool plegada = height() < kAltoHolgado;
+    pie_->setDirection(plegada ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+    frUltimo->Plegar(plegada);
     picClientes_->Colocar(rect().adjusted(0, ui_->lblTitulo->height(), 0, 0));
     AjustarColumnas();
 }

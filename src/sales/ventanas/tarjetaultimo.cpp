@@ -37,7 +37,6 @@ TarjetaUltimo::TarjetaUltimo(UltimoComprobante &ultimo, QWidget *padre)
     for (EtiquetaElidida *etiqueta : {lblUltimo, lblUltimoTotal})
         etiqueta->setTextFormat(Qt::PlainText);
     auto *rejilla = new QGridLayout(this);
-    rejilla->setContentsMargins(9, 4, 9, 4);
     rejilla->setSpacing(4);
     rejilla->setColumnStretch(0, 1);
     rejilla->setColumnStretch(1, 1);
@@ -66,6 +65,7 @@ void TarjetaUltimo::Plegar(bool plegada) {
     for (QWidget *control :
          std::initializer_list<QWidget *>{lblUltimo, lblUltimoTotal, cmdReimprimir, cmdFactura})
         rejilla->removeWidget(control);
+    rejilla->setContentsMargins(plegada ? QMargins(6, 0, 0, 0) : QMargins(9, 4, 9, 4));
     lblUltimo->setVisible(!plegada);
     for (auto [boton, tecla] : {std::pair(cmdReimprimir, kTeclaTicket), {cmdFactura, kTeclaFactura}}) {
         boton->setText(plegada ? QString() : boton->accessibleName());
