@@ -57,7 +57,7 @@ void VentanaCatalogo::Montar(std::unique_ptr<ListaDetalle> logica) {
     OrdenarTabulacion();
     ConectarBotones();
     ConectarBusqueda();
-    controles_->EnfocarLista();
+    LV().setFocus(); // it gets the keyboard when the window is shown
 }
 
 void VentanaCatalogo::Montar(const ReglasDetalle &reglas, Anfitrion &anfitrion) {
