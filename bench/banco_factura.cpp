@@ -33,7 +33,7 @@ DisenoFactura Diseno() {
     DisenoFactura diseno;
     for (EtiquetaLibre &etiqueta : diseno.etiquetas) {
         etiqueta.visible = true;
-        etiqueta.texto = QStringLiteral("Gracias por su compra, señor");
+        etiqueta.texto = QStringLiteral("Gracias por su compra señor");
     }
     return diseno;
 }

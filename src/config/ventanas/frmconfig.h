@@ -24,8 +24,8 @@ class FrmConfig;
 class FrmConfig : public QDialog {
     Q_OBJECT
   public:
-    // All panels are filled at once. `abrirDisenador` starts on the print panel, and the invoice designer opens
-    // over it as soon as the window shows.
+    // All panels are filled at once. `abrirDisenador` starts on the print panel, and the invoice designer
+    // opens over it as soon as the window shows.
     FrmConfig(const Servicios &servicios, bool abrirDisenador, QWidget *padre = nullptr);
     ~FrmConfig() override;
 

@@ -7,6 +7,7 @@
 #include <QGridLayout>
 #include <QKeySequence>
 #include <QPushButton>
+#include <QStyle>
 
 #include <utility>
 
@@ -70,6 +71,8 @@ void TarjetaUltimo::Plegar(bool plegada) {
     for (auto [boton, tecla] : {std::pair(cmdReimprimir, kTeclaTicket), {cmdFactura, kTeclaFactura}}) {
         boton->setText(plegada ? QString() : boton->accessibleName());
         boton->setShortcut(tecla); // a new text has taken it away
+        boton->setProperty("compacto", plegada);
+        boton->style()->polish(boton);
     }
     if (plegada) {
         rejilla->addWidget(lblUltimoTotal, 0, 0, 1, 2);
