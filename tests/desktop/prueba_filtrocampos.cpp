@@ -5,6 +5,7 @@
 #include <QDateEdit>
 #include <QDialog>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSignalSpy>
@@ -57,6 +58,26 @@ TEST(FiltroCampos, EnterWalksTheFieldsAndPressesButtons) {
         << "disabled ones are left out";
     EXPECT_EQ(pulsado.size(), 1);
     EXPECT_EQ(ventana.txtUno->text(), u"uno");
+}
+
+// What the system calls a repeated key is one only when it comes as late as those do: a scanner sends its
+// Enter twice at once, also behind two equal figures.
+TEST(FiltroCampos, AHeldEnterPressesOnceAndASecondOneAtOnceIsItsOwn) {
+    VentanaDeCampos ventana;
+    const QSignalSpy pulsado(ventana.cmdCuatro, &QPushButton::clicked);
+    const auto tecla = [](QWidget *control, Qt::Key cual, quint64 momento, bool repetida) {
+        QKeyEvent evento(QEvent::KeyPress, cual, Qt::NoModifier, QString(), repetida);
+        evento.setTimestamp(momento);
+        QApplication::sendEvent(control, &evento);
+    };
+    tecla(ventana.cmdCuatro, Qt::Key_Return, 1000, false);
+    for (const quint64 momento : {1500U, 1530U, 1560U})
+        tecla(ventana.cmdCuatro, Qt::Key_Return, momento, true);
+    EXPECT_EQ(pulsado.size(), 1);
+    tecla(ventana.txtUno, Qt::Key_5, 3000, false);
+    tecla(ventana.txtUno, Qt::Key_5, 3000, true);
+    tecla(ventana.cmdCuatro, Qt::Key_Return, 3001, true);
+    EXPECT_EQ(pulsado.size(), 2);
 }
 
 TEST(FiltroCampos, AWindowNamesItsExceptions) {

@@ -138,7 +138,7 @@ bool FiltroCampos::eventFilter(QObject *objeto, QEvent *evento) {
         return false;
     case QEvent::KeyPress: {
         auto *const tecla = static_cast<QKeyEvent *>(evento);
-        anterior_ = std::exchange(ultima_, {tecla->timestamp(), tecla->isAutoRepeat()});
+        anterior_ = std::exchange(ultima_, {tecla->key(), tecla->timestamp(), tecla->isAutoRepeat()});
         return recibe->window() == ventana_->window() && Tecla(recibe, tecla);
     }
     case QEvent::FocusIn:
@@ -192,8 +192,9 @@ bool FiltroCampos::Tecla(QWidget *recibe, QKeyEvent *evento) {
 // scanner that sends its Enter twice. A key that is held begins to repeat much later.
 bool FiltroCampos::Sostenida(const QKeyEvent &evento) const {
     constexpr quint64 kEsperaMenor = 100; // ms
-    const bool segunda = evento.timestamp() != 0 && !anterior_.repetida &&
-                         evento.timestamp() - anterior_.momento < kEsperaMenor;
+    const bool enSerie = anterior_.repetida && anterior_.tecla == evento.key();
+    const bool segunda =
+        evento.timestamp() != 0 && !enSerie && evento.timestamp() - anterior_.momento < kEsperaMenor;
     return evento.isAutoRepeat() && !segunda;
 }
 

@@ -41,6 +41,7 @@ class FiltroCampos : public QObject {
 
   private:
     struct Pulsacion {
+        int tecla = 0;
         quint64 momento = 0; // ms
         bool repetida = false;
     };
