@@ -12,6 +12,7 @@
 #include <charconv>
 #include <cmath>
 #include <limits>
+#include <system_error>
 #include <vector>
 
 namespace tarvo {
@@ -114,9 +115,13 @@ class Cola {
         return fichas_[frente_ + lugar];
     }
     float Numero(std::size_t lugar) const {
-        bool vale = false;
-        const float numero = Texto(lugar).trimmed().toFloat(&vale);
-        if (!vale || !std::isfinite(numero))
+        const QByteArray texto = Texto(lugar).trimmed().toLatin1();
+        const char *desde = texto.cbegin();
+        if (texto.startsWith('+') && !texto.startsWith("+-"))
+            ++desde;
+        float numero = 0;
+        const auto leido = std::from_chars(desde, texto.cend(), numero);
+        if (leido.ec != std::errc() || leido.ptr != texto.cend() || !std::isfinite(numero))
             NoSeReconoce();
         return numero;
     }
