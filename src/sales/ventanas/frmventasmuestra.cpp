@@ -119,6 +119,8 @@ void FrmVentas::resizeEvent(QResizeEvent *evento) {
     constexpr int kAltoHolgado = 640; // pixels; below it the card takes no line of its own
     const bool plegada = height() < kAltoHolgado;
     pie_->setDirection(plegada ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+    ui_->cmdNuevo->setProperty("compacto", plegada);
+    ui_->cmdNuevo->style()->polish(ui_->cmdNuevo);
     frUltimo->Plegar(plegada);
     picClientes_->Colocar(rect().adjusted(0, ui_->lblTitulo->height(), 0, 0));
     AjustarColumnas();

@@ -31,6 +31,7 @@ TarjetaUltimo::TarjetaUltimo(UltimoComprobante &ultimo, QWidget *padre)
                             QStringLiteral("factura"), kTeclaFactura)) {
     setObjectName(QStringLiteral("frUltimo"));
     setProperty("tarjeta", true);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     setAccessibleName(QStringLiteral("Último comprobante"));
     lblUltimo->setObjectName(QStringLiteral("lblUltimo"));
     lblUltimo->setProperty("tenue", true);
@@ -38,7 +39,6 @@ TarjetaUltimo::TarjetaUltimo(UltimoComprobante &ultimo, QWidget *padre)
     for (EtiquetaElidida *etiqueta : {lblUltimo, lblUltimoTotal})
         etiqueta->setTextFormat(Qt::PlainText);
     auto *rejilla = new QGridLayout(this);
-    rejilla->setSpacing(4);
     rejilla->setColumnStretch(0, 1);
     rejilla->setColumnStretch(1, 1);
     Plegar(false);
@@ -66,7 +66,8 @@ void TarjetaUltimo::Plegar(bool plegada) {
     for (QWidget *control :
          std::initializer_list<QWidget *>{lblUltimo, lblUltimoTotal, cmdReimprimir, cmdFactura})
         rejilla->removeWidget(control);
-    rejilla->setContentsMargins(plegada ? QMargins(6, 0, 0, 0) : QMargins(9, 4, 9, 4));
+    rejilla->setContentsMargins(plegada ? QMargins(4, 0, 0, 0) : QMargins(9, 4, 9, 4));
+    rejilla->setSpacing(plegada ? 2 : 4);
     lblUltimo->setVisible(!plegada);
     for (auto [boton, tecla] : {std::pair(cmdReimprimir, kTeclaTicket), {cmdFactura, kTeclaFactura}}) {
         boton->setText(plegada ? QString() : boton->accessibleName());
