@@ -13,7 +13,7 @@ namespace tarvo {
 namespace {
 
 constexpr int kImagen = 48; // pixels
-constexpr int kAncho = 150;
+constexpr int kAncho = 10;  // heights of a line: wider than any caption
 constexpr int kPorFila = 3;
 
 QLabel *Rotulo(QBoxLayout &pila) {
@@ -41,7 +41,7 @@ BotonModulo::BotonModulo(QAction &accion, const QAction &menu, QWidget *padre)
 }
 
 QSize BotonModulo::sizeHint() const {
-    return layout()->sizeHint();
+    return layout()->sizeHint().expandedTo({fontMetrics().height() * kAncho, 0});
 }
 
 void BotonModulo::Actualizar() {
@@ -76,8 +76,6 @@ PanelInicio::PanelInicio(const Acciones &acciones) {
         rejilla->addWidget(boton, 1 + cual / kPorFila, 1 + cual % kPorFila);
         ++cual;
     }
-    for (int columna = 1; columna <= kPorFila; ++columna)
-        rejilla->setColumnMinimumWidth(columna, kAncho);
     rejilla->setRowStretch(0, 2);
     rejilla->setRowStretch(1 + (cual + kPorFila - 1) / kPorFila, 3);
     rejilla->setColumnStretch(0, 1);
