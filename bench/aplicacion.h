@@ -1,5 +1,5 @@
-// The start of a bench that shows windows: no screen unless QT_QPA_PLATFORM names one (a screen with a reader's
-// bus measures what speaking costs), the program's own style.
+// The start of a bench that shows windows: no screen unless QT_QPA_PLATFORM names one (a screen with a
+// reader's bus measures what speaking costs), the program's own style.
 #pragma once
 
 #include "comparacion.h"

@@ -22,6 +22,7 @@ struct Parte {
 
 std::vector<int> Anchos(const std::vector<Parte> &partes, double porPeso) {
     std::vector<int> anchos;
+    anchos.reserve(partes.size());
     for (const Parte &parte : partes)
         anchos.push_back(parte.Con(porPeso));
     return anchos;
@@ -60,6 +61,7 @@ std::vector<int> RepartirAncho(int disponible, const std::vector<AnchoColumna> &
         necesario += columna.necesario;
     const bool caben = necesario <= disponible;
     std::vector<Parte> partes;
+    partes.reserve(columnas.size());
     for (const AnchoColumna &columna : columnas)
         partes.push_back(caben
                              ? Parte{double(columna.peso), columna.necesario, std::numeric_limits<int>::max()}

@@ -49,6 +49,16 @@ void ColumnaTexto::Fines::Ajustar() {
     largos_.shrink_to_fit();
 }
 
+std::uint32_t ColumnaTexto::Fines::MayorLargo() const {
+    const auto mayor = [](const auto &fines) {
+        auto largo = fines.empty() ? 0U : std::uint32_t(fines.front());
+        for (std::size_t i = 1; i < fines.size(); ++i)
+            largo = std::max(largo, std::uint32_t(fines[i]) - std::uint32_t(fines[i - 1]));
+        return largo;
+    };
+    return std::max(mayor(cortos_), mayor(largos_));
+}
+
 std::size_t ColumnaTexto::Fines::Bytes() const {
     return cortos_.capacity() * sizeof(std::uint16_t) + largos_.capacity() * sizeof(std::uint32_t);
 }
@@ -126,11 +136,14 @@ void ColumnaTexto::Limpiar() {
     filas_ = 0;
 }
 
-// A pass over the ends alone, without the texts: lists ask for it at every fill.
+// A pass over the ends alone, without the texts: lists ask for it at every fill. A chunk without anything
+// longer than what is kept is passed over as a whole.
 std::vector<std::int64_t> ColumnaTexto::MasLargas(std::size_t cuantas) const {
     using Larga = std::pair<std::uint32_t, std::int64_t>; // length, minus row: the least is the next to go
     std::vector<Larga> largas;
     for (const Tramo &tramo : tramos_) {
+        if (largas.size() == cuantas && tramo.trozo->fin.MayorLargo() <= largas.front().first)
+            continue;
         std::uint32_t inicio = 0;
         for (std::size_t i = 0; i < tramo.trozo->fin.size(); ++i) {
             const std::uint32_t fin = tramo.trozo->fin[i];

@@ -57,6 +57,8 @@ class ColumnaTexto {
         void Mover(std::size_t desde, std::int64_t cambio);
         void Quitar(std::size_t i);
         void Ajustar();
+        // The length of the longest text.
+        std::uint32_t MayorLargo() const;
         std::size_t Bytes() const;
 
       private:

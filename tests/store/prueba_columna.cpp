@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <random>
+#include <set>
 
 namespace tarvo {
 namespace {
@@ -91,6 +92,17 @@ TEST(ColumnaTexto, TakesItsOwnCellAsAValue) {
     ColumnaTexto columna = Llena(3);
     columna.Poner(0, columna.Celda(2));
     EXPECT_EQ(Celdas(columna), (std::vector<std::string>{"fila 2", "fila 1", "fila 2"}));
+}
+
+TEST(ColumnaTexto, TellsItsLongestCellsWhereverTheyAre) {
+    ColumnaTexto columna = Llena(3 * 4096);
+    for (const std::int64_t fila : {0, 5000, 3 * 4096 - 1})
+        columna.Poner(fila, std::string(40 + static_cast<std::size_t>(fila % 7), 'x'));
+    columna.Poner(9000, std::string(70'000, 'x')); // ends beyond 16 bits
+    const auto filas = columna.MasLargas(4);
+    EXPECT_EQ(std::set(filas.begin(), filas.end()), (std::set<std::int64_t>{0, 5000, 3 * 4096 - 1, 9000}));
+    EXPECT_EQ(columna.MasLargas(1), std::vector<std::int64_t>{9000});
+    EXPECT_TRUE(ColumnaTexto().MasLargas(3).empty());
 }
 
 TEST(ColumnaTexto, ALoadedColumnTakesLittleMoreThanItsText) {

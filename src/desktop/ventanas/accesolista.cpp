@@ -3,6 +3,8 @@
 #include "desktop/ventanas/accesocelda.h"
 #include "desktop/ventanas/listavista.h"
 
+#include <algorithm>
+
 namespace tarvo {
 
 AccesoLista::AccesoLista(ListaVista *vista) : QAccessibleWidget(vista, QAccessible::Table) {}
@@ -44,7 +46,8 @@ QAccessibleInterface *AccesoLista::child(int indice) const {
     const auto hecha = celdas_.constFind(indice);
     if (hecha != celdas_.constEnd())
         return QAccessible::accessibleInterface(*hecha);
-    auto *celda = new AccesoCelda(&Vista(), indice / columnCount() - 1, indice % columnCount());
+    const int columnas = std::max(1, columnCount());
+    auto *celda = new AccesoCelda(&Vista(), indice / columnas - 1, indice % columnas);
     celdas_.insert(indice, QAccessible::registerAccessibleInterface(celda));
     return celda;
 }

@@ -1,6 +1,6 @@
 // Paints the cells of a list: each on one line, cut with dots, in the colour of its tone, which is darkened
-// where it could not be read on the row's own colour. A cell that is cut shows its text in a tooltip. The row that the
-// list marks has a bar at its left edge.
+// where it could not be read on the row's own colour. A cell that is cut shows its text in a tooltip. The row
+// that the list marks has a bar at its left edge.
 #pragma once
 
 #include <QStyledItemDelegate>
