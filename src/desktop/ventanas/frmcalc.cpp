@@ -1,11 +1,12 @@
 #include "desktop/ventanas/frmcalc.h"
 
+#include "desktop/ventanas/botonzel.h"
+
 #include <QApplication>
 #include <QClipboard>
 #include <QGridLayout>
 #include <QKeyEvent>
 #include <QLineEdit>
-#include <QPushButton>
 #include <QScreen>
 
 namespace tarvo {
@@ -92,13 +93,13 @@ void FrmCalc::CrearBotones(QGridLayout &rejilla) {
                            QStringLiteral("cmdNumero(%1)").arg(n), QString::number(n), QString::number(n),
                            [this, n] { Digito(n); }});
     for (const Boton &boton : botones) {
-        auto *const control = new QPushButton(boton.texto, this);
+        auto *const control = new BotonZel(boton.texto, this);
         control->setObjectName(boton.nombre);
         control->setAccessibleName(boton.hablado);
         control->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Expanding);
         control->setAutoDefault(false);
         rejilla.addWidget(control, boton.fila, boton.columna);
-        connect(control, &QPushButton::clicked, this, [this, accion = boton.accion] {
+        connect(control, &QAbstractButton::clicked, this, [this, accion = boton.accion] {
             accion();
             Mostrar();
         });

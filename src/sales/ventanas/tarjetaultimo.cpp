@@ -1,12 +1,12 @@
 #include "sales/ventanas/tarjetaultimo.h"
 
+#include "desktop/ventanas/botonzel.h"
 #include "desktop/ventanas/etiquetaelidida.h"
 #include "desktop/ventanas/iconos.h"
 #include "sales/ultimocomprobante.h"
 
 #include <QGridLayout>
 #include <QKeySequence>
-#include <QPushButton>
 #include <QStyle>
 
 #include <utility>
@@ -50,7 +50,8 @@ TarjetaUltimo::TarjetaUltimo(UltimoComprobante &ultimo, QWidget *padre)
 
 QPushButton *TarjetaUltimo::CrearBoton(const QString &nombre, const QString &texto, const QString &imagen,
                                        const QKeySequence &tecla) {
-    auto *boton = new QPushButton(IconoDe(imagen), texto, this);
+    auto *boton = new BotonZel(texto, this);
+    boton->setIcon(IconoDe(imagen));
     boton->setObjectName(nombre);
     boton->setToolTip(QStringLiteral("%1 (%2)").arg(texto, tecla.toString(QKeySequence::NativeText)));
     boton->setAccessibleName(texto);
