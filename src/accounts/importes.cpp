@@ -1,5 +1,7 @@
 #include "accounts/importes.h"
 
+#include <algorithm>
+
 namespace tarvo {
 
 namespace {
@@ -33,6 +35,15 @@ std::optional<double> Importes::Leer(std::string_view celda) const {
     if (!Moneda::EsNumero(numero))
         return std::nullopt;
     return moneda_->Numero(numero);
+}
+
+std::optional<double> Importes::LeerTotal(std::string_view total) const {
+    const std::string_view numero = Numero(total);
+    if (numero.empty() || !Moneda::EsNumero(numero))
+        return std::nullopt;
+    std::string conPunto(numero);
+    std::replace(conPunto.begin(), conPunto.end(), ',', '.');
+    return Moneda::NumeroNeutro(conPunto);
 }
 
 } // namespace tarvo

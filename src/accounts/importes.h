@@ -21,6 +21,9 @@ class Importes {
     // A stored total as money text. The current symbol before it is read over; a text that is no number all
     // the same stays as it stands, behind a symbol: "Bs 12,50" becomes "$ Bs 12,50". Empty text is zero.
     void Agregar(std::string &salida, std::string_view total) const;
+    // A stored total as a number, whether or not the current symbol stands before it; nothing when it is
+    // none.
+    std::optional<double> LeerTotal(std::string_view total) const;
     std::string_view SinSimbolo(std::string_view monto) const { return moneda_->SinSimbolo(monto); }
     const std::string &Cero() const { return cero_; }
 

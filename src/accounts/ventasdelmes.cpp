@@ -49,11 +49,11 @@ VentasDelMes SumarVentasDelMes(FrmBases &frmBases, int mes, int anio) {
     std::string bufer;
     for (std::int64_t fila = 0; fila < fechas.Filas(); ++fila) {
         const std::string_view fecha = FechaOrden(fechas.Celda(fila), bufer);
-        if (!fecha.starts_with(delMes) || !EsFactura(tipos.Celda(fila)))
+        const bool esFecha = fecha.data() == bufer.data(); // one that is none stays as it stands
+        if (!esFecha || !fecha.starts_with(delMes) || !EsFactura(tipos.Celda(fila)))
             continue;
-        const std::optional<double> total = importes.Leer(totales.Celda(fila));
-        const std::size_t dia = std::size_t(std::atoi(fecha.data() + kLugarDia));
-        if (total && dia >= 1 && dia <= ventas.porDia.size())
+        const std::size_t dia = std::size_t(std::atoi(bufer.c_str() + kLugarDia));
+        if (const std::optional<double> total = importes.LeerTotal(totales.Celda(fila)))
             ventas.porDia[dia - 1] += *total;
         else
             ++ventas.ilegibles;

@@ -14,6 +14,12 @@ bool EsSeparador(QChar c) {
     return c == u',' || c == u'.';
 }
 
+QString SinCerosFinales(QString decimal) {
+    while (decimal.endsWith(u'0'))
+        decimal.chop(1);
+    return decimal;
+}
+
 } // namespace
 
 Calculadora::Calculadora(const QString &sDecimal)
@@ -118,9 +124,15 @@ std::optional<double> Calculadora::Resultado(double operando) const {
 }
 
 QString Calculadora::General(double valor) const {
-    return QString::number(valor == 0 ? 0 : valor, 'g', kCifras) // no minus before a zero
-        .toUpper()
-        .replace(u'.', separador_);
+    const double sinSigno = valor == 0 ? 0 : valor; // no minus before a zero
+    QString texto = QString::number(sinSigno, 'g', kCifras);
+    // Without an exponent as long as no more than fifteen decimals are needed.
+    if (std::abs(sinSigno) < 1 && texto.contains(u'e')) {
+        const QString fijo = QString::number(sinSigno, 'f', kCifras);
+        if (fijo.toDouble() == texto.toDouble())
+            texto = SinCerosFinales(fijo);
+    }
+    return texto.toUpper().replace(u'.', separador_);
 }
 
 } // namespace tarvo

@@ -49,6 +49,7 @@ ReglasDetalle ReglasUsuarios(FrmBases &bases) {
         .preguntaEliminar = QStringLiteral("Está seguro de querer eliminar el registro seleccionado?"),
         .preseleccionada = Respuesta::Si,
         .rellenarAlGuardar = true,
+        .enfocarAlLlenar = true,
     };
 }
 

@@ -32,6 +32,8 @@ bool EsLibre(QKeyCombination tecla) {
     static const QList<int> delTexto{Qt::Key_A, Qt::Key_C, Qt::Key_V, Qt::Key_X, Qt::Key_Y, Qt::Key_Z};
     static const QList<int> deVentanas{Qt::Key_B, Qt::Key_G, Qt::Key_I, Qt::Key_K, Qt::Key_N, Qt::Key_R};
     const Qt::KeyboardModifiers con = tecla.keyboardModifiers();
+    if ((con & (Qt::AltModifier | Qt::MetaModifier)) != 0) // the desktop's own
+        return false;
     if (EsFuncion(tecla.key()))
         return tecla != QKeyCombination(Qt::Key_F10) &&
                tecla != QKeyCombination(Qt::ShiftModifier, Qt::Key_F10);
@@ -99,11 +101,30 @@ QString Atajos::MotivoRechazo(Entrada entrada, const QKeySequence &tecla) const 
     if (tecla.count() > 1 || !EsLibre(tecla[0]))
         return QStringLiteral("La tecla %1 está reservada para escribir y moverse por las ventanas. Use una "
                               "tecla de función, o Ctrl con una letra o una cifra.")
-            .arg(tecla.toString(QKeySequence::PortableText));
+            .arg(tecla.toString(QKeySequence::NativeText));
     if (const Entrada *duena = Duena(tecla, entrada))
         return QStringLiteral("La tecla %1 ya es la de \"%2\".")
-            .arg(tecla.toString(QKeySequence::PortableText), Texto(DatosDe(*duena).texto).remove(u'&'));
+            .arg(tecla.toString(QKeySequence::NativeText), NombreDe(*duena));
     return {};
+}
+
+bool Atajos::Restablecer(Entrada entrada) {
+    const QKeySequence inicial = Inicial(entrada);
+    if (Duena(inicial, entrada) != nullptr)
+        return false;
+    if (inicial.isEmpty())
+        teclas_.erase(entrada);
+    else
+        teclas_[entrada] = inicial;
+    return true;
+}
+
+QString Atajos::NombreDe(Entrada entrada) {
+    QString nombre = Texto(DatosDe(entrada).texto).remove(u'&');
+    for (const DatosEntrada &datos : Entradas())
+        if (datos.submenu == DatosDe(entrada).menu)
+            nombre.prepend(Texto(datos.texto).remove(u'&') + QStringLiteral(", "));
+    return nombre;
 }
 
 void Atajos::Poner(Entrada entrada, const QKeySequence &tecla) {

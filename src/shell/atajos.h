@@ -29,11 +29,15 @@ class Atajos {
     // Why `tecla` can't become the key of `entrada`, in Spanish; empty when it can. An entry keeps a key
     // always: an empty one is refused.
     QString MotivoRechazo(Entrada entrada, const QKeySequence &tecla) const;
+    // The key that the entry starts with, or none; false when another entry has it.
+    bool Restablecer(Entrada entrada);
     // The key must not be one that is refused.
     void Poner(Entrada entrada, const QKeySequence &tecla);
     // The keys that the entries start with.
     static QKeySequence Inicial(Entrada entrada);
-    void Restablecer() { *this = Atajos(); }
+    void RestablecerTodos() { *this = Atajos(); }
+    // "Devoluciones, Contado": with the submenu that it stands in.
+    static QString NombreDe(Entrada entrada);
 
     // Takes the keys of a file. A file with another head changes nothing; a file that turns wrong further on
     // counts up to there. An entry whose key would then be refused gets back the one that it started with,

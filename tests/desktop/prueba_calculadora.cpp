@@ -65,6 +65,8 @@ TEST(Calculadora, DisplayAfterKeys) {
         {"1000000*1000000*1000000=+0=", "1E+18"}, // its own result is a number again
         {"0*5s=", "0"},                           // no minus before a zero
         {"1p1*1p1=", "1,21"},
+        {"1/100000=", "0,00001"},
+        {"1/300000=", "3,33333333333333E-06"},
     };
     for (const auto &[teclas, display] : casos)
         EXPECT_EQ(Tras(teclas), QString::fromUtf8(display)) << teclas;

@@ -96,11 +96,12 @@ TEST(Atajos, AnyBytesLeaveOneKeyForEachEntry) {
 
 TEST(Atajos, RefusesKeysThatAreTakenOrWriteText) {
     const Atajos atajos;
-    for (const char *tecla : {"F8", "Ctrl+1", "Ctrl+Shift+M", "Shift+F3", "Alt+F2"})
+    for (const char *tecla : {"F8", "Ctrl+1", "Ctrl+Shift+M", "Shift+F3", "Ctrl+F2"})
         EXPECT_EQ(atajos.MotivoRechazo(Entrada::Ventas, Tecla(tecla)), QString()) << tecla;
     for (const char *tecla :
-         {"A", "1", "Shift+B", "Ctrl+V", "Ctrl+Z", "Ctrl+N", "Ctrl+K", "Alt+V", "Ctrl+Alt+2", "F10", "Return",
-          "Esc", "Tab", "Del", "Left", "Ctrl+Left", "Ctrl+1, Ctrl+2", ""})
+         {"A",     "1",          "Shift+B", "Ctrl+V",    "Ctrl+Z",         "Ctrl+N", "Ctrl+K",
+          "Alt+V", "Ctrl+Alt+2", "F10",     "Alt+F2",    "Meta+F2",        "Return", "Esc",
+          "Tab",   "Del",        "Left",    "Ctrl+Left", "Ctrl+1, Ctrl+2", ""})
         EXPECT_NE(atajos.MotivoRechazo(Entrada::Ventas, Tecla(tecla)), QString()) << tecla;
     EXPECT_EQ(atajos.MotivoRechazo(Entrada::Ventas, Tecla("F4")),
               QStringLiteral("La tecla F4 ya es la de \"Clientes\"."));
@@ -131,6 +132,17 @@ TEST(FrmAtajos, AssignsTellsAndRestores) {
     Pulsar(Control<QWidget>(frm, "cmdRestablecer"));
     EXPECT_EQ(atajos, Atajos());
     EXPECT_EQ(cambios, 2);
+
+    lista->SeleccionarFila(lista->Lista()->Buscar(2, "factura")); // it starts without a key
+    tecla->setKeySequence(Tecla("Ctrl+M"));
+    Pulsar(Control<QWidget>(frm, "cmdAsignar"));
+    EXPECT_EQ(atajos.De(Entrada::Factura), Tecla("Ctrl+M"));
+    Pulsar(Control<QWidget>(frm, "cmdRestablecer"));
+    EXPECT_EQ(atajos, Atajos());
+    tecla->setFocus();
+    QTest::keyClick(tecla, Qt::Key_F2, Qt::ShiftModifier);
+    QTest::keyClick(tecla, Qt::Key_Return); // assigns, and is no second stroke
+    EXPECT_EQ(atajos.De(Entrada::Factura), Tecla("Shift+F2"));
 }
 
 } // namespace

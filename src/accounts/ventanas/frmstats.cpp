@@ -64,6 +64,7 @@ void FrmStats::CrearGrafico() {
     QFont dias = font();
     dias.setPointSizeF(dias.pointSizeF() * 0.75); // thirty-one of them stand side by side
     ejeDias_->setLabelsFont(dias);
+    ejeDias_->setTruncateLabels(false);
     ejeDias_->setGridLineVisible(false);
     ejeValores_->setLabelsColor(colores::kTexto);
     ejeValores_->setGridLineColor(colores::kLineas);
@@ -88,7 +89,17 @@ void FrmStats::cmdBuscar_Click() {
     ui_->lblRegla->setText(kRegla + AvisoIlegibles(ventas.ilegibles));
 }
 
+// The days stand upright where they don't fit side by side.
+void FrmStats::resizeEvent(QResizeEvent *evento) {
+    VentanaModulo::resizeEvent(evento);
+    const int anchoDia = ui_->Chart1->width() / (DiasDelMes(1) + 3);
+    ejeDias_->setLabelsAngle(
+        QFontMetrics(ejeDias_->labelsFont()).horizontalAdvance(QStringLiteral("30 ")) > anchoDia ? -90 : 0);
+}
+
 void FrmStats::Mostrar(const std::vector<double> &valores, int dias) {
+    ui_->Chart1->chart()->setTitle(
+        ui_->DTPFecha->locale().toString(ui_->DTPFecha->date(), QStringLiteral("MMMM 'de' yyyy")));
     QStringList rotulos;
     QList<qreal> barras;
     for (int dia = 1; dia <= dias; ++dia) {

@@ -28,6 +28,9 @@ class FrmStats : public VentanaModulo {
     bool EntradaEnCurso() const override { return false; }
     bool PermiteCerrarPrograma() override { return true; }
 
+  protected:
+    void resizeEvent(QResizeEvent *evento) override;
+
   private:
     void CrearGrafico();
     void cmdBuscar_Click();

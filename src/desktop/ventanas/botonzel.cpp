@@ -9,6 +9,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPointer>
+#include <QStyleOptionButton>
 
 #include <memory>
 
@@ -23,6 +24,22 @@ const QString kSonidoClic = QStringLiteral(".\\resources\\click.wav");
 void Pedir(PedidoBoton::Que que, const QString &destino) {
     if (!destino.isEmpty())
         QCoreApplication::postEvent(qApp, new PedidoBoton(que, destino));
+}
+
+// The pointers by their numbers; any other is the usual one.
+Qt::CursorShape CursorDe(int numero) {
+    switch (numero) {
+    case 2:
+        return Qt::CrossCursor;
+    case 3:
+        return Qt::IBeamCursor;
+    case 11:
+        return Qt::WaitCursor;
+    case 12:
+        return Qt::ForbiddenCursor;
+    default:
+        return Qt::ArrowCursor;
+    }
 }
 
 // The properties of this class in the order of their declaration.
@@ -82,10 +99,12 @@ QVariantMap BotonZel::Guardar() const {
 }
 
 void BotonZel::Leer(const QVariantMap &bolsa) {
-    const BotonZel patron(objectName(), parentWidget());
+    const BotonZel patron(objectName()); // on no container, whose state is none of its own
     ConPropiedades([&](const QMetaProperty &propiedad) {
         propiedad.write(this, bolsa.value(QString::fromLatin1(propiedad.name()), propiedad.read(&patron)));
     });
+    if (!bolsa.contains(QStringLiteral("Font")))
+        setFont(QFont()); // the container's, also when that changes
 }
 
 QColor BotonZel::Color(uint color) const {
@@ -95,6 +114,10 @@ QColor BotonZel::Color(uint color) const {
         return palette().color(QPalette::Highlight);
     case kSombra:
         return palette().color(QPalette::Dark);
+    case kVentana:
+        return palette().color(QPalette::Base);
+    case kTextoVentana:
+        return palette().color(QPalette::Text);
     case kTextoBoton:
         return palette().color(QPalette::ButtonText);
     case kResalte3D:
@@ -128,7 +151,7 @@ void BotonZel::Aplicar() {
     else if (!mouseIcon_.isNull())
         setCursor(QCursor(mouseIcon_));
     else
-        unsetCursor();
+        setCursor(CursorDe(mousePointer_));
     RecortarEsquinas();
     update();
 }
@@ -179,7 +202,7 @@ AspectoBoton BotonZel::Aspecto() const {
     aspecto.transparente = transparentBG_;
     aspecto.sinBorde = noBorderEffect_;
     aspecto.bordeSiempre = xpShowBorderAlways_ || raised_;
-    aspecto.rectanguloFoco = showFocusRect_ && !xpWinStyle_;
+    aspecto.rectanguloFoco = hasFocus() && showFocusRect_ && !xpWinStyle_;
     aspecto.habilitado = isEnabled();
     aspecto.presionado = isDown() || isChecked();
     aspecto.conFoco = hasFocus() && showBorderOnFocus_;
@@ -194,6 +217,11 @@ void BotonZel::paintEvent(QPaintEvent *evento) {
     }
     QPainter pintor(this);
     PintarBoton(pintor, Aspecto());
+}
+
+void BotonZel::initStyleOption(QStyleOptionButton *opcion) const {
+    QPushButton::initStyleOption(opcion);
+    opcion->icon = ImagenVisible();
 }
 
 void BotonZel::resizeEvent(QResizeEvent *evento) {

@@ -27,6 +27,8 @@ class PedidoBoton : public QEvent {
 
 namespace coloressistema {
 inline constexpr uint kSistema = 0x80000000U;
+inline constexpr uint kVentana = kSistema | 5;
+inline constexpr uint kTextoVentana = kSistema | 8;
 inline constexpr uint kResaltado = kSistema | 13;
 inline constexpr uint kCaraBoton = kSistema | 15;
 inline constexpr uint kSombra = kSistema | 16;
@@ -105,6 +107,7 @@ class BotonZel : public QPushButton {
   protected:
     bool event(QEvent *evento) override;
     void paintEvent(QPaintEvent *evento) override;
+    void initStyleOption(QStyleOptionButton *opcion) const override;
     void resizeEvent(QResizeEvent *evento) override;
     void mousePressEvent(QMouseEvent *evento) override;
     void mouseMoveEvent(QMouseEvent *evento) override;

@@ -2,6 +2,7 @@
 
 #include "desktop/ventanas/botonzel.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QClipboard>
 #include <QGridLayout>
@@ -9,12 +10,17 @@
 #include <QLineEdit>
 #include <QScreen>
 
+#include <algorithm>
+
 namespace tarvo {
 
 namespace {
 
 constexpr QSize kTamano(260, 360);
-constexpr int kBajoBarra = 120; // pixels from the top of the main window, below its toolbar
+constexpr int kAltoDisplay = 56;
+constexpr int kBordesDisplay = 24;    // pixels beside the text
+constexpr double kLetraDisplay = 2.4; // times the program's type
+constexpr int kBajoBarra = 120;       // pixels from the top of the main window, below its toolbar
 
 } // namespace
 
@@ -52,14 +58,15 @@ void FrmCalc::CrearDisplay(QGridLayout &rejilla) {
     txtDisplay->setObjectName(QStringLiteral("txtDisplay"));
     txtDisplay->setAccessibleName(QStringLiteral("Resultado"));
     txtDisplay->setAlignment(Qt::AlignRight);
-    QFont letra(QStringLiteral("Courier New"));
-    letra.setPointSizeF(font().pointSizeF() * 2.4);
-    txtDisplay->setFont(letra);
+    txtDisplay->setFont(QFont(QStringLiteral("Courier New")));
+    AjustarLetra();
+    txtDisplay->setFixedHeight(kAltoDisplay);
     txtDisplay->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     rejilla.addWidget(txtDisplay, 0, 0, 1, 4);
     connect(txtDisplay, &QLineEdit::textEdited, this,
             [this](const QString &texto) { calculadora_.PonerDisplay(texto); });
-    connect(txtDisplay, &QLineEdit::selectionChanged, this, [this] {
+    txtDisplay->setAttribute(Qt::WA_InputMethodEnabled, false);
+    connect(txtDisplay, &QLineEdit::cursorPositionChanged, this, [this] {
         if (!txtDisplay->hasSelectedText())
             txtDisplay->end(false);
     });
@@ -136,21 +143,34 @@ bool FrmCalc::eventFilter(QObject *objeto, QEvent *evento) {
 // True when the key goes no further. Copying, pasting and the keys that only move the focus do; a blank
 // presses the button that has the focus.
 bool FrmCalc::Tecla(const QObject *recibe, const QKeyEvent &tecla) {
-    if (tecla.key() == Qt::Key_F5) {
+    if (QAction *const entrada = EntradaDe(tecla)) {
         if (!tecla.isAutoRepeat())
-            close();
+            entrada->trigger();
         return true;
     }
+    if (tecla.key() == Qt::Key_F5)
+        return close();
     if (tecla.key() == Qt::Key_Return || tecla.key() == Qt::Key_Enter)
         return Caracter(u'=');
     if (tecla.key() == Qt::Key_Backspace || tecla.key() == Qt::Key_Delete)
         return true; // they act when they are let go
     if (tecla.key() == Qt::Key_Space && recibe != txtDisplay)
         return false;
-    if ((tecla.modifiers() & (Qt::ControlModifier | Qt::AltModifier)) != 0 || tecla.text().isEmpty() ||
+    if ((tecla.modifiers() & Qt::ControlModifier) != 0 || tecla.text().isEmpty() ||
         !tecla.text().front().isPrint())
         return false;
+    if ((tecla.modifiers() & Qt::AltModifier) != 0)
+        return true;
     return Caracter(tecla.text().front());
+}
+
+// The keys of the main window's entries, the calculator's own among them, work here too.
+QAction *FrmCalc::EntradaDe(const QKeyEvent &tecla) const {
+    const QKeySequence pulsada(tecla.keyCombination());
+    for (QAction *accion : parentWidget()->findChildren<QAction *>())
+        if (accion->isEnabled() && accion->shortcut() == pulsada)
+            return accion;
+    return nullptr;
 }
 
 bool FrmCalc::Caracter(QChar caracter) {
@@ -191,12 +211,28 @@ void FrmCalc::Decimal() {
         QApplication::beep();
 }
 
+// A long number is set smaller, so that its first figures stay in view.
+void FrmCalc::AjustarLetra() {
+    QFont letra = txtDisplay->font();
+    letra.setPointSizeF(font().pointSizeF() * kLetraDisplay);
+    const int ancho = QFontMetrics(letra).horizontalAdvance(txtDisplay->text()) + kBordesDisplay;
+    if (txtDisplay->width() > 0 && ancho > txtDisplay->width())
+        letra.setPointSizeF(std::max(font().pointSizeF(), letra.pointSizeF() * txtDisplay->width() / ancho));
+    txtDisplay->setFont(letra);
+}
+
+void FrmCalc::resizeEvent(QResizeEvent *evento) {
+    QWidget::resizeEvent(evento);
+    AjustarLetra();
+}
+
 void FrmCalc::Copiar() {
     QApplication::clipboard()->setText(calculadora_.Display());
 }
 
 void FrmCalc::Mostrar() {
     txtDisplay->setText(calculadora_.Display());
+    AjustarLetra();
     txtDisplay->end(false);
 }
 

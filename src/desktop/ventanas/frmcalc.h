@@ -8,6 +8,7 @@
 
 #include <QWidget>
 
+class QAction;
 class QGridLayout;
 class QKeyEvent;
 class QLineEdit;
@@ -23,6 +24,7 @@ class FrmCalc : public QWidget {
 
   protected:
     bool eventFilter(QObject *objeto, QEvent *evento) override;
+    void resizeEvent(QResizeEvent *evento) override;
 
   private:
     struct Boton;
@@ -35,6 +37,8 @@ class FrmCalc : public QWidget {
     bool TeclaSoltada(const QKeyEvent &tecla);
     void Digito(int digito);
     void Decimal();
+    QAction *EntradaDe(const QKeyEvent &tecla) const;
+    void AjustarLetra();
     void Copiar();
     void Mostrar();
 

@@ -44,7 +44,7 @@ class Pintor {
         const QRect interior = b_.zona.adjusted(kMargen, kMargen, -kMargen, -kMargen);
         const QRect deImagen = LugarImagen(interior);
         b_.imagen.paint(&p_, deImagen, Qt::AlignCenter, b_.habilitado ? QIcon::Normal : QIcon::Disabled);
-        if (b_.conFoco && b_.rectanguloFoco)
+        if (b_.rectanguloFoco)
             RectanguloFoco(interior);
         if (!b_.texto.isEmpty())
             Texto(LugarTexto(interior, deImagen));
@@ -54,7 +54,7 @@ class Pintor {
     void Fondo() {
         if (!b_.transparente)
             p_.fillRect(b_.zona, b_.fondo);
-        if (b_.bisel != 1 && b_.bisel != 2)
+        if (b_.sinBorde || (b_.bisel != 1 && b_.bisel != 2))
             return;
         const int filas = std::min(b_.hondura, b_.zona.height());
         for (int i = 0; i < filas; ++i) {

@@ -37,7 +37,10 @@ FrmUsuarios::FrmUsuarios(const Servicios &servicios, QWidget *padre)
     Timer1->setObjectName(QStringLiteral("Timer1"));
     Timer1->setInterval(1);
     Timer1->setSingleShot(true);
-    connect(Timer1, &QTimer::timeout, this, [this] { logica_->LlenarLista(); });
+    connect(Timer1, &QTimer::timeout, this, [this] {
+        if (!logica_->EntradaEnCurso())
+            logica_->LlenarLista();
+    });
     connect(ui_->txtUsuClave, &QLineEdit::textChanged, this, [this] { logica_->VigilarClave(); });
     connect(controles_, &ControlesDetalle::FilasCambiadas, this, &FrmUsuarios::AjustarColumnas);
     ConectarTeclas();

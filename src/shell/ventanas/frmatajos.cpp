@@ -4,15 +4,13 @@
 #include "desktop/ventanas/filtrocampos.h"
 #include "ui_frmatajos.h"
 
+#include <QKeyEvent>
+
 namespace tarvo {
 
 namespace {
 
 enum Columna { kEntrada, kTecla, kClave };
-
-QString SinMarcas(QStringView texto) {
-    return texto.toString().remove(u'&');
-}
 
 } // namespace
 
@@ -33,11 +31,17 @@ FrmAtajos::FrmAtajos(Atajos &atajos, Preguntas &preguntas, std::function<void()>
     connect(ui_->cmdRestablecer, &QPushButton::clicked, this, &FrmAtajos::cmdRestablecer_Click);
     connect(ui_->cmdRestablecerTodo, &QPushButton::clicked, this, &FrmAtajos::cmdRestablecerTodo_Click);
     connect(ui_->cmdCerrar, &QPushButton::clicked, this, &QDialog::accept);
+    // One stroke is a key; of more the last one counts.
+    connect(ui_->kseTecla, &QKeySequenceEdit::keySequenceChanged, this, [this](const QKeySequence &teclas) {
+        if (teclas.count() > 1)
+            ui_->kseTecla->setKeySequence(QKeySequence(teclas[uint(teclas.count()) - 1]));
+    });
     auto *filtro = new FiltroCampos(this);
+    ui_->kseTecla->installEventFilter(this);
     filtro->AlEntrar(ui_->LVAtajos, [this] { ui_->kseTecla->setFocus(); });
     for (const Entrada entrada : Atajos::Asignables()) {
         const DatosEntrada &datos = DatosDe(entrada);
-        lista_.AgregarFila({SinMarcas(datos.texto), {}, datos.clave.toString()});
+        lista_.AgregarFila({Atajos::NombreDe(entrada), {}, datos.clave.toString()});
     }
     Llenar();
     ui_->LVAtajos->SeleccionarFila(0);
@@ -46,6 +50,21 @@ FrmAtajos::FrmAtajos(Atajos &atajos, Preguntas &preguntas, std::function<void()>
 }
 
 FrmAtajos::~FrmAtajos() = default;
+
+// Enter, Escape and the underlined letters work in the field of the key as elsewhere.
+bool FrmAtajos::eventFilter(QObject *objeto, QEvent *evento) {
+    if (evento->type() != QEvent::KeyPress && evento->type() != QEvent::ShortcutOverride)
+        return QDialog::eventFilter(objeto, evento);
+    const auto *const tecla = static_cast<QKeyEvent *>(evento);
+    const bool entra = tecla->key() == Qt::Key_Return || tecla->key() == Qt::Key_Enter;
+    if (tecla->modifiers() == Qt::AltModifier)
+        return true;
+    if ((!entra && tecla->key() != Qt::Key_Escape) || tecla->modifiers() != Qt::NoModifier)
+        return QDialog::eventFilter(objeto, evento);
+    if (evento->type() == QEvent::KeyPress)
+        entra ? cmdAsignar_Click() : reject();
+    return true;
+}
 
 void FrmAtajos::Llenar() {
     for (int fila = 0; fila < lista_.Filas(); ++fila)
@@ -71,11 +90,14 @@ void FrmAtajos::cmdAsignar_Click() {
 }
 
 void FrmAtajos::cmdRestablecer_Click() {
-    Asignar(Atajos::Inicial(Elegida()));
+    if (atajos_.Restablecer(Elegida()))
+        Cambiados();
+    else
+        preguntas_.Informar(atajos_.MotivoRechazo(Elegida(), Atajos::Inicial(Elegida())));
 }
 
 void FrmAtajos::cmdRestablecerTodo_Click() {
-    atajos_.Restablecer();
+    atajos_.RestablecerTodos();
     Cambiados();
 }
 

@@ -23,6 +23,9 @@ class FrmAtajos : public QDialog {
     FrmAtajos(Atajos &atajos, Preguntas &preguntas, std::function<void()> alCambiar, QWidget *padre);
     ~FrmAtajos() override;
 
+  protected:
+    bool eventFilter(QObject *objeto, QEvent *evento) override;
+
   private:
     void Llenar();
     void MostrarTecla();
