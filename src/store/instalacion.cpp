@@ -12,8 +12,10 @@
 #include <algorithm>
 #include <cstdio>
 #include <fcntl.h>
+#include <optional>
 #include <sys/file.h>
 #include <unistd.h>
+#include <utility>
 
 namespace tarvo {
 
@@ -57,32 +59,71 @@ class Turno {
     bool solo_;
 };
 
-QByteArray Contenido(const QString &ruta) {
+// Nothing when the file can't be read.
+std::optional<QByteArray> Contenido(const QString &ruta) {
     QFile archivo(ruta);
-    return archivo.open(QIODevice::ReadOnly) ? archivo.readAll() : QByteArray();
+    if (!archivo.open(QIODevice::ReadOnly))
+        return std::nullopt;
+    QByteArray bytes = archivo.readAll();
+    return archivo.error() == QFileDevice::NoError ? std::optional(std::move(bytes)) : std::nullopt;
 }
 
-// Is this what a first start has left half done: nothing but templates and copies of them, whole or in part?
-// A folder of the operator whose name happens to look the same is none.
-bool EsResto(const QDir &carpeta) {
-    const QDir::Filters todo = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
-    const QFileInfoList entradas = carpeta.entryInfoList(todo);
-    return std::all_of(entradas.begin(), entradas.end(), [&carpeta](const QFileInfo &entrada) {
-        const QString nombre = entrada.fileName();
-        if (entrada.isDir())
-            return nombre == QLatin1String("vacio");
-        return nombre.startsWith(QLatin1String("qt_temp.")) || // a copy that was being made
-               Contenido(carpeta.filePath(QStringLiteral("vacio/") + nombre))
-                   .startsWith(Contenido(entrada.filePath()));
+bool EsPrincipio(const QFileInfo &archivo, const QFileInfo &plantilla) {
+    if (archivo.size() > plantilla.size())
+        return false;
+    const std::optional<QByteArray> parte = Contenido(archivo.filePath());
+    const std::optional<QByteArray> todo = Contenido(plantilla.filePath());
+    return parte && todo && todo->startsWith(*parte);
+}
+
+// The journal of a template that was being made is a header at most, since there was nothing to bring back.
+// It begins with its mark or, before that is written, with zeros.
+bool EsDiarioVacio(const QFileInfo &archivo) {
+    constexpr qint64 kCabecera = 512;
+    if (archivo.size() > kCabecera)
+        return false;
+    const std::optional<QByteArray> bytes = Contenido(archivo.filePath());
+    return bytes && (bytes->isEmpty() || bytes->startsWith(QByteArray(8, '\0')) ||
+                     bytes->startsWith(QByteArrayLiteral("\xd9\xd5\x05\xf9\x20\xa1\x63\xd7")));
+}
+
+// One of the templates, a copy of it or one that was being made, as far as it was written?
+bool EsDePlantilla(const QFileInfo &archivo, const QFileInfoList &plantillas) {
+    if (!archivo.isFile() || archivo.isSymLink())
+        return false;
+    const QString nombre = archivo.fileName();
+    const bool copiandose = nombre.startsWith(QLatin1String("qt_temp."));
+    return std::any_of(plantillas.begin(), plantillas.end(), [&](const QFileInfo &plantilla) {
+        if (nombre == plantilla.fileName() + QLatin1String("-journal"))
+            return EsDiarioVacio(archivo);
+        return (copiandose || nombre == plantilla.fileName()) && EsPrincipio(archivo, plantilla);
     });
 }
 
-void QuitarRestos(const QString &carpeta) {
+// Is this what a first start has left half done: nothing but templates and copies of them, whole or in part?
+// A folder of the operator whose name happens to look the same is none, and neither is one that can't be
+// read.
+bool EsResto(const QDir &carpeta, const QFileInfoList &plantillas) {
+    if (!carpeta.isReadable())
+        return false;
+    const QDir::Filters todo = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
+    const QFileInfoList entradas = carpeta.entryInfoList(todo);
+    return std::all_of(entradas.begin(), entradas.end(), [&plantillas](const QFileInfo &entrada) {
+        if (!entrada.isDir())
+            return EsDePlantilla(entrada, plantillas);
+        return entrada.fileName() == QLatin1String("vacio") && !entrada.isSymLink() &&
+               EsResto(QDir(entrada.filePath()), plantillas);
+    });
+}
+
+// `vacio`: the folder of the templates, to compare with.
+void QuitarRestos(const QString &carpeta, const QString &vacio) {
+    const QFileInfoList plantillas = QDir(vacio).entryInfoList({QStringLiteral("*.mdb")}, QDir::Files);
     const QFileInfoList restos =
         QDir(carpeta).entryInfoList({QStringLiteral("Datos.??????")}, QDir::Dirs | QDir::NoSymLinks);
     for (const QFileInfo &resto : restos) {
         QDir carpetaResto(resto.filePath());
-        if (EsResto(carpetaResto))
+        if (EsResto(carpetaResto, plantillas))
             carpetaResto.removeRecursively();
     }
 }
@@ -92,8 +133,6 @@ void Crear(const QString &carpeta, const QString &datos) {
     const Turno turno(carpeta);
     if (QFileInfo::exists(datos)) // another first start made it meanwhile
         return;
-    if (turno.Solo())
-        QuitarRestos(carpeta);
     QTemporaryDir temporal(QDir(carpeta).filePath(QStringLiteral("Datos.XXXXXX")));
     if (!temporal.isValid())
         throw ErrorDatos(errores::kAccesoRuta, QStringLiteral("No se pudo escribir en '%1'.").arg(carpeta));
@@ -103,6 +142,8 @@ void Crear(const QString &carpeta, const QString &datos) {
         0) {
         temporal.setAutoRemove(false);
         Sincronizar(carpeta);
+        if (turno.Solo())
+            QuitarRestos(carpeta, QDir(datos).filePath(QStringLiteral("vacio")));
     } else if (!QFileInfo::exists(datos)) {
         throw ErrorDatos(errores::kAccesoRuta,
                          QStringLiteral("No se pudo crear la carpeta '%1'.").arg(datos));

@@ -79,17 +79,25 @@ TEST(Instalacion, ALinkIsFollowedAndOneThatLeadsNowhereIsTold) {
 TEST(Instalacion, OnlyWhatAFirstStartLeftHalfDoneIsRemoved) {
     QTemporaryDir programa;
     const QDir carpeta(programa.path());
-    for (const char *nombre : {"Datos.aB3xYz", "Datos.backup"}) {
-        const QString resto = carpeta.filePath(QString::fromUtf8(nombre));
+    const QStringList ajenas{QStringLiteral("Datos.backup"), QStringLiteral("Datos.enlace"),
+                             QStringLiteral("Datos.oculto"), QStringLiteral("Datos.textos")};
+    for (const QString &nombre : ajenas + QStringList{QStringLiteral("Datos.aB3xYz")}) {
+        const QString resto = carpeta.filePath(nombre);
         ASSERT_TRUE(QDir().mkpath(resto + QStringLiteral("/vacio")));
         CrearPlantillas(resto + QStringLiteral("/vacio"));
         QFile::copy(resto + QStringLiteral("/vacio/config.mdb"), resto + QStringLiteral("/config.mdb"));
-        Escribir(resto + QStringLiteral("/qt_temp.Ab12cd"), "medio");
+        Escribir(resto + QStringLiteral("/qt_temp.Ab12cd"), "SQLite format 3");
+        Escribir(resto + QStringLiteral("/vacio/ventas.mdb-journal"), "");
     }
     Escribir(carpeta.filePath(QStringLiteral("Datos.backup/ventas.mdb")), "ventas de un año");
+    QFile::link(QStringLiteral("no hay"), carpeta.filePath(QStringLiteral("Datos.enlace/ventas.mdb")));
+    const QString oculto = carpeta.filePath(QStringLiteral("Datos.oculto/ventas.mdb"));
+    Escribir(oculto, "no se puede leer");
+    QFile::setPermissions(oculto, {});
+    Escribir(carpeta.filePath(QStringLiteral("Datos.textos/vacio/cartas.txt")), "mías");
     PrepararDatos(programa.path(), programa.path());
     EXPECT_EQ(carpeta.entryList(QDir::Dirs | QDir::NoDotAndDotDot),
-              QStringList({QStringLiteral("Datos"), QStringLiteral("Datos.backup")}));
+              QStringList{QStringLiteral("Datos")} + ajenas);
 }
 
 TEST(Regional, SettingsComeBeforeTheLocaleOfTheSystem) {
