@@ -53,6 +53,12 @@ TEST_F(SoloCaracteresPrueba, AStrangeTextIsRefusedWholeAndSaysWhy) {
     EXPECT_TRUE(QToolTip::text().contains(u"este campo sólo admite cifras, «.», «,»"))
         << qPrintable(QToolTip::text());
 
+    campo.setText(u"12;5"_qs);
+    campo.selectAll();
+    Pegar(u"12;50"_qs);
+    EXPECT_EQ(campo.text(), u"12;5") << "what it has in common with the old text is pasted all the same";
+
+    campo.setText(u"-1234"_qs);
     campo.setSelection(2, 2);
     Pegar(u"9,9"_qs);
     EXPECT_EQ(campo.text(), u"-19,94");

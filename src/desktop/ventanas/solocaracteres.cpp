@@ -12,30 +12,27 @@ namespace tarvo {
 
 namespace {
 
-// What `nuevo` has between the longest beginning and the longest end that it shares with `antes`.
-QStringView Entrado(const QString &antes, const QString &nuevo) {
-    const qsizetype comun = std::min(antes.size(), nuevo.size());
-    qsizetype inicio = 0;
-    while (inicio < comun && antes[inicio] == nuevo[inicio])
-        ++inicio;
-    qsizetype final = 0;
-    while (final < comun - inicio && antes[antes.size() - 1 - final] == nuevo[nuevo.size() - 1 - final])
-        ++final;
-    return QStringView(nuevo).sliced(inicio, nuevo.size() - inicio - final);
-}
-
 // The field itself takes back whatever its validator finds invalid, before anybody is told of a change.
 class FiltroCaracteres final : public QValidator {
   public:
     FiltroCaracteres(QLineEdit *campo, const QString &permitidos)
         : QValidator(campo), campo_(campo), permitidos_(permitidos), texto_(campo->text()) {
-        connect(campo, &QLineEdit::textChanged, this, [this](const QString &texto) { texto_ = texto; });
+        connect(campo, &QLineEdit::selectionChanged, this, &FiltroCaracteres::Recordar);
+        connect(campo, &QLineEdit::textChanged, this, [this](const QString &texto) {
+            texto_ = texto;
+            Recordar();
+        });
+        connect(campo, &QLineEdit::cursorPositionChanged, this, &FiltroCaracteres::Recordar);
+        Recordar();
         campo->installEventFilter(this);
         campo->setValidator(this);
     }
 
-    State validate(QString &nuevo, int &) const override {
-        const QStringView entrado = Entrado(texto_, nuevo);
+    State validate(QString &nuevo, int &cursor) const override {
+        if (nuevo == texto_)
+            return Acceptable;
+        // What has come in ends at the cursor.
+        const QStringView entrado = QStringView(nuevo).mid(inicio_, qMax(0, cursor - inicio_));
         if (EsDelPrograma() || std::ranges::all_of(entrado, [this](QChar c) { return Admite(c); }))
             return Acceptable;
         QApplication::beep();
@@ -55,6 +52,11 @@ class FiltroCaracteres final : public QValidator {
     }
 
   private:
+    // The cursor may move on before the text that it stands behind is judged.
+    void Recordar() {
+        if (campo_->text() == texto_)
+            inicio_ = campo_->hasSelectedText() ? campo_->selectionStart() : campo_->cursorPosition();
+    }
     bool Admite(QChar c) const { return permitidos_.contains(c); }
     // A text that the program puts there leaves nothing to undo, one that undoing brings back can be redone;
     // after any other change it is the other way round.
@@ -71,7 +73,8 @@ class FiltroCaracteres final : public QValidator {
 
     QLineEdit *campo_;
     QString permitidos_;
-    QString texto_; // before the change that is being judged
+    QString texto_;  // before the change that is being judged
+    int inicio_ = 0; // where a text would have come in then
 };
 
 } // namespace
