@@ -18,8 +18,10 @@ void ComprobarFila(Cursor &cursor) {
 
 } // namespace
 
-bool EscribirFilaUnica(const Servicios &servicios, Cursor &cursor, const std::function<void()> &escribir) {
-    return Almacenar(servicios.frmBases, servicios.preguntas, {}, [&] {
+bool EscribirFilaUnica(const Servicios &servicios, Cursor &cursor, const QStringList &textos,
+                       const std::function<void()> &escribir) {
+    const Operacion operacion = Operacion{QLatin1String(cursor.Tabla())} + textos;
+    return Almacenar(servicios.frmBases, servicios.preguntas, operacion, [&] {
         ComprobarFila(cursor);
         escribir();
         cursor.Refresh();

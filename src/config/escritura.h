@@ -5,6 +5,8 @@
 #include "desktop/servicios.h"
 #include "store/errordatos.h"
 
+#include <QStringList>
+
 #include <functional>
 
 namespace tarvo {
@@ -20,8 +22,10 @@ template <typename Leer> auto LeerCallando(Leer leer) -> decltype(leer()) {
     }
 }
 
-// Runs `escribir`, which writes fields of the only row of `cursor`, as one transaction. When the row isn't
-// there or the disk refuses, nothing is written, the operator reads why, and the result is false.
-bool EscribirFilaUnica(const Servicios &servicios, Cursor &cursor, const std::function<void()> &escribir);
+// Runs `escribir`, which writes fields of the only row of `cursor`, as one transaction; `textos` are what it
+// writes (see Operacion). When the row isn't there or the disk refuses, nothing is written, the operator
+// reads why, and the result is false.
+bool EscribirFilaUnica(const Servicios &servicios, Cursor &cursor, const QStringList &textos,
+                       const std::function<void()> &escribir);
 
 } // namespace tarvo

@@ -35,7 +35,9 @@ ImpuestoLogica::Resultado ImpuestoLogica::Guardar(const DatosImpuesto &datos) {
         return Resultado::FaltaNombre;
     }
     FrmBases &bases = servicios_.frmBases;
-    const bool guardado = EscribirFilaUnica(servicios_, bases.datImpuesto, [&] {
+    const QStringList textos{Marca(datos.utilizar), datos.nombre, datos.porcentaje, Marca(datos.sobreIva),
+                             Marca(datos.existeIFiscal)};
+    const bool guardado = EscribirFilaUnica(servicios_, bases.datImpuesto, textos, [&] {
         bases.camImpUtilizar = Marca(datos.utilizar);
         bases.camImpNombre = datos.nombre;
         bases.camImpPorcentaje = datos.porcentaje;

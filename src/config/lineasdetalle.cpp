@@ -15,7 +15,7 @@ QString LineasDetalle::Cargar() {
 
 bool LineasDetalle::Escribir(const QString &texto) {
     const QString numero = QString::number(Moneda::NumeroNeutro(texto), 'f', 0);
-    return EscribirFilaUnica(servicios_, servicios_.frmBases.datFactura,
+    return EscribirFilaUnica(servicios_, servicios_.frmBases.datFactura, {numero},
                              [&] { servicios_.frmBases.camFacCantLineas = numero; });
 }
 

@@ -19,7 +19,10 @@ bool LineasTicket::Guardar(const Cabecera &lineas) {
                                         &bases.camTicLinea4, &bases.camTicLinea5};
     const std::array<Campo *, 5> negritas{&bases.camTicN1, &bases.camTicN2, &bases.camTicN3, &bases.camTicN4,
                                           &bases.camTicN5};
-    return EscribirFilaUnica(servicios_, bases.datTicket, [&] {
+    QStringList valores;
+    for (const auto &linea : lineas)
+        valores << linea.texto << (linea.negrita ? QStringLiteral("S") : QStringLiteral("N"));
+    return EscribirFilaUnica(servicios_, bases.datTicket, valores, [&] {
         for (std::size_t i = 0; i < lineas.size(); ++i)
             textos[i]->Poner(lineas[i].texto);
         for (std::size_t i = 0; i < lineas.size(); ++i)

@@ -20,7 +20,7 @@ class Preguntas;
 // begins its new rows itself. `siFalla` is added to the message of a refusal. `operacion` names the action
 // and what it stores ("Venta", lines, customer): when an earlier try with the same texts had an unknown
 // outcome and turns out to be stored, the operator is told, nothing is written and the result is true. With
-// other texts he is told too, and the result is false.
+// other texts he is told too, by the first text of the stored one, and the result is false.
 bool Almacenar(FrmBases &frmBases, Preguntas &preguntas, const Operacion &operacion,
                const std::function<void()> &escribir, const QString &siFalla = {});
 

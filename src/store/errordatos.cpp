@@ -35,6 +35,25 @@ QString Motivo(int codigo, const char *mensaje) {
     }
 }
 
+bool Iguales(const QStringList &guardada, const QStringList &ahora) {
+    return !ahora.isEmpty() && ahora == guardada;
+}
+
+// Another one of the same kind may well be the stored one with a change: who repeats it stores it twice.
+QString TextoAnterior(const QStringList &guardada, const QStringList &ahora) {
+    const QString nombre = guardada.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(guardada.first());
+    const QString anterior =
+        QStringLiteral("La operación anterior%1, que no se había podido comprobar, quedó guardada. ")
+            .arg(nombre);
+    if (Iguales(guardada, ahora))
+        return anterior + QStringLiteral("No se escribió nada más.");
+    if (!ahora.isEmpty() && !guardada.isEmpty() && ahora.first() == guardada.first())
+        return anterior + QStringLiteral("Consta como estaba entonces, sin los cambios hechos después.\n\n"
+                                         "Lo que hay ahora en pantalla no se escribió. Si lo guarda otra "
+                                         "vez, se guardará además de lo anterior.");
+    return anterior + QStringLiteral("La de ahora no se escribió: repítala si hace falta.");
+}
+
 bool Ocupada(int codigo) {
     return (codigo & 0xff) == SQLITE_BUSY || (codigo & 0xff) == SQLITE_LOCKED;
 }
@@ -55,12 +74,8 @@ QString ErrorDatos::Motivo() const {
     return texto.startsWith(sujeto) ? texto.mid(sujeto.size()) : texto;
 }
 
-OperacionAnterior::OperacionAnterior(bool misma)
-    : ErrorDatos(errores::kEscritura,
-                 QStringLiteral("La operación anterior, que no se había podido comprobar, quedó guardada. ") +
-                     (misma ? QStringLiteral("No se escribió nada más.")
-                            : QStringLiteral("La de ahora no se escribió: repítala si hace falta."))),
-      misma_(misma) {}
+OperacionAnterior::OperacionAnterior(const QStringList &guardada, const QStringList &ahora)
+    : ErrorDatos(errores::kEscritura, TextoAnterior(guardada, ahora)), misma_(Iguales(guardada, ahora)) {}
 
 ErrorDatos ErrorLectura(int codigo, const char *mensaje) {
     if (Ocupada(codigo))

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 #include <stdexcept>
 
@@ -49,8 +50,9 @@ class ErrorDatos : public std::runtime_error {
 // begin has written nothing.
 class OperacionAnterior : public ErrorDatos {
   public:
-    // `misma`: the operation that was to begin is that earlier one, tried again as it was.
-    explicit OperacionAnterior(bool misma);
+    // Both as their transactions were named (see Operacion): what stands and what was to begin.
+    OperacionAnterior(const QStringList &guardada, const QStringList &ahora);
+    // The operation that was to begin is that earlier one, tried again as it was.
     bool EsLaMisma() const { return misma_; }
 
   private:

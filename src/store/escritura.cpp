@@ -69,7 +69,7 @@ void Conexion::Resolver(const Operacion &operacion) {
     for (const Escritura &fila : duda.filas)
         if (fila.nueva && !fila.borrada)
             fila.cursor->RecordarId(fila.id);
-    throw OperacionAnterior(!operacion.isEmpty() && operacion == duda.operacion);
+    throw OperacionAnterior(duda.operacion, operacion);
 }
 
 void Conexion::Confirmar() {

@@ -13,7 +13,7 @@ namespace tarvo {
 class FrmBases;
 
 // What makes two actions of the operator the same one tried again: the kind of action and what it stores, as
-// far as that doesn't change by itself, as a clock does.
+// far as that doesn't change by itself, as a clock does. The operator reads the first text.
 using Operacion = QStringList;
 
 class Transaccion {

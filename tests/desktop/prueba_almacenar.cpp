@@ -54,10 +54,22 @@ TEST_F(Almacen, AFailureIsToldOnceAndLeavesNothing) {
 }
 
 TEST_F(Almacen, AnEarlierOperationThatStandsEndsTheSameOneAndNoOther) {
-    for (const bool misma : {true, false}) {
+    const QStringList ahora{QStringLiteral("Venta"), QStringLiteral("1")};
+    const struct {
+        QStringList guardada;
+        bool misma;
+        const char *dicho;
+    } casos[] = {{ahora, true, "No se escribió nada más"},
+                 {{QStringLiteral("Venta"), QStringLiteral("2")}, false, "además de lo anterior"},
+                 {{QStringLiteral("Cliente")}, false, "repítala si hace falta"}};
+    for (const auto &[guardada, misma, dicho] : casos) {
         intentos = 0;
-        preguntas.EsperaMensaje(OperacionAnterior(misma).Descripcion(), Icono::Informacion);
-        EXPECT_EQ(Guardar(9, [misma] { throw OperacionAnterior(misma); }), misma);
+        const OperacionAnterior anterior(guardada, ahora);
+        EXPECT_TRUE(anterior.Descripcion().contains(QString::fromUtf8(dicho)));
+        EXPECT_TRUE(anterior.Descripcion().startsWith(
+            QStringLiteral("La operación anterior (%1),").arg(guardada.first())));
+        preguntas.EsperaMensaje(anterior.Descripcion(), Icono::Informacion);
+        EXPECT_EQ(Guardar(9, [&anterior] { throw anterior; }), misma);
         EXPECT_EQ(intentos, 1);
         EXPECT_EQ(bases.datClientes.RecordCount(), 0);
     }
