@@ -1,6 +1,7 @@
 #include "masterdata/articuloslogica.h"
 
 #include "desktop/preguntas.h"
+#include "store/errordatos.h"
 #include "store/store.h"
 
 namespace tarvo {
@@ -122,8 +123,16 @@ void ArticulosLogica::Actualizar() {
 }
 
 void ArticulosLogica::AlCambiarEstado() {
-    const bool hayArticulos = frmBases().datArticulos.RecordCount() > 0;
-    vistaFiltro_.HabilitarFiltro(!EntradaEnCurso() && hayArticulos && Panel() == PanelDetalle::Ninguno);
+    vistaFiltro_.HabilitarFiltro(!EntradaEnCurso() && HayArticulos() && Panel() == PanelDetalle::Ninguno);
+}
+
+// None that can be read: a state changes whatever the table is like.
+bool ArticulosLogica::HayArticulos() {
+    try {
+        return frmBases().datArticulos.RecordCount() > 0;
+    } catch (const ErrorDatos &) {
+        return false;
+    }
 }
 
 void ArticulosLogica::AlLlenar() {
@@ -296,7 +305,12 @@ void ArticulosLogica::SalirCantidad(int campo) {
 
 void ArticulosLogica::CalcularPVenta() {
     const Moneda &moneda = frmBases().moneda();
-    const double neto = moneda.Numero(ConSeparador(moneda.SinSimbolo(vista().Texto(kSubtotal)), moneda));
+    const QString subtotal = SinPrefijo(vista().Texto(kSubtotal));
+    if (!Moneda::EsNumero(subtotal)) { // nothing follows from a price that is no number
+        vista().Poner(kPVenta, {});
+        return;
+    }
+    const double neto = moneda.Numero(ConSeparador(subtotal, moneda));
     const double porcentaje = Moneda::NumeroNeutro(vista().Texto(kTipoIVA).right(3));
     vista().Poner(kPVenta, moneda.FormatoMoneda(neto + porcentaje / 100 * neto, true));
 }

@@ -93,6 +93,7 @@ class ArticulosLogica : public ListaDetalle {
     QString CeldaGuardada(int columna) const override;
 
   private:
+    bool HayArticulos();
     void LlenarFiltroCategorias();
     void LlenarCategorias();
     void LlenarTiposIVA();

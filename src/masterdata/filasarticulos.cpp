@@ -60,6 +60,11 @@ class Tarifador {
     void Agregar(std::string_view pcompra, std::string_view subtotal, std::string_view idtipoiva) {
         Anotar(0, pcompra);
         Anotar(1, subtotal);
+        if (!Moneda::EsNumero(subtotal)) { // nothing follows from a price that is no number
+            montos_[2].Agregar({});
+            montos_[3].Agregar({});
+            return;
+        }
         const double neto = moneda_.Numero(moneda_.SinSimbolo(std::string_view(texto_)));
         const double venta = Venta(neto, idtipoiva);
         Anotar(3, venta);

@@ -46,7 +46,11 @@ ListaDetalle::~ListaDetalle() = default;
 void ListaDetalle::LlenarLista() {
     try {
         Llenar();
+        return;
     } catch (const ErrorDatos &error) {
+        legible_ = false;
+        lista_.Limpiar();
+        QuedarSinFila(EstadoDetalle::Vacia);
         if (!reglas_.callarErrores)
             preguntas_.Mostrar(error.Descripcion(), Icono::Critico);
     }
@@ -55,8 +59,10 @@ void ListaDetalle::LlenarLista() {
 void ListaDetalle::Llenar() {
     indice_.Olvidar();
     idMostrado_.clear();
+    Senalar(-1);
     AlLlenar();
     CargarColumnas();
+    legible_ = true;
     if (reglas_.cursor.RecordCount() == 0) {
         lista_.Limpiar();
         QuedarSinFila(EstadoDetalle::Vacia);
@@ -123,7 +129,14 @@ void ListaDetalle::Mostrar() {
 // Marked only while another row is the selected one.
 void ListaDetalle::SenalarMostrada() {
     const int fila = FilaMostrada();
-    lista_.Senalar(fila == vista_.FilaActual() ? -1 : fila);
+    Senalar(fila == vista_.FilaActual() ? -1 : fila);
+}
+
+// The mark may be scrolled out of sight, so the card says it in words.
+void ListaDetalle::Senalar(int fila) {
+    lista_.Senalar(fila);
+    vista_.TitularFicha(
+        fila < 0 ? QString() : QStringLiteral("%1 · %2").arg(lista_.Celda(fila, 0), lista_.Celda(fila, 1)));
 }
 
 QString ListaDetalle::AMostrar(int, const QString &guardado) const {
@@ -156,6 +169,7 @@ void ListaDetalle::Habilitar() {
     habilitados.controles = panel_ == PanelDetalle::Ninguno;
     habilitados.lista = !nueva && panel_ != PanelDetalle::Categoria;
     habilitados.campos = nueva || !camposGrises_;
+    habilitados.legible = legible_;
     habilitados.botones = BotonesDelEstado();
     vista_.Habilitar(habilitados);
     AlCambiarEstado();
@@ -187,7 +201,7 @@ void ListaDetalle::Nuevo() {
         return;
     desdeVacia_ = estado_ == EstadoDetalle::Vacia;
     idMostrado_.clear();
-    lista_.Senalar(-1);
+    Senalar(-1);
     for (std::size_t i = 0; i < reglas_.campos.size(); ++i)
         vista_.Poner(static_cast<int>(i), reglas_.campos[i].inicial);
     AlNuevo();

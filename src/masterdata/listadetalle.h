@@ -99,7 +99,7 @@ class ListaDetalle {
     // when there is none, `texto` is empty, or no column is marked (which is told).
     bool Buscar(const QString &texto, const std::vector<bool> &marcadas);
 
-    // Reads the table into the list and shows its first row.
+    // Reads the table into the list and shows its first row. A table that can't be read leaves no row.
     void LlenarLista();
     // Copies the selected row of the list into the fields. Without such a row in the table they stay as they
     // are.
@@ -157,6 +157,7 @@ class ListaDetalle {
     Botones BotonesDelEstado() const;
     void VaciarCampos();
     void SenalarMostrada();
+    void Senalar(int fila);
     bool RequeridosLlenos();
     int FilaMostrada() const;
     bool HayDuplicado(int filaPropia);
@@ -180,6 +181,7 @@ class ListaDetalle {
     Buscador buscador_;
     EstadoDetalle estado_ = EstadoDetalle::Vacia;
     bool desdeVacia_ = true;   // a new row was begun in the state Vacia
+    bool legible_ = true;      // the last fill could read its tables
     bool camposGrises_ = true; // no row is shown, in whatever state
     PanelDetalle panel_ = PanelDetalle::Ninguno;
     QString idMostrado_; // row whose columns the fields hold; empty when none

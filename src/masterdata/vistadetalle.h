@@ -28,6 +28,7 @@ struct Habilitados {
     bool campos = false;   // white, else grey for lack of data
     bool lista = true;     // and whatever else would leave the row (the tree of the options window)
     bool controles = true; // fields and buttons as a whole: not below a panel
+    bool legible = true;   // the table could be read: a list without rows has none
 };
 
 class VistaDetalle {
@@ -46,6 +47,8 @@ class VistaDetalle {
     // Gives the list the focus, when it is visible and can take it.
     virtual void EnfocarLista() = 0;
 
+    // Names the row of the fields while another one is selected; empty: nothing to say.
+    virtual void TitularFicha(const QString &nombre) = 0;
     virtual void Habilitar(const Habilitados &habilitados) = 0;
     // Shows the panel with empty fields and the focus in it; hides it. What it covers is disabled after it
     // opens and enabled before it closes.

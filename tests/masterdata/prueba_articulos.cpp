@@ -210,12 +210,44 @@ TEST_F(Articulos, MarksTheRowOfTheFieldsWhileAnotherOneIsSelected) {
     EXPECT_EQ(marcadas(), QString());
     logica_->Buscar(u"café"_qs, {false, true});
     EXPECT_EQ(marcadas(), u"A1");
+    EXPECT_TRUE(vista.ficha.startsWith(u"A1 · ")) << qPrintable(vista.ficha);
     EXPECT_EQ(lista.index(0, 3).data(Qt::AccessibleDescriptionRole).toString(),
               u"Los campos muestran los datos de esta fila");
     lista.Ordenar(col::kCodigo, Qt::DescendingOrder);
     EXPECT_EQ(marcadas(), u"A1") << "it goes where its row goes";
     logica_->Mostrar();
     EXPECT_EQ(marcadas(), QString());
+    EXPECT_EQ(vista.ficha, QString());
+}
+
+TEST_F(Articulos, ATableThatCannotBeReadLeavesTheWindowEmptyAndItsNewArticleCanBeGivenUp) {
+    Abrir();
+    mundo_.datos.Filas("ALTER TABLE articulos.Articulos RENAME TO Otra");
+    mundo_.frmBases().datArticulos.Invalidar();
+    const auto vacia = [this] {
+        return logica_->Estado() == EstadoDetalle::Vacia && logica_->Lista().Filas() == 0 &&
+               vista.habilitados.botones == Botones{.nuevo = true, .actualizar = true} &&
+               !vista.habilitados.legible;
+    };
+    logica_->Actualizar();
+    EXPECT_TRUE(vacia());
+    logica_->Nuevo();
+    EXPECT_TRUE(vista.habilitados.botones.cancelar);
+    logica_->Cancelar();
+    EXPECT_TRUE(vacia());
+    mundo_.datos.Filas("ALTER TABLE articulos.Otra RENAME TO Articulos");
+    logica_->Actualizar();
+    EXPECT_TRUE(vista.habilitados.legible);
+    EXPECT_EQ(logica_->Lista().Filas(), 4);
+}
+
+TEST_F(Articulos, NothingIsComputedFromAPriceThatIsNoNumber) {
+    mundo_.datos.Ejecutar("UPDATE articulos.Articulos SET subtotal='1.234,50' WHERE id=1");
+    const ListaTexto &lista = Abrir().Lista();
+    EXPECT_EQ(lista.Celda(0, col::kSubtotal), u"1.234,50");
+    EXPECT_EQ(lista.Celda(0, col::kIva) + lista.Celda(0, col::kPVenta), QString());
+    EXPECT_EQ(vista.textos[A::kSubtotal], u"1.234,50");
+    EXPECT_EQ(vista.textos[A::kPVenta], QString());
 }
 
 TEST_F(Articulos, StoresPlainNumbersWithoutTrailingZeros) {

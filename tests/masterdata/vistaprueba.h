@@ -13,6 +13,7 @@ class VistaPrueba : public VistaDetalle {
     std::map<int, QString> textos;
     std::map<int, QStringList> entradas;
     Habilitados habilitados;
+    QString ficha;
     int foco = -1;
     int fila = -1;
 
@@ -29,6 +30,7 @@ class VistaPrueba : public VistaDetalle {
     int FilaActual() const override { return fila; }
     void SeleccionarFila(int nueva) override { fila = nueva; }
     void EnfocarLista() override {}
+    void TitularFicha(const QString &nombre) override { ficha = nombre; }
     void Habilitar(const Habilitados &nuevos) override { habilitados = nuevos; }
     void AbrirPanel(PanelDetalle) override {}
     void CerrarPanel(PanelDetalle) override {}

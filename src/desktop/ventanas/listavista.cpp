@@ -132,9 +132,19 @@ void ListaVista::PonerTextoVacio(const QString &texto) {
     viewport()->update();
 }
 
+void ListaVista::PonerIlegible(bool ilegible) {
+    ilegible_ = ilegible;
+    DecirVacia();
+    viewport()->update();
+}
+
+QString ListaVista::MotivoVacia() const {
+    return ilegible_ ? QStringLiteral("No se pudieron leer los datos.") : textoVacio_;
+}
+
 void ListaVista::DecirVacia() {
     const bool vacia = lista_.isNull() || lista_->Filas() == 0;
-    setAccessibleDescription(vacia ? textoVacio_ : QString());
+    setAccessibleDescription(vacia ? MotivoVacia() : QString());
 }
 
 bool ListaVista::DesbordaFilas() const {
@@ -172,13 +182,13 @@ void ListaVista::changeEvent(QEvent *evento) {
 
 void ListaVista::paintEvent(QPaintEvent *evento) {
     QTreeView::paintEvent(evento);
-    if (textoVacio_.isEmpty() || lista_.isNull() || lista_->Filas() > 0)
+    if (MotivoVacia().isEmpty() || lista_.isNull() || lista_->Filas() > 0)
         return;
     constexpr int kAire = 16;
     QPainter pintor(viewport());
     pintor.setPen(colores::kTextoTenue);
     pintor.drawText(viewport()->rect().adjusted(kAire, kAire, -kAire, -kAire),
-                    Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, textoVacio_);
+                    Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, MotivoVacia());
 }
 
 // A list that is filled and shown at once is measured once.

@@ -31,6 +31,8 @@ class ListaVista : public QTreeView {
     void PonerAncho(int columna, int twips);
     // What stands in the list while it has no rows, and is read aloud: "Todavía no hay ...".
     void PonerTextoVacio(const QString &texto);
+    // True: there is no row because the data could not be read, and the list says that instead.
+    void PonerIlegible(bool ilegible);
     // True exactly when a scroll bar takes room: the rows exceed Int(height / row - 1.5), where `row` is the
     // height of a row and the 1.5 are header and frame, both as high as font and style make them.
     bool DesbordaFilas() const;
@@ -65,12 +67,14 @@ class ListaVista : public QTreeView {
     int Medir(int columna, const QStringList &textos) const;
     void Ensanchar(int desde, int hasta);
     bool OrdenarPorTecla(const QKeyEvent &evento);
+    QString MotivoVacia() const;
     void DecirVacia();
     void Arrastrado();
     QPointer<ListaTexto> lista_;
     std::vector<int> anchos_;     // twips, by column
     std::vector<int> necesarios_; // pixels that the texts of each column need; empty: to be measured
     QString textoVacio_;
+    bool ilegible_ = false;
     bool repartiendo_ = false;
     QList<QMetaObject::Connection> seguimiento_;
 };

@@ -44,6 +44,7 @@ class ControlesDetalle : public QObject, public VistaDetalle {
     int FilaActual() const override;
     void SeleccionarFila(int fila) override;
     void EnfocarLista() override;
+    void TitularFicha(const QString &nombre) override { emit FichaTitulada(nombre); }
     void Habilitar(const Habilitados &habilitados) override;
     void AbrirPanel(PanelDetalle panel) override { emit PanelAbierto(panel); }
     void CerrarPanel(PanelDetalle panel) override { emit PanelCerrado(panel); }
@@ -53,6 +54,8 @@ class ControlesDetalle : public QObject, public VistaDetalle {
     void ListaHabilitada(bool habilitada);
     void PanelAbierto(PanelDetalle panel);
     void PanelCerrado(PanelDetalle panel);
+    // The row of the fields, while another one is selected; else empty.
+    void FichaTitulada(const QString &nombre);
     // The list has more or fewer rows.
     void FilasCambiadas();
 

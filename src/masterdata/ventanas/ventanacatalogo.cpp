@@ -1,5 +1,6 @@
 #include "masterdata/ventanas/ventanacatalogo.h"
 
+#include "desktop/ventanas/etiquetaelidida.h"
 #include "desktop/ventanas/filtrocampos.h"
 #include "desktop/ventanas/iconos.h"
 #include "desktop/ventanas/listavista.h"
@@ -52,6 +53,7 @@ void VentanaCatalogo::Montar(std::unique_ptr<ListaDetalle> logica) {
     controles_->Montar(*logica_);
     controles_->ConectarTeclas(*filtro_);
     connect(controles_, &ControlesDetalle::FilasCambiadas, this, [this] { AjustarColumnas(); });
+    connect(controles_, &ControlesDetalle::FichaTitulada, this, &VentanaCatalogo::TitularFicha);
     LV().viewport()->installEventFilter(this);
     filtro_->AlEscapar([this] { return Escapar(); });
     OrdenarTabulacion();
@@ -179,6 +181,19 @@ void VentanaCatalogo::Buscar() {
     texto->setFocus();
     if (hallado)
         texto->selectAll();
+}
+
+// What save and delete act on, while the selected row is another one. The line takes its height from the
+// list.
+void VentanaCatalogo::TitularFicha(const QString &nombre) {
+    const QString titulo = nombre.isEmpty() ? QString() : QStringLiteral("Ficha de %1").arg(nombre);
+    if (titulo == ui_->lblFicha->text())
+        return;
+    ui_->lblFicha->setText(titulo);
+    ui_->lblFicha->setVisible(!titulo.isEmpty());
+    Ficha()->setAccessibleName(titulo);
+    ui_->cuerpo->activate();
+    LV().scrollTo(LV().currentIndex());
 }
 
 bool VentanaCatalogo::CancelarConFoco() {

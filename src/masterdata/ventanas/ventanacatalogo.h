@@ -77,6 +77,7 @@ class VentanaCatalogo : public VentanaModulo {
     void ConectarBotones();
     void ConectarBusqueda();
     void Buscar();
+    void TitularFicha(const QString &nombre);
     void ColocarPaneles();
     bool CancelarConFoco();
 
