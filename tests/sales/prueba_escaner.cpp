@@ -131,25 +131,74 @@ TEST_F(Escaner, AScanIntoABoxAnswersNoQuestionAndIsSearchedBehindIt) {
         Servicios{mundo.frmBases(), cuadros, mundo.reloj, mundo.impresoras, mundo.ajustes, mundo.escritorio},
         anfitrion, Ultimo(), nullptr);
     MostrarVentana(*ventana);
-    const auto escanear = [this](QDialog &) { Escaneado(kAzucar); };
+    // The operator's hands, a while after the scanner.
+    const auto enter = [](QDialog &cuadro) {
+        QKeyEvent tecla(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QStringLiteral("\r"));
+        tecla.setTimestamp(10'000'000);
+        QApplication::sendEvent(&cuadro, &tecla);
+    };
     const auto hallado = [this] {
         ventana->activateWindow();
         return ConFoco() == QStringLiteral("cmdAgregar");
     };
-    cuadros.manos = escanear; // an information takes the Enter
+    // Both Enters of two scans, and the next one with one Enter: the box stays, and all three are worked off.
+    const auto tres = [&](QDialog &cuadro) {
+        Escanear(kAzucar);
+        Escanear(kYerba);
+        Escaneado(kAzucar);
+        EXPECT_TRUE(cuadro.isVisible());
+    };
+    cuadros.manos = [&](QDialog &cuadro) {
+        tres(cuadro);
+        enter(cuadro);
+    };
     Escaneado("0000000000000");
     EXPECT_TRUE(QTest::qWaitFor(hallado));
-    Entrar();
+    ASSERT_EQ(Lineas(), 2);
     EXPECT_EQ(Linea(0, linea::Nombre), QStringLiteral("Azúcar"));
     cuadros.manos = [&](QDialog &cuadro) {
-        escanear(cuadro);
-        EXPECT_TRUE(cuadro.isVisible());
+        tres(cuadro);
         cuadro.reject();
     };
+    C<QWidget>("txtNumComp")->setFocus();
     Clic("cmdQuitar");
-    EXPECT_TRUE(QTest::qWaitFor(hallado));
-    EXPECT_EQ(Lineas(), 1);
+    EXPECT_TRUE(
+        QTest::qWaitFor([&] { return hallado() && Linea(1, linea::Cantidad) == QStringLiteral("2"); }));
+    EXPECT_EQ(Linea(0, linea::Cantidad), QStringLiteral("2"));
     EXPECT_EQ(cuadros.abiertos, 2);
+}
+
+// What follows in one burst behind a code that nobody has: its second Enter adds nothing, the next is sold.
+TEST_F(Escaner, TheBoxOpensWhenTheBurstIsOver) {
+    Cuadros cuadros;
+    ventana = std::make_unique<FrmVentas>(
+        Servicios{mundo.frmBases(), cuadros, mundo.reloj, mundo.impresoras, mundo.ajustes, mundo.escritorio},
+        anfitrion, Ultimo(), nullptr);
+    MostrarVentana(*ventana);
+    cuadros.manos = [](QDialog &cuadro) { cuadro.accept(); };
+    QTimer::singleShot(0, ventana.get(), [this] {
+        EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+        Entrar();
+        Escanear(kAzucar);
+    });
+    Escaneado("0000000000000");
+    EXPECT_TRUE(QTest::qWaitFor([this] { return Lineas() == 1; }));
+    EXPECT_EQ(Linea(0, linea::Nombre), QStringLiteral("Azúcar"));
+    EXPECT_EQ(cuadros.abiertos, 1);
+}
+
+TEST_F(Escaner, AScanPicksNoCustomer) {
+    Abrir();
+    Clic("cmdCliente");
+    Lista("LVClientes")->setFocus();
+    mundo.preguntas.EsperaMensaje(kFinal, Icono::Informacion);
+    Escaneado(kAzucar);
+    EXPECT_TRUE(Se("picClientes"));
+    EXPECT_EQ(Campo("txtBuscarClientes")->text(), QLatin1String(kAzucar));
+    EXPECT_EQ(Texto("lblCliente"), QString());
+    Entrar(); // the operator's, on the list where the search ended
+    EXPECT_FALSE(Se("picClientes"));
+    EXPECT_NE(Texto("lblCliente"), QString());
 }
 
 TEST(RachaTeclas, APauseOrAnotherControlBeginsANewRun) {

@@ -102,17 +102,17 @@ void BarraBusqueda::Empezar(const QString &texto) {
     c_.campo->setText(texto);
 }
 
-void BarraBusqueda::BuscarEn(const QString &clave, const QString &texto) {
+bool BarraBusqueda::BuscarEn(const QString &clave, const QString &texto) {
     ElegirModo(*std::ranges::find(modos_, clave, &ModoBusqueda::clave));
     c_.campo->setText(texto);
-    Buscar();
+    return Buscar();
 }
 
-void BarraBusqueda::Buscar() {
+bool BarraBusqueda::Buscar() {
     const QString texto = c_.campo->text();
     if (texto.isEmpty()) {
         c_.campo->setFocus();
-        return;
+        return false;
     }
     const int fila = buscador_.Buscar(*c_.lista->Lista(), {Modo().columna}, texto);
     if (fila < 0) {
@@ -120,11 +120,12 @@ void BarraBusqueda::Buscar() {
         c_.lista->setFocus();
         preguntas_.Informar(QStringLiteral("La búsqueda ha finalizado."));
         emit Terminado();
-        return;
+        return false;
     }
     c_.lista->SeleccionarFila(fila);
     c_.campo->selectAll();
     emit Encontrado(Modo().clave);
+    return true;
 }
 
 } // namespace tarvo

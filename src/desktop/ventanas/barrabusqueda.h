@@ -38,9 +38,10 @@ class BarraBusqueda : public QObject {
                   Buscador &buscador, Preguntas &preguntas, FiltroCampos &filtro);
 
     // Searches on from the start row: selects the row of a hit and the text in the field, tells the end.
-    void Buscar();
+    // True for a hit.
+    bool Buscar();
     // Searches `texto` from now on in the mode of that key, as if it had been chosen and typed.
-    void BuscarEn(const QString &clave, const QString &texto);
+    bool BuscarEn(const QString &clave, const QString &texto);
     // Begins a new text in the field, presses the button `buscar` and moves the focus to the field.
     void Empezar(const QString &texto = QString());
     // The button `buscar` is pressed.

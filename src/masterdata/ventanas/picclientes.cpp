@@ -82,9 +82,9 @@ int PicClientes::FilaActual() const {
     return ui_->LVClientes->FilaActual();
 }
 
-void PicClientes::Buscar() {
+void PicClientes::Buscar(const QString &texto) {
     if (!EntradaNueva())
-        busqueda_->Empezar();
+        busqueda_->Empezar(texto);
 }
 
 void PicClientes::Cerrar() {

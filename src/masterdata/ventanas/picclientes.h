@@ -35,8 +35,8 @@ class PicClientes : public QFrame {
     void CargarClientes();
 
     void Abrir();
-    // Begins a new search.
-    void Buscar();
+    // Begins a new search with `texto`, unless a new customer is being entered.
+    void Buscar(const QString &texto = QString());
     // As "Cancelar".
     void Cerrar();
     // Escape closes the topmost panel; false when none is open.

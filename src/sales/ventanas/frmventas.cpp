@@ -166,10 +166,11 @@ void FrmVentas::PrepararEscaner() {
         return venta_.Articulos().Buscar(articulo::CodBarras,
                                          {utf8.constData(), static_cast<std::size_t>(utf8.size())}) >= 0;
     };
-    escaner_.Montar(
-        {ui_->frArticulos, ui_->frDetalle, ui_->frDatos},
-        [this](const QString &codigo) { BuscarBarras(codigo); },
-        [this](const QString &texto) { busqueda_->Empezar(texto); });
+    escaner_.Montar(ui_->frArticulos,
+                    [this](const QString &codigo, bool agregar) { BuscarBarras(codigo, agregar); });
+    for (QWidget *marco : {ui_->frArticulos, ui_->frDetalle, ui_->frDatos})
+        escaner_.Desviar(marco, [this](const QString &texto) { busqueda_->Empezar(texto); });
+    escaner_.Desviar(picClientes_, [this](const QString &texto) { picClientes_->Buscar(texto); });
     escaner_.Vigilar(
         CampoNumerico(ui_->txtCantidad, [this] { ui_->txtCantidad->setText(QStringLiteral("1")); }));
     escaner_.Vigilar(CampoNumerico(
@@ -179,8 +180,9 @@ void FrmVentas::PrepararEscaner() {
     escaner_.Vigilar(CampoCombo(ui_->cboxVendedores, esBarras));
 }
 
-void FrmVentas::BuscarBarras(const QString &codigo) {
-    busqueda_->BuscarEn(QStringLiteral("barras"), codigo);
+void FrmVentas::BuscarBarras(const QString &codigo, bool agregar) {
+    if (busqueda_->BuscarEn(QStringLiteral("barras"), codigo) && agregar)
+        Agregar();
 }
 
 void FrmVentas::ConectarArticulos() {
@@ -249,7 +251,7 @@ void FrmVentas::Agregar() {
     const int articulo = ui_->LVArticulos->FilaActual();
     if (RachaTeclas::EsCodigo(cantidad)) {
         ui_->txtCantidad->setText(QStringLiteral("1"));
-        BuscarBarras(cantidad);
+        BuscarBarras(cantidad, false);
     } else if (articulo >= 0) {
         AgregarArticulo(articulo, cantidad.toLongLong());
     }

@@ -68,7 +68,7 @@ class FrmVentas : public VentanaModulo {
     void AjustarColumnas();
 
     void CompletarCantidad();
-    void BuscarBarras(const QString &codigo);
+    void BuscarBarras(const QString &codigo, bool agregar);
     void Agregar();
     void AgregarArticulo(int articulo, qint64 cantidad);
     void Quitar();

@@ -3,9 +3,11 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
+#include <QEventLoop>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QScopedValueRollback>
+#include <QWindow>
 
 #include <algorithm>
 #include <utility>
@@ -13,6 +15,10 @@
 namespace tarvo {
 
 namespace {
+
+constexpr int kRitmo = 100;           // ms; keys that follow one another faster come from a scanner
+constexpr int kVuelta = 200;          // ms; the window system has given the keyboard back
+constexpr qsizetype kCodigoMenor = 3; // characters that come in the rhythm of a scanner
 
 bool EsEntrar(const QKeyEvent &evento) {
     return (evento.modifiers() & ~Qt::KeypadModifier) == 0 &&
@@ -34,63 +40,150 @@ bool EsModificador(int tecla) {
 
 } // namespace
 
-RutaEscaner::RutaEscaner(Preguntas &preguntas) : preguntas_(preguntas) {}
+RutaEscaner::RutaEscaner(Preguntas &preguntas) : preguntas_(preguntas) {
+    calma_.setSingleShot(true);
+    connect(&calma_, &QTimer::timeout, this, &RutaEscaner::BuscarPendiente);
+}
 
-void RutaEscaner::Montar(std::vector<QWidget *> marcos, std::function<void(const QString &)> buscar,
-                         std::function<void(const QString &)> empezar) {
-    marcos_ = std::move(marcos);
+void RutaEscaner::Montar(QWidget *venta, Buscar buscar) {
+    venta_ = venta;
     buscar_ = std::move(buscar);
-    empezar_ = std::move(empezar);
     qApp->installEventFilter(this);
 }
 
 Respuesta RutaEscaner::Preguntar(const QString &texto, Respuesta preseleccionada) {
-    const QScopedValueRollback ocupado(preguntando_, true);
-    const Respuesta respuesta = preguntas_.Preguntar(texto, preseleccionada);
-    QMetaObject::invokeMethod(this, &RutaEscaner::BuscarPendiente, Qt::QueuedConnection);
+    Respuesta respuesta = preseleccionada;
+    ConCuadro([&] { respuesta = preguntas_.Preguntar(texto, preseleccionada); });
     return respuesta;
 }
 
 void RutaEscaner::Mostrar(const QString &texto, Icono icono) {
-    const QScopedValueRollback ocupado(preguntando_, true);
-    const QScopedValueRollback aviso(informando_, true);
-    preguntas_.Mostrar(texto, icono);
-    QMetaObject::invokeMethod(this, &RutaEscaner::BuscarPendiente, Qt::QueuedConnection);
+    ConCuadro([&] { preguntas_.Mostrar(texto, icono); });
 }
 
-// The box of another question may be up again by now: what is pending waits for its end.
-void RutaEscaner::BuscarPendiente() {
-    if (preguntando_ || pendiente_.isEmpty())
+void RutaEscaner::ConCuadro(const std::function<void()> &cuadro) {
+    {
+        const QScopedValueRollback ocupado(preguntando_, true);
+        EsperarCalma();
+        cuadro();
+    }
+    RetenerTeclado();
+    Reanudar();
+}
+
+// A box that opens or closes among the keys of a scan would let some of them fall between the windows.
+void RutaEscaner::EsperarCalma() {
+    const QScopedValueRollback espera(esperando_, true);
+    while (CalmaEn() > 0) {
+        QEventLoop vueltas;
+        QTimer::singleShot(CalmaEn(), &vueltas, &QEventLoop::quit);
+        vueltas.exec();
+    }
+}
+
+int RutaEscaner::CalmaEn() const {
+    return desdeTecla_.isValid() ? static_cast<int>(std::max<qint64>(0, kRitmo - desdeTecla_.elapsed())) : 0;
+}
+
+// Until the window system has given the keyboard back to the window, the keys would go to nobody.
+void RutaEscaner::RetenerTeclado() {
+    QWindow *const ventana = venta_ == nullptr ? nullptr : venta_->window()->windowHandle();
+    if (ventana == nullptr || ventana->isActive() ||
+        QGuiApplication::platformName() != QLatin1String("xcb") || !ventana->setKeyboardGrabEnabled(true))
         return;
-    buscar_(std::exchange(pendiente_, QString()));
+    QTimer::singleShot(kVuelta, ventana, [ventana] { ventana->setKeyboardGrabEnabled(false); });
+}
+
+void RutaEscaner::Reanudar() {
+    calma_.start(CalmaEn());
+}
+
+// The box of another question may be up again by now, or a panel: what is pending waits for its end.
+void RutaEscaner::BuscarPendiente() {
+    if (!Libre())
+        return;
+    if (CalmaEn() > 0)
+        return Reanudar();
+    racha_.Cortar();
+    if (cola_.isEmpty())
+        return;
+    const Lectura lectura = cola_.takeFirst();
+    buscar_(lectura.codigo, lectura.agregar);
+    Reanudar();
+}
+
+bool RutaEscaner::Libre() const {
+    return !preguntando_ && venta_->isEnabled();
 }
 
 bool RutaEscaner::eventFilter(QObject *objeto, QEvent *evento) {
-    if (evento->type() != QEvent::KeyPress || !objeto->isWidgetType())
+    if (objeto == venta_ && evento->type() == QEvent::EnabledChange)
+        Reanudar();
+    if (!objeto->isWidgetType())
         return false;
     auto *const recibe = static_cast<QWidget *>(objeto);
+    if (preguntando_ && recibe->window() == venta_->window() && DetrasDelCuadro(*evento))
+        return true;
+    if (evento->type() != QEvent::KeyPress)
+        return false;
     const auto &tecla = *static_cast<QKeyEvent *>(evento);
     // A key that its control leaves alone comes by again on the way to the window.
     const QWidget *const foco = QApplication::focusWidget();
     if (foco != nullptr && recibe != foco && QApplication::activePopupWidget() == nullptr)
         return false;
-    if (preguntando_ && recibe->window() != marcos_.front()->window())
-        return EnCuadro(recibe->window(), tecla);
+    desdeTecla_.start();
+    if (preguntando_ || (Libre() && (!cola_.isEmpty() || !racha_.En(this).isEmpty())))
+        return Recoger(tecla);
     return Tecla(recibe, tecla);
 }
 
-bool RutaEscaner::EnCuadro(QWidget *cuadro, const QKeyEvent &evento) {
-    if (const QString caracter = CaracterDe(evento); !caracter.isEmpty()) {
-        racha_.Agregar(cuadro, caracter, evento.timestamp());
+// While a box is about to open nothing else may begin in the sale. Once it is up, a key that still goes to
+// the window behind it is heard only as the question whether it is a shortcut.
+bool RutaEscaner::DetrasDelCuadro(QEvent &evento) {
+    switch (evento.type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::Close:
+        evento.ignore();
+        return esperando_;
+    case QEvent::ShortcutOverride:
+        evento.accept();
+        if (!esperando_)
+            Recoger(static_cast<QKeyEvent &>(evento));
+        return true;
+    default:
         return false;
     }
-    const QString codigo = racha_.En(cuadro);
-    if (!EsModificador(evento.key()))
-        racha_.Cortar();
-    if (!EsEntrar(evento) || !RachaTeclas::EsCodigo(codigo))
+}
+
+// True for a key that is kept from its window: the characters, and each Enter in the rhythm of a scan.
+bool RutaEscaner::Recoger(const QKeyEvent &evento) {
+    const bool seguida = evento.timestamp() <= ultima_ + kRitmo;
+    if (const QString caracter = CaracterDe(evento); !caracter.isEmpty()) {
+        // The blank presses the button.
+        if (racha_.En(this).isEmpty() && evento.key() == Qt::Key_Space)
+            return esperando_;
+        racha_.Agregar(this, caracter, evento.timestamp());
+        ultima_ = evento.timestamp();
+        leida_ = false;
+        return true;
+    }
+    if (EsModificador(evento.key()))
         return false;
-    pendiente_ = codigo;
-    return !informando_;
+    const QString codigo = racha_.En(this);
+    racha_.Cortar();
+    if (!EsEntrar(evento)) {
+        leida_ = false;
+        return esperando_;
+    }
+    const bool deLectura = RachaTeclas::EsCodigo(codigo) || (seguida && (leida_ || !codigo.isEmpty()));
+    if (codigo.size() >= kCodigoMenor && deLectura)
+        cola_.append({codigo, false});
+    else if (deLectura && leida_ && !cola_.isEmpty())
+        cola_.last().agregar = true;
+    leida_ = deLectura;
+    ultima_ = evento.timestamp();
+    return deLectura || esperando_;
 }
 
 // The control of the sale that a key is meant for: the list that a combo has opened is the combo.
@@ -103,13 +196,16 @@ RutaEscaner::CampoVenta *RutaEscaner::CampoDe(const QWidget *recibe) {
     return campo == campos_.end() ? nullptr : &*campo;
 }
 
-// A control of the sale that takes no text; so is the window itself while nothing has the focus.
-bool RutaEscaner::EsSinTexto(const QWidget *recibe) const {
+// Where a character goes that is typed on `recibe`, a control without text; so is the window itself while
+// nothing has the focus. Empty when it is left alone.
+RutaEscaner::Empezar RutaEscaner::DesvioDe(const QWidget *recibe) const {
     if (qobject_cast<const QLineEdit *>(recibe) != nullptr)
-        return false;
-    if (recibe == marcos_.front()->window())
-        return marcos_.front()->isEnabled() && marcos_.front()->isVisible();
-    return std::ranges::any_of(marcos_, [recibe](QWidget *marco) { return marco->isAncestorOf(recibe); });
+        return {};
+    if (recibe == venta_->window())
+        return venta_->isEnabled() && venta_->isVisible() ? desvios_.front().empezar : Empezar();
+    const auto desvio =
+        std::ranges::find_if(desvios_, [recibe](const Desvio &d) { return d.marco->isAncestorOf(recibe); });
+    return desvio == desvios_.end() ? Empezar() : desvio->empezar;
 }
 
 bool RutaEscaner::Tecla(QWidget *recibe, const QKeyEvent &evento) {
@@ -122,9 +218,10 @@ bool RutaEscaner::Tecla(QWidget *recibe, const QKeyEvent &evento) {
             return false;
         }
         // The blank presses the button and marks the row.
-        if (!EsSinTexto(recibe) || evento.key() == Qt::Key_Space)
+        const Empezar empezar = evento.key() == Qt::Key_Space ? Empezar() : DesvioDe(recibe);
+        if (!empezar)
             return false;
-        empezar_(caracter);
+        empezar(caracter);
         return true;
     }
     if (EsEntrar(evento) && campo != nullptr)
@@ -141,7 +238,7 @@ bool RutaEscaner::Entrar(CampoVenta &campo) {
     if (codigo.isEmpty())
         return false;
     campo.poner(antes_);
-    buscar_(codigo);
+    buscar_(codigo, false);
     return true;
 }
 
