@@ -144,12 +144,15 @@ bool RutaEscaner::DetrasDelCuadro(QEvent &evento) {
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
     case QEvent::Close:
-        evento.ignore();
+        if (esperando_)
+            evento.ignore();
         return esperando_;
     case QEvent::ShortcutOverride:
         evento.accept();
-        if (!esperando_)
+        if (!esperando_) {
+            desdeTecla_.start();
             Recoger(static_cast<QKeyEvent &>(evento));
+        }
         return true;
     default:
         return false;
