@@ -46,6 +46,7 @@ class VistaMuda final : public VistaDetalle, public VistaFiltro {
     int FilaActual() const override { return -1; }
     void SeleccionarFila(int) override {}
     void EnfocarLista() override {}
+    void TitularFicha(const QString &) override {}
     void Habilitar(const Habilitados &) override {}
     void AbrirPanel(PanelDetalle) override {}
     void CerrarPanel(PanelDetalle) override {}

@@ -2,6 +2,8 @@
 // places. The program fails when the ratio is over its limit.
 #include "pintor.h"
 
+#include "masterdata/listadoscatalogo.h"
+
 #include <QGuiApplication>
 
 using namespace tarvo;

@@ -65,7 +65,7 @@ ReporteCatalogo ReporteCuenta(const ListaTexto &lista, ListaCuenta cual, const Q
                               const QString &saldo) {
     const FormaListado &forma = FormaDe(cual);
     const QString titulo = QString::fromUtf8(forma.titulo);
-    const QString pie = ReglasDe(cual).rotulo + QStringLiteral("    ") + saldo;
+    QString pie = ReglasDe(cual).rotulo + QStringLiteral("    ") + saldo;
     ReporteCatalogo reporte{
         .pregunta = QString::fromUtf8(forma.pregunta),
         .mensajeError = QStringLiteral("Ha ocurrido un error en la impresión."),
@@ -75,7 +75,7 @@ ReporteCatalogo ReporteCuenta(const ListaTexto &lista, ListaCuenta cual, const Q
             .subrayado = QString(titulo.size(), QLatin1Char('-')),
             .encabezado = QString::fromUtf8(forma.encabezado),
             .imprimirFila = [&lista, &forma](Superficie &papel, int fila) { forma.fila(papel, lista, fila); },
-            .pie = [pie](int) { return pie; },
+            .pie = [pie = std::move(pie)](int) { return pie; },
             .columnaPie = kColumnaPie}};
     if (cual == ListaCuenta::Estado)
         reporte.listado.trasTitulo = [cliente](Superficie &papel) { LineaCliente(papel, cliente); };
