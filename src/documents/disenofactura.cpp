@@ -48,7 +48,8 @@ DisenoFactura::DisenoFactura() : logo{true, kMargenLienzo, kMargenLienzo} {
     for (std::size_t i = 0; i < etiquetas.size(); ++i) {
         EtiquetaLibre &etiqueta = etiquetas[i];
         etiqueta.visible = false;
-        etiqueta.left = kMargenLienzo + 240.0F * static_cast<float>(i / 10);
+        const std::size_t columna = i / 10;
+        etiqueta.left = kMargenLienzo + 240.0F * static_cast<float>(columna);
         etiqueta.top = 2400.0F + 240.0F * static_cast<float>(i % 10);
         etiqueta.ancho = 1125;
         etiqueta.texto = QStringLiteral("Pers");

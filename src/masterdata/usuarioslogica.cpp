@@ -136,7 +136,7 @@ QString UsuariosLogica::AMostrar(int campo, const QString &guardado) const {
 }
 
 QString UsuariosLogica::AGuardar(int campo) const {
-    const QString texto = vista().Texto(campo);
+    QString texto = vista().Texto(campo);
     if (campo != kCategoria)
         return texto;
     for (const Categoria &categoria : Categorias())
