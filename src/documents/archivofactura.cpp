@@ -22,7 +22,7 @@ namespace {
 constexpr std::size_t kFichas = 368;
 constexpr std::size_t kFichasMarca = 4; // maker, date, time, format: never looked at
 constexpr qint64 kTrozo = 32 * 1024LL;
-constexpr qsizetype kLargoMaximo = 4 * 1024 * 1024LL; // a line without its tokens by then has none
+constexpr qsizetype kLargoMaximo = 4LL * 1024 * 1024; // a line without its tokens by then has none
 
 // --- writing
 
