@@ -10,7 +10,7 @@ namespace tarvo {
 
 namespace {
 
-constexpr qint64 kTamanoMayor = 64 * 1024; // bytes; with every entry named a file has less than 2 KB
+constexpr qint64 kTamanoMayor = 64 * 1024LL; // bytes; with every entry named a file has less than 2 KB
 constexpr int kFichasGrupo = 3;
 constexpr const char *kCabeza[] = {"", "[Nerlo-Menus-Shortcuts]", "[V-1-0-0]"};
 

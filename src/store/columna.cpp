@@ -160,6 +160,7 @@ std::vector<std::int64_t> ColumnaTexto::MasLargas(std::size_t cuantas) const {
         }
     }
     std::vector<std::int64_t> filas;
+    filas.reserve(largas.size());
     for (const Larga &larga : largas)
         filas.push_back(-larga.second);
     return filas;
