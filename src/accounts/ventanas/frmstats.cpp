@@ -54,7 +54,7 @@ void FrmStats::CrearGrafico() {
     valores_->setColor(colores::kTitulo);
     serie->append(valores_);
     serie->setBarWidth(0.7);
-    auto *const grafico = new QChart;
+    auto *const grafico = ui_->Chart1->chart();
     grafico->addSeries(serie);
     grafico->legend()->hide();
     grafico->setMargins({4, 4, 4, 4});
@@ -72,7 +72,6 @@ void FrmStats::CrearGrafico() {
     grafico->addAxis(ejeValores_, Qt::AlignLeft);
     serie->attachAxis(ejeDias_);
     serie->attachAxis(ejeValores_);
-    ui_->Chart1->setChart(grafico);
     ui_->Chart1->setRenderHint(QPainter::Antialiasing);
 }
 
