@@ -46,8 +46,10 @@ FrmFactura::FrmFactura(const Servicios &servicios, const QString &carpetaFactura
     ui_->cmdAbrir->setFocus();
 }
 
+// The canvas goes while its logic lives: a piece that loses the focus by dying still asks it.
 FrmFactura::~FrmFactura() {
     ui_->picFactura->disconnect(this);
+    delete ui_->picFactura;
 }
 
 void FrmFactura::ConectarOrdenes() {

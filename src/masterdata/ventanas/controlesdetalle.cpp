@@ -45,7 +45,7 @@ void ControlesDetalle::ConectarBoton(const char *accion, void (ListaDetalle::*ha
     QPushButton *boton = Boton(accion);
     connect(boton, &QPushButton::clicked, this, [this, boton, hacer] {
         boton->setFocus(); // whatever field is being typed in is left first
-        (logica_->*hacer)();
+        std::invoke(hacer, *logica_);
     });
 }
 
