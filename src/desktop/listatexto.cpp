@@ -1,12 +1,11 @@
 #include "desktop/listatexto.h"
 
 #include "desktop/busquedaparte.h"
-#include "desktop/ordentexto.h"
+#include "desktop/filaslista.h"
 
 #include <QIcon>
 
 #include <algorithm>
-#include <limits>
 #include <utility>
 
 namespace tarvo {
@@ -15,115 +14,12 @@ namespace {
 
 constexpr int kLetrasOidas = 400; // of a cell; nobody listens to more
 
-bool MismosTextos(const ColumnaTexto &una, const ColumnaTexto &otra) {
-    if (una.Filas() != otra.Filas())
-        return false;
-    for (std::int64_t fila = 0; fila < una.Filas(); ++fila)
-        if (una.Celda(fila) != otra.Celda(fila))
-            return false;
-    return true;
-}
-
-constexpr std::uint32_t kSobra = std::numeric_limits<std::uint32_t>::max();
-
-ColumnaTexto Elegidas(const ColumnaTexto &columna, const std::vector<std::uint32_t> &filas) {
-    ColumnaTexto elegidas;
-    elegidas.Reservar(static_cast<std::int64_t>(filas.size()));
-    for (const std::uint32_t fila : filas)
-        elegidas.Agregar(columna.Celda(fila));
-    return elegidas;
-}
-
-template <typename Valor>
-std::vector<Valor> Elegidas(const std::vector<Valor> &valores, const std::vector<std::uint32_t> &filas) {
-    std::vector<Valor> elegidos;
-    elegidos.reserve(filas.size());
-    for (const std::uint32_t fila : filas)
-        elegidos.push_back(valores[fila]);
-    return elegidos;
-}
-
 } // namespace
-
-// Cells, tones and marks lie in stored rows, in the order in which they came; `orden` tells the stored row of
-// each row on screen.
-struct ListaTexto::Privado {
-    using Filas = std::vector<std::uint32_t>;
-
-    std::vector<ColumnaTexto> celdas;
-    Filas orden;                          // empty: the stored order itself
-    std::vector<std::vector<Tono>> tonos; // by column; empty: all normal
-    std::vector<bool> marcas;
-    bool marcable = false;
-    std::int64_t senalada = -1;
-    std::vector<Filas> rangos; // by column, once it was sorted by and until its cells change
-    OrdenTexto comparador;
-
-    explicit Privado(std::size_t columnas) : celdas(columnas), tonos(columnas), rangos(columnas) {}
-
-    std::uint32_t Guardada(int fila) const {
-        return orden.empty() ? static_cast<std::uint32_t>(fila) : orden[static_cast<std::size_t>(fila)];
-    }
-    // -1 for a row that isn't there.
-    int EnPantalla(std::int64_t guardada) const {
-        if (guardada < 0 || orden.empty())
-            return static_cast<int>(guardada);
-        return static_cast<int>(std::ranges::find(orden, guardada) - orden.begin());
-    }
-    const ColumnaTexto &Columna(int columna) const { return celdas[static_cast<std::size_t>(columna)]; }
-    std::string_view Celda(int fila, int columna) const { return Columna(columna).Celda(Guardada(fila)); }
-
-    const Filas &RangosDe(int columna) {
-        Filas &rango = rangos[static_cast<std::size_t>(columna)];
-        if (rango.empty())
-            rango = comparador.Rangos(Columna(columna));
-        return rango;
-    }
-    // A list that is filled again with the texts that it had needs no new sort.
-    void Reemplazar(std::vector<ColumnaTexto> nuevas) {
-        for (std::size_t i = 0; i < celdas.size(); ++i)
-            if (!rangos[i].empty() && !MismosTextos(celdas[i], nuevas[i]))
-                rangos[i].clear();
-        celdas = std::move(nuevas);
-    }
-    void OlvidarRangos() { rangos.assign(rangos.size(), {}); }
-    void Reordenar(int columna, Qt::SortOrder sentido) {
-        orden = columna < 0 ? Filas{} : Permutacion(RangosDe(columna), sentido);
-    }
-
-    // Only these stored rows, rising, stay; they keep their order on screen.
-    void Conservar(const Filas &filas) {
-        Filas nuevas(static_cast<std::size_t>(celdas.front().Filas()), kSobra);
-        for (std::size_t i = 0; i < filas.size(); ++i)
-            nuevas[filas[i]] = static_cast<std::uint32_t>(i);
-        for (ColumnaTexto &columna : celdas)
-            columna = Elegidas(columna, filas);
-        for (std::vector<Tono> &tono : tonos)
-            if (!tono.empty())
-                tono = Elegidas(tono, filas);
-        marcas = Elegidas(marcas, filas);
-        senalada = -1;
-        for (std::uint32_t &fila : orden)
-            fila = nuevas[fila];
-        std::erase(orden, kSobra);
-        OlvidarRangos();
-    }
-
-    // Place on screen of a new row with `texto` in the sort column: behind its equals.
-    int Lugar(const QString &texto, int columna, Qt::SortOrder sentido) const {
-        const int signo = sentido == Qt::AscendingOrder ? 1 : -1;
-        const auto lugar =
-            std::upper_bound(orden.begin(), orden.end(), texto, [&](const QString &nuevo, auto fila) {
-                return signo * comparador.Comparar(nuevo, Columna(columna).Texto(fila)) < 0;
-            });
-        return static_cast<int>(lugar - orden.begin());
-    }
-};
 
 ListaTexto::ListaTexto(std::vector<ColumnaLista> columnas, QObject *padre)
     : QAbstractTableModel(padre),
       especificacion_(std::move(columnas)),
-      d_(std::make_unique<Privado>(especificacion_.size())) {}
+      d_(std::make_unique<FilasLista>(especificacion_.size())) {}
 
 ListaTexto::~ListaTexto() = default;
 
@@ -170,45 +66,22 @@ void ListaTexto::Limpiar() {
 }
 
 int ListaTexto::AgregarFila(const QStringList &celdas) {
-    const int guardada = Filas();
     const int lugar =
-        columnaOrden_ < 0 ? guardada : d_->Lugar(celdas.value(columnaOrden_), columnaOrden_, orden_);
+        columnaOrden_ < 0 ? Filas() : d_->Lugar(celdas.value(columnaOrden_), columnaOrden_, orden_);
     beginInsertRows({}, lugar, lugar);
-    for (std::size_t i = 0; i < d_->celdas.size(); ++i) {
-        d_->celdas[i].Agregar(celdas.value(static_cast<qsizetype>(i)).toStdString());
-        if (!d_->tonos[i].empty())
-            d_->tonos[i].push_back(Tono::Normal);
-    }
-    d_->marcas.push_back(false);
-    if (columnaOrden_ >= 0)
-        d_->orden.insert(d_->orden.begin() + lugar, static_cast<std::uint32_t>(guardada));
-    d_->OlvidarRangos();
+    d_->Agregar(celdas, columnaOrden_ < 0 ? -1 : lugar);
     endInsertRows();
     return lugar;
 }
 
 void ListaTexto::QuitarFila(int fila) {
-    const std::uint32_t guardada = d_->Guardada(fila);
     beginRemoveRows({}, fila, fila);
-    for (std::size_t i = 0; i < d_->celdas.size(); ++i) {
-        d_->celdas[i].Quitar(guardada);
-        if (!d_->tonos[i].empty())
-            d_->tonos[i].erase(d_->tonos[i].begin() + guardada);
-    }
-    d_->marcas.erase(d_->marcas.begin() + guardada);
-    if (d_->senalada >= guardada)
-        d_->senalada = d_->senalada == guardada ? -1 : d_->senalada - 1;
-    if (!d_->orden.empty()) {
-        d_->orden.erase(d_->orden.begin() + fila);
-        for (std::uint32_t &otra : d_->orden)
-            otra -= otra > guardada ? 1 : 0;
-    }
-    d_->OlvidarRangos();
+    d_->Quitar(fila);
     endRemoveRows();
 }
 
 void ListaTexto::QuitarFilas(const std::function<bool(int fila)> &sobra) {
-    Privado::Filas quedan;
+    FilasLista::Numeros quedan;
     for (int fila = Filas() - 1; fila >= 0; --fila)
         if (!sobra(fila))
             quedan.push_back(d_->Guardada(fila));
@@ -219,8 +92,7 @@ void ListaTexto::QuitarFilas(const std::function<bool(int fila)> &sobra) {
 }
 
 void ListaTexto::PonerCelda(int fila, int columna, const QString &texto) {
-    d_->celdas[static_cast<std::size_t>(columna)].Poner(d_->Guardada(fila), texto.toStdString());
-    d_->rangos[static_cast<std::size_t>(columna)].clear();
+    d_->PonerCelda(fila, columna, texto);
     emit dataChanged(index(fila, columna), index(fila, columna), {Qt::DisplayRole});
 }
 

@@ -20,6 +20,8 @@
 
 namespace tarvo {
 
+struct FilasLista;
+
 struct ColumnaLista {
     QString titulo;
     int ancho = 0;        // twips, 15 to the pixel; a proportion more than a size
@@ -108,13 +110,12 @@ class ListaTexto : public QAbstractTableModel {
     void SeguirIndices(const QModelIndexList &antes, const std::vector<std::uint32_t> &guardadas);
     int FlechaDe(int columnaOrden) const;
 
-    struct Privado;
     std::vector<ColumnaLista> especificacion_;
     int columnaOrden_ = -1;
     int columnaFlecha_ = -1;
     bool ordenaVacia_ = true;
     Qt::SortOrder orden_ = Qt::AscendingOrder;
-    std::unique_ptr<Privado> d_;
+    std::unique_ptr<FilasLista> d_;
 };
 
 } // namespace tarvo

@@ -22,7 +22,7 @@ namespace {
 constexpr std::size_t kFichas = 368;
 constexpr std::size_t kFichasMarca = 4; // maker, date, time, format: never looked at
 constexpr qint64 kTrozo = 32 * 1024LL;
-constexpr qsizetype kLargoMaximo = 4LL * 1024 * 1024; // a line without its tokens by then has none
+constexpr qsizetype kLargoLinea = 4LL * 1024 * 1024; // a line without its tokens by then has none
 
 // --- writing
 
@@ -75,7 +75,7 @@ class Escritor {
 QByteArray PrimeraLinea(QIODevice &entrada) {
     QByteArray linea;
     std::size_t comas = 0;
-    while (comas < kFichas && linea.size() < kLargoMaximo) {
+    while (comas < kFichas && linea.size() < kLargoLinea) {
         const qsizetype antes = linea.size();
         linea.resize(antes + kTrozo);
         const qint64 leidos = std::max<qint64>(entrada.read(linea.data() + antes, kTrozo), 0);

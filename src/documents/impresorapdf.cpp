@@ -20,7 +20,7 @@ namespace {
 
 constexpr double kMargen = 4;         // millimetres
 constexpr double kAnchoRollo = 80;    // millimetres
-constexpr double kLargoMaximo = 5000; // millimetres; a PDF page can't be longer than 5080
+constexpr double kLargoPagina = 5000; // millimetres; a PDF page can't be longer than 5080
 
 [[noreturn]] void FallarEscritura(const QString &ruta) {
     throw ErrorDatos(errores::kEscritura, QStringLiteral("No se pudo escribir \"%1\".").arg(ruta));
@@ -62,17 +62,17 @@ struct Destino {
     }
 };
 
-QPageLayout Hoja(const QPageSize &tamano) {
+QPageLayout ConMargenes(const QPageSize &tamano) {
     return {tamano, QPageLayout::Portrait, QMarginsF(kMargen, kMargen, kMargen, kMargen),
             QPageLayout::Millimeter};
 }
 
 QPageLayout HojaRollo(double largo) {
-    return Hoja(
+    return ConMargenes(
         QPageSize(QSizeF(kAnchoRollo, largo), QPageSize::Millimeter, QString(), QPageSize::ExactMatch));
 }
 
-std::unique_ptr<QPdfWriter> Escritor(QBuffer &salida, const QPageLayout &hoja, const QString &titulo) {
+std::unique_ptr<QPdfWriter> EscritorPdf(QBuffer &salida, const QPageLayout &hoja, const QString &titulo) {
     salida.open(QIODevice::WriteOnly);
     auto escritor = std::make_unique<QPdfWriter>(&salida);
     escritor->setTitle(titulo);
@@ -88,7 +88,7 @@ class RolloPdf final : public SuperficieGrabada {
 
     void Terminar() override {
         QBuffer salida;
-        SuperficiePintada papel(Escritor(salida, HojaRollo(Largo()), destino_.titulo),
+        SuperficiePintada papel(EscritorPdf(salida, HojaRollo(Largo()), destino_.titulo),
                                 RejillaDe(ClasePapel::Rollo));
         Repetir(papel);
         papel.Terminar();
@@ -98,23 +98,23 @@ class RolloPdf final : public SuperficieGrabada {
   private:
     double Largo() const {
         QBuffer borrador;
-        SuperficiePintada papel(Escritor(borrador, HojaRollo(kLargoMaximo), destino_.titulo),
+        SuperficiePintada papel(EscritorPdf(borrador, HojaRollo(kLargoPagina), destino_.titulo),
                                 RejillaDe(ClasePapel::Rollo));
         Repetir(papel);
-        return papel.Paginas() > 1 ? kLargoMaximo : papel.AltoUsado() + 2 * kMargen;
+        return papel.Paginas() > 1 ? kLargoPagina : papel.AltoUsado() + 2 * kMargen;
     }
     Destino destino_;
 };
 
 std::unique_ptr<Superficie> HojasPdf(const Destino &destino, ClasePapel clase) {
     const auto salida = std::make_shared<QBuffer>();
-    QPageLayout hoja = Hoja(QPageSize(QPageSize::A4));
+    QPageLayout hoja = ConMargenes(QPageSize(QPageSize::A4));
     const auto alTerminar = [salida, destino] { destino.Guardar(salida->data()); };
     if (clase == ClasePapel::Hoja)
-        return std::make_unique<SuperficiePintada>(Escritor(*salida, hoja, destino.titulo), RejillaDe(clase),
-                                                   alTerminar);
+        return std::make_unique<SuperficiePintada>(EscritorPdf(*salida, hoja, destino.titulo),
+                                                   RejillaDe(clase), alTerminar);
     hoja.setMargins({});
-    return std::make_unique<SuperficiePintada>(Escritor(*salida, hoja, destino.titulo), Formulario(),
+    return std::make_unique<SuperficiePintada>(EscritorPdf(*salida, hoja, destino.titulo), Formulario(),
                                                alTerminar);
 }
 

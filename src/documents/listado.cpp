@@ -30,7 +30,7 @@ QString NumeroImpreso(int numero) {
     return QStringLiteral(" %1 ").arg(numero);
 }
 
-void Hoja(Superficie &papel, int pagina, int paginas) {
+void LineaDeHoja(Superficie &papel, int pagina, int paginas) {
     papel.Texto(QStringLiteral("Hoja    "));
     papel.Negrita(true);
     papel.Linea(NumeroImpreso(pagina) + QStringLiteral("de") + NumeroImpreso(paginas));
@@ -86,7 +86,7 @@ void ImprimirListado(Superficie &papel, const Listado &listado, int filas) {
         Titulo(papel, listado);
         if (listado.trasTitulo)
             listado.trasTitulo(papel);
-        Hoja(papel, pagina, paginas);
+        LineaDeHoja(papel, pagina, paginas);
         Encabezado(papel, listado);
         Filas(papel, listado, contador, hasta);
         if (pagina != paginas)
