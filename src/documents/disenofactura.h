@@ -5,6 +5,8 @@
 // Positions come from a file as they stand there and may lie anywhere. docs/papel.md tells the file.
 #pragma once
 
+#include "desktop/twips.h"
+
 #include <QColor>
 #include <QString>
 
@@ -12,7 +14,6 @@
 
 namespace tarvo {
 
-inline constexpr int kTwipsPorPixel = 15;
 inline constexpr int kAnchoLienzo = 10430;
 inline constexpr int kAltoLienzo = 6260;
 inline constexpr int kAltoCampo = 240; // of fields and labels

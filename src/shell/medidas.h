@@ -1,18 +1,12 @@
-// Sizes of the main window, in twips (15 to the pixel): how big it starts on which screen, which toolbar
+// Sizes of the main window, in twips: how big it starts on which screen, which toolbar
 // buttons a narrow one gives up, how wide the hint panel of the status bar is.
 #pragma once
+
+#include "desktop/twips.h"
 
 #include <optional>
 
 namespace tarvo {
-
-constexpr int kTwipsPorPixel = 15;
-constexpr int ATwips(int pixeles) {
-    return pixeles * kTwipsPorPixel;
-}
-constexpr int APixeles(int twips) {
-    return twips / kTwipsPorPixel;
-}
 
 struct Tamano {
     int ancho = 0; // twips

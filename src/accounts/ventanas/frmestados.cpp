@@ -2,6 +2,7 @@
 
 #include "desktop/anfitrion.h"
 #include "desktop/reloj.h"
+#include "desktop/twips.h"
 #include "desktop/ventanas/filtrocampos.h"
 #include "desktop/ventanas/listavista.h"
 #include "desktop/ventanas/solocaracteres.h"
@@ -14,7 +15,6 @@ namespace tarvo {
 
 namespace {
 
-constexpr int kTwipsPorPunto = 15;
 constexpr int kNombreMayor = 100;  // characters; no window shows more of a name
 constexpr int kHolgura = 6;        // pixels, for what the measure of a text leaves out
 constexpr int kDetalleMenor = 600; // twips, on the narrowest screens
@@ -162,7 +162,7 @@ void FrmEstados::AjustarColumnas() {
     const bool marcas = logica_.Pantalla().devolucion;
     const int resto = marcas ? reglas.restoMarcas : barra ? reglas.restoBarra : reglas.resto;
     vista->PonerAncho(movimiento::Fecha, marcas ? anchocuenta::kFechaMarcas : anchocuenta::kFecha);
-    vista->PonerAncho(movimiento::Detalle, std::max(vista->width() * kTwipsPorPunto - resto, kDetalleMenor));
+    vista->PonerAncho(movimiento::Detalle, std::max(vista->width() * kTwipsPorPixel - resto, kDetalleMenor));
     vista->PonerAncho(reglas.columnaBarra, barra ? anchocuenta::kImporteBarra : anchocuenta::kImporte);
 }
 

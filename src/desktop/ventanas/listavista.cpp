@@ -1,5 +1,6 @@
 #include "desktop/ventanas/listavista.h"
 
+#include "desktop/twips.h"
 #include "desktop/ventanas/delegadolista.h"
 #include "desktop/ventanas/encabezadolista.h"
 #include "desktop/ventanas/estilo.h"
@@ -14,7 +15,6 @@ namespace tarvo {
 
 namespace {
 
-constexpr int kTwipsPorPunto = 15;
 constexpr int kMuestra = 8;          // so many of a column's longest texts are measured
 constexpr int kLetrasMedidas = 200;  // no column is given room for more
 constexpr int kCifrasDeImporte = 24; // what is longer is no amount, and may be cut
@@ -337,7 +337,7 @@ void ListaVista::Arrastrado() {
         return;
     for (int i = 0; i < static_cast<int>(anchos_.size()); ++i)
         if (!isColumnHidden(i))
-            anchos_[static_cast<std::size_t>(i)] = columnWidth(i) * kTwipsPorPunto;
+            anchos_[static_cast<std::size_t>(i)] = columnWidth(i) * kTwipsPorPixel;
 }
 
 } // namespace tarvo
