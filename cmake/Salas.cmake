@@ -60,7 +60,8 @@ function(tarvo_prueba nombre)
     add_executable(${nombre} ${fuentes})
     target_include_directories(${nombre} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
     target_link_libraries(${nombre} PRIVATE tarvo_testkit ${ARGN})
-    set_target_properties(${nombre} PROPERTIES AUTOMOC ON LINKER_LANGUAGE CXX)
+    # Fixtures of the same name stand in several files: each is compiled by itself.
+    set_target_properties(${nombre} PROPERTIES AUTOMOC ON UNITY_BUILD OFF LINKER_LANGUAGE CXX)
     gtest_discover_tests(${nombre} DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60
         PROPERTIES ENVIRONMENT LC_ALL=C.UTF-8 TIMEOUT 300)
 endfunction()
