@@ -51,8 +51,13 @@ function(tarvo_sala sala)
     endif()
 endfunction()
 
-# The test program of a room: tarvo_prueba(NAME libs...), called in its folder under tests/. Windows are offscreen.
+# The test program of a room: tarvo_prueba(NAME libs...), called in its folder under tests/. Windows are offscreen; the
+# many small data folders lie in memory where the system has a place for that.
 function(tarvo_prueba nombre)
+    set(carpetas)
+    if(IS_DIRECTORY /dev/shm)
+        set(carpetas ENVIRONMENT_MODIFICATION TMPDIR=set:/dev/shm)
+    endif()
     file(GLOB fuentes CONFIGURE_DEPENDS *.cpp *.h)
     if(NOT fuentes)
         return()
@@ -63,5 +68,5 @@ function(tarvo_prueba nombre)
     # Fixtures of the same name stand in several files: each is compiled by itself.
     set_target_properties(${nombre} PROPERTIES AUTOMOC ON UNITY_BUILD OFF LINKER_LANGUAGE CXX)
     gtest_discover_tests(${nombre} DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60
-        PROPERTIES ENVIRONMENT LC_ALL=C.UTF-8 TIMEOUT 300)
+        PROPERTIES ENVIRONMENT LC_ALL=C.UTF-8 ${carpetas} TIMEOUT 300)
 endfunction()

@@ -1,16 +1,13 @@
 #include "accounts/ventanas/frmstats.h"
 #include "accounts/ventasdelmes.h"
-#include "testkit/anfitrionprueba.h"
-#include "testkit/mundoprueba.h"
+#include "testkit/conventana.h"
 
 #include <QBarCategoryAxis>
 #include <QBarSeries>
 #include <QBarSet>
 #include <QChart>
 #include <QChartView>
-#include <QCheckBox>
 #include <QDateEdit>
-#include <QLabel>
 
 namespace tarvo {
 namespace {
@@ -46,34 +43,33 @@ TEST(VentasDelMes, AddsInvoicesByDayAndCountsWhatItCantRead) {
     EXPECT_EQ(SumarVentasDelMes(datos.Bases(), 2, 2026).porDia.size(), 29U);
 }
 
-TEST(FrmStats, ShowsSampleValuesUntilTheSalesAreAskedFor) {
-    MundoPrueba mundo;
+using Estadisticas = ConVentana<FrmStats>;
+
+TEST_F(Estadisticas, ShowSampleValuesUntilTheSalesAreAskedFor) {
     mundo.datos.Ejecutar(kNoviembre);
-    AnfitrionPrueba anfitrion;
-    FrmStats frm(mundo.servicios(), anfitrion);
-    MostrarVentana(frm);
-    auto *const grafico = Control<QChartView>(frm, "Chart1")->chart();
-    const auto barras = [&] {
-        return static_cast<QBarSeries *>(grafico->series().first())->barSets().first();
+    ventana = std::make_unique<FrmStats>(mundo.servicios(), anfitrion);
+    MostrarVentana(*ventana);
+    auto *const grafico = C<QChartView>("Chart1")->chart();
+    const auto primera = [&] {
+        return static_cast<QBarSeries *>(grafico->series().first())->barSets().first()->at(0);
     };
     const auto rotulos = [&] {
         return static_cast<QBarCategoryAxis *>(grafico->axes(Qt::Horizontal).first())->categories();
     };
-    auto *const regla = Control<QLabel>(frm, "lblRegla");
     EXPECT_EQ(rotulos().size(), 30);
-    EXPECT_EQ(rotulos().last(), QStringLiteral("30"));
-    EXPECT_EQ(regla->text(), QStringLiteral("Valores de muestra"));
-    EXPECT_EQ(barras()->at(0), ValoresDeMuestra()[0]);
+    EXPECT_EQ(rotulos().last(), u"30");
+    EXPECT_EQ(Texto("lblRegla"), u"Valores de muestra");
+    EXPECT_EQ(primera(), ValoresDeMuestra()[0]);
 
-    Control<QCheckBox>(frm, "chkVentasMes")->setChecked(true);
-    Control<QDateEdit>(frm, "DTPFecha")->setDate({2026, 2, 1});
+    C<QCheckBox>("chkVentasMes")->setChecked(true);
+    C<QDateEdit>("DTPFecha")->setDate({2026, 2, 1});
     EXPECT_EQ(rotulos().size(), 30); // nothing before the button
-    Pulsar(Control<QWidget>(frm, "cmdBuscar"));
+    Clic("cmdBuscar");
     EXPECT_EQ(rotulos().size(), 29);
-    Control<QDateEdit>(frm, "DTPFecha")->setDate({2026, 11, 1});
-    Pulsar(Control<QWidget>(frm, "cmdBuscar"));
-    EXPECT_EQ(barras()->at(0), 15);
-    EXPECT_TRUE(regla->text().contains(QStringLiteral("2 comprobantes"))) << regla->text().toStdString();
+    C<QDateEdit>("DTPFecha")->setDate({2026, 11, 1});
+    Clic("cmdBuscar");
+    EXPECT_EQ(primera(), 15);
+    EXPECT_TRUE(Texto("lblRegla").contains(u"2 comprobantes")) << Texto("lblRegla").toStdString();
 }
 
 } // namespace

@@ -1,42 +1,41 @@
 // Views, receipts and what each step enables.
-#include "cuentavista.h"
+#include "cuentasprueba.h"
 
 namespace tarvo {
 namespace {
 
-using Textos = std::vector<std::string>;
+struct Paso {
+    void (EstadosLogica::*hacer)();
+    const char *estado;
+    QString saldo;
+};
 
 TEST_F(Cuentas, EachViewEnablesItsButtons) {
+    const Paso pasos[] = {{&EstadosLogica::AceptarCliente, "LVEstado IEDR", u"$ 429,25"_qs},
+                          {&EstadosLogica::EmpezarRecibo, "LVEstado IED entrada", u"$ 429,25"_qs},
+                          {&EstadosLogica::VerContado, "LVEstadoContado ID", u"$ 20,00"_qs},
+                          {&EstadosLogica::AlternarCaja, "LVEstadoContado ID caja", u"$ 20,00"_qs},
+                          {&EstadosLogica::VerCaja, "LVCaja I caja", u"$ 1013,55"_qs}};
     Abrir();
     EXPECT_EQ(vista.Estado(), "LVEstado ");
-    EXPECT_EQ(Saldo(), "$ 0,00");
-    EXPECT_EQ(vista.cantidad, QStringLiteral("$ 0,00"));
+    EXPECT_EQ(Saldo() + vista.cantidad, u"$ 0,00$ 0,00");
     logica->SeleccionarCliente();
     EXPECT_TRUE(vista.picker);
-    logica->AceptarCliente();
-    EXPECT_EQ(vista.Estado(), "LVEstado IEDR");
-    EXPECT_EQ(vista.pantalla.cliente, QStringLiteral("Ñandú S.A."));
-    EXPECT_EQ(vista.pantalla.idCliente, QStringLiteral("1"));
-    EXPECT_TRUE(vista.pantalla.conCliente);
-    EXPECT_EQ(Saldo(), "$ 429,25");
-    EXPECT_EQ(vista.fila, 5) << "the newest movement";
-    logica->EmpezarRecibo();
-    EXPECT_EQ(vista.Estado(), "LVEstado IED entrada");
-    logica->VerContado();
-    EXPECT_EQ(vista.Estado(), "LVEstadoContado ID");
-    EXPECT_FALSE(vista.pantalla.conCliente);
-    EXPECT_EQ(vista.pantalla.cliente + vista.pantalla.idCliente, QString());
-    EXPECT_EQ(Saldo(), "$ 20,00");
-    logica->AlternarCaja();
-    EXPECT_EQ(vista.Estado(), "LVEstadoContado ID caja");
-    logica->VerCaja();
-    EXPECT_EQ(vista.Estado(), "LVCaja I caja");
-    EXPECT_EQ(Saldo(), "$ 1013,55");
+    for (const auto &[hacer, estado, saldo] : pasos) {
+        (*logica.*hacer)();
+        EXPECT_EQ(vista.Estado(), estado);
+        EXPECT_EQ(Saldo(), saldo) << estado;
+        const bool deCliente = vista.pantalla.lista == ListaCuenta::Estado;
+        EXPECT_EQ(vista.pantalla.conCliente, deCliente) << estado;
+        EXPECT_EQ(vista.pantalla.cliente + vista.pantalla.idCliente,
+                  deCliente ? u"Ñandú S.A.1"_qs : QString());
+        EXPECT_TRUE(!deCliente || vista.fila == 5) << "the newest movement";
+    }
     vista.periodo.desde = vista.periodo.hasta.addSecs(-60);
     logica->VerCaja();
     EXPECT_EQ(vista.Estado(), "LVCaja  caja") << "an empty sheet can't be printed";
-    EXPECT_EQ(Saldo(), "$ 0,00");
-    vista.elegido = ClienteElegido{QStringLiteral("77"), QStringLiteral("Nadie")};
+    EXPECT_EQ(Saldo(), u"$ 0,00");
+    vista.elegido = ClienteElegido{u"77"_qs, u"Nadie"_qs};
     logica->AceptarCliente();
     EXPECT_EQ(vista.Estado(), "LVEstado R caja");
     logica->VerContado();
@@ -46,16 +45,15 @@ TEST_F(Cuentas, EachViewEnablesItsButtons) {
 TEST_F(Cuentas, WithoutMovementsABuildEndsEarlyAndLeavesTheButtons) {
     mundo.datos.Ejecutar("DELETE FROM ventas.Ventas");
     Abrir();
-    logica->AceptarCliente();
-    EXPECT_EQ(vista.Estado(), "LVEstado ");
-    EXPECT_TRUE(vista.pantalla.conCliente);
-    logica->VerContado();
-    EXPECT_EQ(vista.Estado(), "LVEstadoContado ");
-    logica->VerCaja();
-    EXPECT_EQ(vista.Estado(), "LVCaja ");
-    EXPECT_FALSE(vista.pantalla.exportable);
-    logica->EjecutarContado();
-    EXPECT_EQ(vista.Estado(), "LVEstadoContado ");
+    for (const auto &[hacer, estado] : {std::pair(&EstadosLogica::AceptarCliente, "LVEstado "),
+                                        {&EstadosLogica::VerContado, "LVEstadoContado "},
+                                        {&EstadosLogica::VerCaja, "LVCaja "},
+                                        {&EstadosLogica::EjecutarContado, "LVEstadoContado "}}) {
+        (*logica.*hacer)();
+        EXPECT_EQ(vista.Estado(), estado);
+        EXPECT_FALSE(vista.pantalla.exportable);
+        EXPECT_EQ(vista.pantalla.conCliente, vista.pantalla.lista == ListaCuenta::Estado);
+    }
     vista.elegido.reset();
     logica->AceptarCliente();
     EXPECT_EQ(vista.Estado(), "LVEstado ");
@@ -65,43 +63,42 @@ TEST_F(Cuentas, WithoutMovementsABuildEndsEarlyAndLeavesTheButtons) {
 TEST_F(Cuentas, TheEndsOfTheSheetMustBeInOrder) {
     Abrir();
     logica->VerContado();
-    const auto refusa = [&](const QDateTime &desde, const char *mensaje, const char *foco) {
+    const auto refusa = [&](const QDateTime &desde, const QString &mensaje, const QString &foco) {
         vista.periodo.desde = desde;
-        mundo.preguntas.EsperaMensaje(QString::fromUtf8(mensaje), Icono::Informacion);
+        mundo.preguntas.EsperaMensaje(mensaje);
         logica->VerCaja();
-        EXPECT_EQ(vista.foco, QString::fromUtf8(foco));
+        EXPECT_EQ(vista.foco, foco);
         EXPECT_EQ(vista.Estado(), "LVEstadoContado ID");
     };
     vista.periodo.hasta = QDateTime({2026, 11, 22}, {9, 0});
-    refusa(QDateTime({2026, 11, 23}, {8, 0}), "La fecha inicial debe ser menor o igual a la fecha final.",
-           "DTPDesde");
-    refusa(QDateTime({2026, 11, 22}, {9, 1}), "La hora inicial debe ser menor o igual a la hora final.",
-           "DTPDesde1");
+    refusa(QDateTime({2026, 11, 23}, {8, 0}), u"La fecha inicial debe ser menor o igual a la fecha final."_qs,
+           u"DTPDesde"_qs);
+    refusa(QDateTime({2026, 11, 22}, {9, 1}), u"La hora inicial debe ser menor o igual a la hora final."_qs,
+           u"DTPDesde1"_qs);
     vista.periodo.desde = QDateTime({2026, 11, 21}, {10, 0});
     logica->VerCaja();
     EXPECT_EQ(Lista().Filas(), 0) << "10:00 of the first day to 09:00 of the next";
 }
 
 TEST_F(Cuentas, CashDocumentsHideBehindTheCaption) {
-    const char *const pregunta = "Desea ocultar las Facturas Contado de la lista?";
-    Abrir();
-    logica->AceptarCliente();
-    Esperar(pregunta, Respuesta::No);
+    const QString pregunta = u"Desea ocultar las Facturas Contado de la lista?"_qs;
+    AbrirCliente();
+    Esperar(pregunta, No);
     logica->OcultarContado();
     EXPECT_EQ(Lista().Filas(), 6);
-    Esperar(pregunta, Respuesta::Si);
+    Esperar(pregunta, Si);
     logica->OcultarContado();
     EXPECT_EQ(vista.Estado(), "LVEstado IEDR mostrar");
     EXPECT_EQ(Lista().Filas(), 4);
     EXPECT_EQ(vista.fila, 0);
-    EXPECT_EQ(Saldo(), "$ 429,25");
+    EXPECT_EQ(Saldo(), u"$ 429,25");
     logica->OcultarContado();
     EXPECT_EQ(vista.Estado(), "LVEstado IEDR");
     EXPECT_EQ(Lista().Filas(), 6);
-    vista.elegido->id = QStringLiteral("2"); // has one marked cash invoice and nothing else
+    vista.elegido->id = u"2"_qs; // has one marked cash invoice and nothing else
     logica->AceptarCliente();
     logica->EmpezarRecibo();
-    Esperar(pregunta, Respuesta::Si);
+    Esperar(pregunta, Si);
     logica->OcultarContado();
     EXPECT_EQ(vista.Estado(), "LVEstado  mostrar");
     logica->AceptarCliente();
@@ -111,121 +108,107 @@ TEST_F(Cuentas, CashDocumentsHideBehindTheCaption) {
 // --- receipts
 
 TEST_F(Cuentas, AReceiptIsOneRowASlipAndANewBalance) {
-    Abrir();
-    logica->AceptarCliente();
+    AbrirCliente();
     logica->EmpezarRecibo();
-    EXPECT_EQ(vista.foco, QStringLiteral("txtCantidad"));
+    EXPECT_EQ(vista.foco, u"txtCantidad");
     logica->FocoCantidad(true);
-    EXPECT_EQ(vista.cantidad, QStringLiteral("0,00"));
-    vista.cantidad = QStringLiteral("250.5");
+    EXPECT_EQ(vista.cantidad, u"0,00");
+    vista.cantidad = u"250.5"_qs;
     logica->FocoCantidad(false);
-    EXPECT_EQ(vista.cantidad, QStringLiteral("$ 250,50"));
-    mundo.preguntas.Espera(kOfrecerRecibo, Respuesta::Si, Respuesta::Si);
+    EXPECT_EQ(vista.cantidad, u"$ 250,50");
+    Esperar(kOfrecerRecibo, Si);
     logica->AgregarRecibo();
-    EXPECT_EQ(Nuevas(), Textos{"22/11/2026|10:42|1||||Recibo|Recibo||0|$ 250,50"});
-    EXPECT_EQ(Saldo(), "$ 178,75");
+    EXPECT_EQ(Nuevas(), u"22/11/2026|10:42|1||||Recibo|Recibo||0|$ 250,50");
+    EXPECT_EQ(Saldo(), u"$ 178,75");
     EXPECT_EQ(vista.Estado(), "LVEstado IEDR");
-    EXPECT_EQ(vista.cantidad, QStringLiteral("$ 0,00"));
-    EXPECT_EQ(mundo.impresoras.actual, QStringLiteral("Tickets"));
-    ASSERT_EQ(mundo.impresoras.documentos.size(), 1u);
-    const QString papel = mundo.impresoras.documentos[0]->Lineas().join(u'\n');
-    EXPECT_TRUE(papel.contains(QStringLiteral("Cliente    Ñandú S.A.\nRecibo\n"))) << papel.toStdString();
-    EXPECT_TRUE(papel.contains(QStringLiteral("$ 250,50"))) << papel.toStdString();
+    EXPECT_EQ(vista.cantidad, u"$ 0,00");
+    EXPECT_EQ(mundo.impresoras.actual, u"Tickets");
+    EXPECT_TRUE(mundo.impresoras.Papel().contains(u"Cliente    Ñandú S.A.\nRecibo\n"))
+        << mundo.impresoras.Papel().toStdString();
+    EXPECT_TRUE(mundo.impresoras.Papel().contains(u"$ 250,50")) << mundo.impresoras.Papel().toStdString();
 }
 
 TEST_F(Cuentas, AReceiptOfZeroOrOfNoNumberWritesNothing) {
-    Abrir();
-    vista.elegido->id = QStringLiteral("77");
-    logica->AceptarCliente();
+    AbrirCliente(u"77"_qs);
     for (const char *cero : {"", "0", "0,001"}) {
         Recibir(cero);
         EXPECT_EQ(vista.Estado(), "LVEstado IEDR") << "also without rows";
     }
     for (const char *malo : {"1.234,50", ",", "12,5,0"}) {
-        mundo.preguntas.EsperaMensaje(QStringLiteral("El importe ingresado no es un número."),
-                                      Icono::Informacion);
+        mundo.preguntas.EsperaMensaje(u"El importe ingresado no es un número."_qs);
         Recibir(malo);
         EXPECT_EQ(vista.Estado(), "LVEstado IED entrada");
         EXPECT_EQ(vista.cantidad, QString::fromUtf8(malo));
     }
     vista.elegido.reset(); // the picker was emptied meanwhile
-    mundo.preguntas.EsperaMensaje(QStringLiteral("Debe seleccionar un cliente."), Icono::Informacion);
+    mundo.preguntas.EsperaMensaje(u"Debe seleccionar un cliente."_qs);
     Recibir("5");
-    EXPECT_EQ(Nuevas(), Textos{});
+    EXPECT_EQ(Nuevas(), QString());
 }
 
 TEST_F(Cuentas, AReceiptBelongsToTheCustomerSelectedInThePicker) {
-    Abrir();
-    logica->AceptarCliente();
+    AbrirCliente();
     logica->EmpezarRecibo();
-    vista.elegido = ClienteElegido{QStringLiteral("2"), QStringLiteral("Juan")}; // and no accept
-    vista.cantidad = QStringLiteral("5");
-    mundo.preguntas.Espera(kOfrecerRecibo, Respuesta::Si, Respuesta::No);
+    vista.elegido = ClienteElegido{u"2"_qs, u"Juan"_qs}; // and no accept
+    vista.cantidad = u"5"_qs;
+    Esperar(kOfrecerRecibo, No);
     logica->AgregarRecibo();
-    EXPECT_EQ(Nuevas(), Textos{"22/11/2026|10:42|2||||Recibo|Recibo||0|$ 5,00"});
-    EXPECT_EQ(vista.pantalla.cliente, QStringLiteral("Juan"));
-    EXPECT_EQ(Saldo(), "$ -5,00");
+    EXPECT_EQ(Nuevas(), u"22/11/2026|10:42|2||||Recibo|Recibo||0|$ 5,00");
+    EXPECT_EQ(vista.pantalla.cliente, u"Juan");
+    EXPECT_EQ(Saldo(), u"$ -5,00");
 }
 
 TEST_F(Cuentas, ARefusedReceiptStaysInItsFieldAndTheSecondTryWritesOneRow) {
     mundo.datos.Ejecutar("CREATE TRIGGER ventas.negar BEFORE INSERT ON Ventas WHEN NEW.total='$ 66,00' "
                          "BEGIN SELECT RAISE(FAIL,'sin lugar'); END");
-    Abrir();
-    logica->AceptarCliente();
-    mundo.preguntas.EsperaMensaje(QStringLiteral("No se pudo escribir en la base de datos: sin lugar."
-                                                 "\n\nEl recibo no se guardó."),
-                                  Icono::Critico);
+    AbrirCliente();
+    mundo.preguntas.EsperaFalla(u"No se pudo escribir en la base de datos: sin lugar."
+                                "\n\nEl recibo no se guardó."_qs);
     Recibir("66");
     EXPECT_EQ(vista.Estado(), "LVEstado IED entrada");
-    EXPECT_EQ(vista.cantidad, QStringLiteral("$ 66,00"));
-    EXPECT_EQ(Nuevas(), Textos{});
-    mundo.preguntas.Espera(kOfrecerRecibo, Respuesta::Si, Respuesta::No);
+    EXPECT_EQ(vista.cantidad, u"$ 66,00");
+    EXPECT_EQ(Nuevas(), QString());
+    Esperar(kOfrecerRecibo, No);
     Recibir("67");
-    EXPECT_EQ(Nuevas(), Textos{"22/11/2026|10:42|1||||Recibo|Recibo||0|$ 67,00"});
+    EXPECT_EQ(Nuevas(), u"22/11/2026|10:42|1||||Recibo|Recibo||0|$ 67,00");
 }
 
 TEST_F(Cuentas, AReceiptThatCannotBePrintedIsStoredAndLeavesItsField) {
-    Abrir();
-    logica->AceptarCliente();
+    AbrirCliente();
     mundo.impresoras.fallar = true;
-    mundo.preguntas.Espera(kOfrecerRecibo, Respuesta::Si, Respuesta::Si);
-    mundo.preguntas.EsperaMensaje(
-        QStringLiteral("No se pudo imprimir el recibo. No hay impresora.\n\nEl recibo quedó guardado."),
-        Icono::Critico);
+    Esperar(kOfrecerRecibo, Si);
+    mundo.preguntas.EsperaFalla(
+        u"No se pudo imprimir el recibo. No hay impresora.\n\nEl recibo quedó guardado."_qs);
     Recibir("5");
     EXPECT_EQ(vista.Estado(), "LVEstado IEDR");
-    EXPECT_EQ(Nuevas().size(), 1u);
+    EXPECT_EQ(Nuevas(), u"22/11/2026|10:42|1||||Recibo|Recibo||0|$ 5,00");
 }
 
 // With a symbol of two characters the third character of the text is its blank.
 TEST(CuentasGuaranies, AReceiptOfZeroIsWritten) {
     MundoPrueba mundo;
-    DatosPrueba datos(Moneda(QStringLiteral(","), QStringLiteral("Gs")));
+    DatosPrueba datos(Moneda(u","_qs, u"Gs"_qs));
     datos.Ejecutar(kHistoria);
     VistaCuenta vista;
-    EstadosLogica logica(
-        {datos.Abrir(), mundo.preguntas, mundo.reloj, mundo.impresoras, mundo.ajustes, mundo.escritorio},
-        vista);
+    EstadosLogica logica(mundo.Con(datos.Abrir()), vista);
     logica.Abrir();
     logica.AceptarCliente();
     logica.EmpezarRecibo();
-    vista.cantidad = QStringLiteral("0");
-    mundo.preguntas.Espera(kOfrecerRecibo, Respuesta::Si, Respuesta::No);
+    vista.cantidad = u"0"_qs;
+    mundo.preguntas.Espera(kOfrecerRecibo, Si, No);
     logica.AgregarRecibo();
-    EXPECT_EQ(datos.Filas("SELECT total FROM ventas.Ventas WHERE id=10"),
-              (std::vector<std::vector<QString>>{{QStringLiteral("Gs 0,00")}}));
+    EXPECT_EQ(datos.Tabla("SELECT total FROM ventas.Ventas WHERE id=10"), u"Gs 0,00");
 }
 
 TEST_F(Cuentas, AnAmountThatIsNoNumberIsToldOnceAndTheWindowGoesOn) {
     mundo.datos.Ejecutar("UPDATE ventas.Ventas SET total='mucho' WHERE id=3");
     Abrir();
-    mundo.preguntas.EsperaMensaje(QStringLiteral("El importe \"$ mucho\" no es un número y no se suma.\n\n"
-                                                 "05/11/2026 - 19:00 - Factura contado"),
-                                  Icono::Critico);
+    mundo.preguntas.EsperaFalla(u"El importe \"$ mucho\" no es un número y no se suma.\n\n"
+                                "05/11/2026 - 19:00 - Factura contado"_qs);
     logica->VerContado();
     EXPECT_EQ(vista.Estado(), "LVEstadoContado ID");
-    EXPECT_EQ(Saldo(), "$ 10,00");
-    EXPECT_EQ(Nuevas(), Textos{});
+    EXPECT_EQ(Saldo(), u"$ 10,00");
+    EXPECT_EQ(Nuevas(), QString());
 }
 
 } // namespace

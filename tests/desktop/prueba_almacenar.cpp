@@ -4,8 +4,6 @@
 #include "testkit/datosprueba.h"
 #include "testkit/preguntasguion.h"
 
-#include <gtest/gtest.h>
-
 namespace tarvo {
 namespace {
 
@@ -14,15 +12,15 @@ class Almacen : public testing::Test {
     // Stores a customer; the first of these failures are made before the write ends.
     bool Guardar(int fallas, const std::function<void()> &fallar) {
         return Almacenar(
-            bases, preguntas, {QStringLiteral("Cliente")},
+            bases, preguntas, {u"Cliente"_qs},
             [&] {
                 bases.datClientes.AddNew();
-                bases.camCliNombre = QStringLiteral("Ana");
+                bases.camCliNombre = u"Ana"_qs;
                 bases.datClientes.Refresh();
                 if (intentos++ < fallas)
                     fallar();
             },
-            QStringLiteral("Nota."));
+            u"Nota."_qs);
     }
 
     DatosPrueba datos;
@@ -32,43 +30,40 @@ class Almacen : public testing::Test {
 };
 
 TEST_F(Almacen, AFaultThatPassesIsNotTold) {
-    EXPECT_TRUE(Guardar(1, [] { throw ErrorDatos(errores::kEscritura, QStringLiteral("Lleno.")); }));
+    EXPECT_TRUE(Guardar(1, [] { throw ErrorDatos(errores::kEscritura, u"Lleno."_qs); }));
     EXPECT_EQ(intentos, 2);
     EXPECT_EQ(bases.datClientes.RecordCount(), 1);
 }
 
 TEST_F(Almacen, AFailureIsToldOnceAndLeavesNothing) {
-    const struct {
-        int numero, intentos;
-        const char *dicho;
-    } casos[] = {{errores::kEscritura, 2, "Falla.\n\nNota."},
-                 {errores::kSinRegistro, 1, "Falla.\n\nNota."},
-                 {errores::kSinComprobar, 1, "Falla."}};
-    for (const auto &caso : casos) {
+    const std::tuple<int, int, const char *> casos[] = {{errores::kEscritura, 2, "Falla.\n\nNota."},
+                                                        {errores::kSinRegistro, 1, "Falla.\n\nNota."},
+                                                        {errores::kSinComprobar, 1, "Falla."}};
+    for (const auto &[numero, veces, dicho] : casos) {
         intentos = 0;
-        preguntas.EsperaMensaje(QString::fromUtf8(caso.dicho), Icono::Critico);
-        EXPECT_FALSE(Guardar(9, [&caso] { throw ErrorDatos(caso.numero, QStringLiteral("Falla.")); }));
-        EXPECT_EQ(intentos, caso.intentos);
+        preguntas.EsperaFalla(QString::fromUtf8(dicho));
+        EXPECT_FALSE(Guardar(9, [&] { throw ErrorDatos(numero, u"Falla."_qs); }));
+        EXPECT_EQ(intentos, veces);
         EXPECT_EQ(bases.datClientes.RecordCount(), 0);
     }
 }
 
 TEST_F(Almacen, AnEarlierOperationThatStandsEndsTheSameOneAndNoOther) {
-    const QStringList ahora{QStringLiteral("Venta"), QStringLiteral("1")};
+    const QStringList ahora{u"Venta"_qs, u"1"_qs};
     const struct {
         QStringList guardada;
         bool misma;
         const char *dicho;
     } casos[] = {{ahora, true, "No se escribió nada más"},
-                 {{QStringLiteral("Venta"), QStringLiteral("2")}, false, "además de lo anterior"},
-                 {{QStringLiteral("Cliente")}, false, "repítala si hace falta"}};
+                 {{u"Venta"_qs, u"2"_qs}, false, "además de lo anterior"},
+                 {{u"Cliente"_qs}, false, "repítala si hace falta"}};
     for (const auto &[guardada, misma, dicho] : casos) {
         intentos = 0;
         const OperacionAnterior anterior(guardada, ahora);
         EXPECT_TRUE(anterior.Descripcion().contains(QString::fromUtf8(dicho)));
-        EXPECT_TRUE(anterior.Descripcion().startsWith(
-            QStringLiteral("La operación anterior (%1),").arg(guardada.first())));
-        preguntas.EsperaMensaje(anterior.Descripcion(), Icono::Informacion);
+        EXPECT_TRUE(
+            anterior.Descripcion().startsWith(u"La operación anterior (%1),"_qs.arg(guardada.first())));
+        preguntas.EsperaMensaje(anterior.Descripcion());
         EXPECT_EQ(Guardar(9, [&anterior] { throw anterior; }), misma);
         EXPECT_EQ(intentos, 1);
         EXPECT_EQ(bases.datClientes.RecordCount(), 0);

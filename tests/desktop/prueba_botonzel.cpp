@@ -2,8 +2,6 @@
 #include "desktop/ventanas/pintorboton.h"
 #include "testkit/manos.h"
 
-#include <gtest/gtest.h>
-
 #include <QImage>
 #include <QPainter>
 
@@ -28,13 +26,13 @@ class Pedidos : public QObject {
 class PruebaBotonZel : public ::testing::Test {
   protected:
     QWidget ventana;
-    BotonZel boton{QStringLiteral("Aceptar"), &ventana};
+    BotonZel boton{u"Aceptar"_qs, &ventana};
     Pedidos pedidos;
     int clics = 0;
 
     void SetUp() override {
         ventana.resize(300, 100);
-        boton.setObjectName(QStringLiteral("cmdAceptar"));
+        boton.setObjectName(u"cmdAceptar"_qs);
         boton.setGeometry(20, 20, 120, 30);
         QObject::connect(&boton, &BotonZel::Click, &ventana, [this] { ++clics; });
         MostrarVentana(ventana);
@@ -56,7 +54,7 @@ TEST_F(PruebaBotonZel, ClicksInsideAndNotWhenDraggedOut) {
     Pedidos_();
     Pulsar(&boton);
     EXPECT_EQ(clics, 1);
-    EXPECT_EQ(Pedidos_(), QStringList{QStringLiteral(".\\resources\\click.wav")});
+    EXPECT_EQ(Pedidos_(), QStringList{u".\\resources\\click.wav"_qs});
     QTest::mouseClick(&boton, Qt::RightButton);
     EXPECT_EQ(clics, 1);
     QTest::mouseClick(&boton, Qt::MiddleButton);
@@ -83,16 +81,16 @@ TEST_F(PruebaBotonZel, KeysPressOnceUntilTheyGoUp) {
 }
 
 TEST_F(PruebaBotonZel, FollowsItsLinkAndSoundsUnderThePointer) {
-    boton.setProperty("URL", QStringLiteral("mailto:a@velbrina.example"));
+    boton.setProperty("URL", u"mailto:a@velbrina.example"_qs);
     boton.click();
-    EXPECT_EQ(Pedidos_(), QStringList{QStringLiteral("mailto:a@velbrina.example")});
+    EXPECT_EQ(Pedidos_(), QStringList{u"mailto:a@velbrina.example"_qs});
     int entradas = 0;
     QObject::connect(&boton, &BotonZel::MouseIn, &ventana, [&] { ++entradas; });
     QTest::mouseMove(&boton, {5, 5});
     QTest::mouseMove(&boton, {9, 9});
     EXPECT_TRUE(boton.BajoRaton());
     EXPECT_EQ(entradas, 1);
-    EXPECT_EQ(Pedidos_(), QStringList{QStringLiteral(".\\resources\\over.wav")});
+    EXPECT_EQ(Pedidos_(), QStringList{u".\\resources\\over.wav"_qs});
     QTest::mouseMove(&ventana, {250, 90});
     EXPECT_FALSE(boton.BajoRaton());
 }
@@ -102,10 +100,9 @@ TEST_F(PruebaBotonZel, KeepsOnlyWhatDiffersFromTheDefaults) {
     EXPECT_TRUE(boton.Guardar().isEmpty()) << boton.Guardar().firstKey().toStdString();
     boton.setProperty("XPStyle", true);
     boton.setProperty("BEVEL", 2);
-    boton.setText(QStringLiteral("Otro"));
+    boton.setText(u"Otro"_qs);
     const QVariantMap bolsa = boton.Guardar();
-    EXPECT_EQ(bolsa.keys(),
-              QStringList({QStringLiteral("BEVEL"), QStringLiteral("Caption"), QStringLiteral("XPStyle")}));
+    EXPECT_EQ(bolsa.keys(), QStringList({u"BEVEL"_qs, u"Caption"_qs, u"XPStyle"_qs}));
     BotonZel otro(&ventana);
     otro.setProperty("BEVELDEPTH", 3);
     otro.Leer(bolsa);

@@ -2,37 +2,32 @@
 #include "desktop/ventanas/frmcalc.h"
 #include "testkit/manos.h"
 
-#include <gtest/gtest.h>
-
 #include <QClipboard>
-#include <QLineEdit>
 #include <QPointer>
+
+#include <map>
 
 namespace tarvo {
 namespace {
 
 // Keys as on the window, plus "s" for the sign, "p" for the decimal point, "<" to cut, "C" to clear all.
-QString Tras(const char *teclas, const QString &sDecimal = QStringLiteral(",")) {
+QString Tras(const char *teclas, const QString &sDecimal = u","_qs) {
+    static const std::map<char, void (Calculadora::*)()> ordenes{{'=', &Calculadora::Igual},
+                                                                 {'s', &Calculadora::MasMenos},
+                                                                 {'<', &Calculadora::CortarUltimo},
+                                                                 {'c', &Calculadora::BorrarEntrada},
+                                                                 {'C', &Calculadora::Borrar}};
     Calculadora calculo(sDecimal);
-    const QString operadores = QStringLiteral("+-*/");
     for (const char *t = teclas; *t != 0; ++t) {
-        const QChar tecla = QLatin1Char(*t);
-        if (tecla.isDigit())
-            calculo.Digito(tecla.digitValue());
-        else if (operadores.contains(tecla))
-            calculo.Operar(Calculadora::Operador(operadores.indexOf(tecla) + 1));
-        else if (tecla == u'=')
-            calculo.Igual();
-        else if (tecla == u's')
-            calculo.MasMenos();
-        else if (tecla == u'p')
+        const qsizetype operador = QByteArrayView("+-*/").indexOf(*t);
+        if (*t >= '0' && *t <= '9')
+            calculo.Digito(*t - '0');
+        else if (operador >= 0)
+            calculo.Operar(Calculadora::Operador(operador + 1));
+        else if (*t == 'p')
             calculo.Decimal();
-        else if (tecla == u'<')
-            calculo.CortarUltimo();
-        else if (tecla == u'c')
-            calculo.BorrarEntrada();
         else
-            calculo.Borrar();
+            (calculo.*ordenes.at(*t))();
     }
     return calculo.Display();
 }
@@ -73,23 +68,22 @@ TEST(Calculadora, DisplayAfterKeys) {
 }
 
 TEST(Calculadora, OtherSeparators) {
-    EXPECT_EQ(Tras("1p5+1p5=", QStringLiteral(".")), QStringLiteral("3"));
-    EXPECT_EQ(Tras("3/2=p", QStringLiteral(".")), QStringLiteral("1.5")); // refused: it holds a point
-    EXPECT_EQ(Tras("3/2=", QStringLiteral("·")), QStringLiteral("1,5"));
+    EXPECT_EQ(Tras("1p5+1p5=", u"."_qs), u"3");
+    EXPECT_EQ(Tras("3/2=p", u"."_qs), u"1.5"); // refused: it holds a point
+    EXPECT_EQ(Tras("3/2=", u"·"_qs), u"1,5");
 }
 
 TEST(Calculadora, WhatIsNoNumberChangesNothing) {
-    for (const QString &texto : {QString(400, u'9'), QStringLiteral("1.5"), QStringLiteral("doce"),
-                                 QStringLiteral("1 2"), QStringLiteral("$ 5")}) {
-        Calculadora calculo(QStringLiteral(","));
+    for (const QString &texto : {QString(400, u'9'), u"1.5"_qs, u"doce"_qs, u"1 2"_qs, u"$ 5"_qs}) {
+        Calculadora calculo(u","_qs);
         calculo.Digito(4);
         calculo.Operar(Calculadora::Sumar);
         calculo.PonerDisplay(texto);
         calculo.Igual();
         EXPECT_EQ(calculo.Display(), texto);
-        calculo.PonerDisplay(QStringLiteral("1"));
+        calculo.PonerDisplay(u"1"_qs);
         calculo.Igual();
-        EXPECT_EQ(calculo.Display(), QStringLiteral("5")); // the sum was still pending
+        EXPECT_EQ(calculo.Display(), u"5"); // the sum was still pending
     }
 }
 
@@ -100,7 +94,7 @@ class PruebaFrmCalc : public ::testing::Test {
     void SetUp() override {
         principal.setGeometry(100, 50, 800, 600);
         principal.show();
-        frm = new FrmCalc(QStringLiteral(","), &principal);
+        frm = new FrmCalc(u","_qs, &principal);
         frm->setAttribute(Qt::WA_DeleteOnClose);
         MostrarVentana(*frm);
     }
@@ -110,34 +104,34 @@ class PruebaFrmCalc : public ::testing::Test {
 TEST_F(PruebaFrmCalc, TakesKeysWhateverHasTheFocus) {
     for (const char *control : {"txtDisplay", "cmdNumero(7)", "cmdCopiar"}) {
         Pulsar(Control<QWidget>(*frm, "cmdClear"));
-        Teclear(Control<QWidget>(*frm, control), QStringLiteral("12x3w;"));
-        EXPECT_EQ(Display(), QStringLiteral("3"));
-        EXPECT_EQ(ConFoco(), QStringLiteral("cmdEquals"));
+        Teclear(Control<QWidget>(*frm, control), u"12x3w;"_qs);
+        EXPECT_EQ(Display(), u"3");
+        EXPECT_EQ(ConFoco(), u"cmdEquals");
         Tecla(Control<QWidget>(*frm, control), Qt::Key_Return);
-        EXPECT_EQ(Display(), QStringLiteral("36"));
+        EXPECT_EQ(Display(), u"36");
     }
 }
 
 TEST_F(PruebaFrmCalc, CutsWhenTheKeyIsLetGo) {
     auto *const display = Control<QLineEdit>(*frm, "txtDisplay");
-    Teclear(display, QStringLiteral("345"));
+    Teclear(display, u"345"_qs);
     for (int repeticion = 0; repeticion < 3; ++repeticion) // held down
         QTest::keyPress(display, Qt::Key_Backspace);
-    EXPECT_EQ(Display(), QStringLiteral("345"));
+    EXPECT_EQ(Display(), u"345");
     QTest::keyRelease(display, Qt::Key_Backspace);
-    EXPECT_EQ(Display(), QStringLiteral("34"));
+    EXPECT_EQ(Display(), u"34");
     Tecla(display, Qt::Key_Delete);
-    EXPECT_EQ(Display(), QStringLiteral("3"));
+    EXPECT_EQ(Display(), u"3");
 }
 
 TEST_F(PruebaFrmCalc, CopiesAndTakesAPaste) {
     auto *const display = Control<QLineEdit>(*frm, "txtDisplay");
-    QApplication::clipboard()->setText(QStringLiteral("12,5"));
+    QApplication::clipboard()->setText(u"12,5"_qs);
     display->setFocus();
     display->paste();
-    Teclear(display, QStringLiteral("*2="));
+    Teclear(display, u"*2="_qs);
     Pulsar(Control<QWidget>(*frm, "cmdCopiar"));
-    EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("25"));
+    EXPECT_EQ(QApplication::clipboard()->text(), u"25");
 }
 
 TEST_F(PruebaFrmCalc, StandsAtTheRightEdgeAndClosesByF5) {

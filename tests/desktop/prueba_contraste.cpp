@@ -3,14 +3,6 @@
 #include "desktop/ventanas/listavista.h"
 #include "testkit/manos.h"
 
-#include <QCheckBox>
-#include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
-
-#include <gtest/gtest.h>
-
 #include <functional>
 
 namespace tarvo {

@@ -7,8 +7,6 @@
 #include <QHBoxLayout>
 #include <QMainWindow>
 
-#include <gtest/gtest.h>
-
 namespace tarvo {
 namespace {
 
@@ -40,14 +38,9 @@ struct Columna {
     }
 };
 
-struct CasoTotal {
-    QSize ventana;
-    int capital;
-};
-
 TEST(EtiquetaTotal, FillsItsColumnAndIsNeverCut) {
     for (const auto &[medida, capital] :
-         {CasoTotal{{800, 600}, 34}, CasoTotal{{1280, 900}, 60}, CasoTotal{{1920, 1080}, 80}}) {
+         {std::pair(QSize(800, 600), 34), {QSize(1280, 900), 60}, {QSize(1920, 1080), 80}}) {
         SCOPED_TRACE(medida.width());
         Columna c(medida);
         c.total->setText(u"8888,88"_qs);

@@ -1,35 +1,17 @@
 #include "desktop/ventanas/comboelidido.h"
 #include "desktop/ventanas/etiquetaelidida.h"
 #include "desktop/ventanas/iconos.h"
-#include "desktop/ventanas/kitmenu.h"
 #include "desktop/ventanas/preguntasqt.h"
 #include "testkit/manos.h"
 
 #include <QAbstractItemView>
 #include <QDir>
 #include <QFileDialog>
-#include <QLineEdit>
-#include <QMainWindow>
-#include <QMenuBar>
 #include <QMessageBox>
-#include <QPushButton>
-#include <QSignalSpy>
 #include <QTemporaryDir>
-#include <QTimer>
-
-#include <gtest/gtest.h>
 
 namespace tarvo {
 namespace {
-
-TEST(EtiquetaElidida, StaysOneLineHighWhateverItShows) {
-    EtiquetaElidida etiqueta;
-    etiqueta.setText(QStringLiteral("Ana"));
-    const int alto = etiqueta.sizeHint().height();
-    etiqueta.setText(QStringLiteral("Ana\r\ny\thermanos\u2028S.L."));
-    EXPECT_EQ(etiqueta.sizeHint().height(), alto);
-    EXPECT_EQ(etiqueta.minimumSizeHint().height(), alto);
-}
 
 TEST(EtiquetaElidida, LabelAndComboShowInTheTipWhatTheyCut) {
     QWidget fondo;
@@ -38,8 +20,10 @@ TEST(EtiquetaElidida, LabelAndComboShowInTheTipWhatTheyCut) {
     auto &combo = *new ComboElidido(&fondo);
     combo.resize(120, 26);
     etiqueta.resize(120, 26);
+    etiqueta.setText(u"Ana"_qs);
+    const int alto = etiqueta.sizeHint().height();
     for (const QString &texto :
-         {u"Ana & Cía"_qs, QString(40, u'W') + u" & <b>x</b>"_qs, u"Línea\ndos <b"_qs}) {
+         {u"Ana & Cía"_qs, QString(40, u'W') + u" & <b>x</b>"_qs, u"Línea\r\ndos\u2028 <b"_qs}) {
         etiqueta.setText(texto);
         combo.clear();
         combo.addItem(texto);
@@ -49,6 +33,8 @@ TEST(EtiquetaElidida, LabelAndComboShowInTheTipWhatTheyCut) {
         EXPECT_EQ(etiqueta.toolTip(), cortado ? texto.toHtmlEscaped() : QString());
         EXPECT_EQ(combo.toolTip(), etiqueta.toolTip());
         EXPECT_EQ(combo.currentText(), texto);
+        EXPECT_EQ(etiqueta.sizeHint().height(), alto) << "one line";
+        EXPECT_EQ(etiqueta.minimumSizeHint().height(), alto);
     }
     etiqueta.setText(QString(40, u'W') + u" & 1"_qs); // no markup: nothing to escape
     etiqueta.grab();
@@ -123,37 +109,6 @@ TEST(PreguntasQt, PicksFilesInQtsOwnDialog) {
     pedido.para = PedidoRuta::Para::Abrir; // a file that isn't there is for the caller to tell
     EXPECT_EQ(conTecla(Qt::Key_Return), carpeta.filePath(u"mía"_qs));
     EXPECT_EQ(conTecla(Qt::Key_Escape), QString());
-}
-
-TEST(KitMenu, BuildsTheTreeAndItsShortcutsWork) {
-    QMainWindow ventana;
-    QMenu *menu = ventana.menuBar()->addMenu(u"&Ventas"_qs);
-    LlenarMenu(menu, {{u"ventas"_qs, u"&Ventas"_qs, u"F8"_qs, u"ventas"_qs, u"Muestra"_qs, true},
-                      {},
-                      {u"devoluciones"_qs,
-                       u"&Devoluciones"_qs,
-                       {},
-                       u"devolucion"_qs,
-                       {},
-                       false,
-                       {{u"devcontado"_qs, u"Contado"_qs, u"Ctrl+F6"_qs, u"contado"_qs, {}}}}});
-    EXPECT_EQ(menu->actions().size(), 3);
-    EXPECT_TRUE(menu->actions().at(1)->isSeparator());
-    const QAction *ventas = AccionDe(&ventana, u"ventas"_qs);
-    const QAction *contado = AccionDe(&ventana, u"devcontado"_qs);
-    const QAction *devoluciones = AccionDe(&ventana, u"devoluciones"_qs);
-    ASSERT_TRUE(ventas != nullptr && contado != nullptr && devoluciones != nullptr);
-    EXPECT_EQ(AccionDe(&ventana, u"otra"_qs), nullptr);
-    EXPECT_EQ(devoluciones->menu()->actions(), QList<QAction *>{const_cast<QAction *>(contado)});
-    EXPECT_FALSE(ventas->icon().isNull() || contado->icon().isNull() || devoluciones->icon().isNull());
-    EXPECT_EQ(ventas->statusTip(), u"Muestra");
-
-    QSignalSpy pulsadas(contado, &QAction::triggered);
-    MostrarVentana(ventana);
-    Tecla(&ventana, Qt::Key_F8);
-    Tecla(&ventana, Qt::Key_F6, Qt::ControlModifier);
-    EXPECT_TRUE(ventas->isChecked());
-    EXPECT_EQ(pulsadas.size(), 1);
 }
 
 // Every picture is an own drawing that paints something at the size of a toolbar, on both kinds of screen.

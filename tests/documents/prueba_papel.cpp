@@ -6,8 +6,9 @@
 #include "documents/ticket.h"
 #include "documents/ventanas/impresorassistema.h"
 
+#include "testkit/archivos.h"
+#include "testkit/dobles.h"
 #include "testkit/impresorasprueba.h"
-#include "testkit/relojfijo.h"
 
 #include <QBuffer>
 #include <QDir>
@@ -17,13 +18,7 @@
 #include <QSettings>
 #include <QTemporaryDir>
 
-#include <gtest/gtest.h>
-
-#include <csignal>
-#include <sys/resource.h>
-
-using namespace tarvo;
-
+namespace tarvo {
 namespace {
 
 // Where each piece of text was painted, in dots.
@@ -89,18 +84,12 @@ class Papel : public testing::Test {
     double altoHoja = 0;
 };
 
-QByteArray Leer(const QString &ruta) {
-    QFile archivo(ruta);
-    EXPECT_TRUE(archivo.open(QIODevice::ReadOnly)) << ruta.toStdString();
-    return archivo.readAll();
-}
-
 qsizetype PaginasPdf(const QByteArray &pdf) {
     return pdf.count("/Type /Page\n");
 }
 
 QSizeF HojaPdf(const QByteArray &pdf) {
-    static const QRegularExpression caja(QStringLiteral("/MediaBox \\[0 0 ([0-9.]+) ([0-9.]+)\\]"));
+    static const QRegularExpression caja(u"/MediaBox \\[0 0 ([0-9.]+) ([0-9.]+)\\]"_qs);
     const auto hallado = caja.match(QString::fromLatin1(pdf));
     return {hallado.captured(1).toDouble() * 25.4 / 72, hallado.captured(2).toDouble() * 25.4 / 72};
 }
@@ -110,76 +99,27 @@ const QDateTime kMomento({2026, 11, 22}, {10, 42, 33});
 QByteArray TicketPdf(const QString &carpeta, int lineas) {
     Comprobante venta;
     venta.lineas.assign(static_cast<std::size_t>(lineas), {});
-    ImprimirTicket(*NuevoDocumentoPdf(carpeta, ClasePapel::Rollo, QStringLiteral("Ticket"), kMomento), {},
-                   venta);
-    return Leer(carpeta + QStringLiteral("/ticket-20261122-104233-001.pdf"));
-}
-
-// Files can't grow beyond `bytes` while it lives: a full disk.
-class DiscoLleno {
-  public:
-    explicit DiscoLleno(rlim_t bytes) : anterior_(std::signal(SIGXFSZ, SIG_IGN)) {
-        getrlimit(RLIMIT_FSIZE, &limite_);
-        const rlimit corto{bytes, limite_.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &corto);
-    }
-    ~DiscoLleno() {
-        setrlimit(RLIMIT_FSIZE, &limite_);
-        std::signal(SIGXFSZ, anterior_);
-    }
-
-  private:
-    rlimit limite_{};
-    void (*anterior_)(int);
-};
-
-int NumeroDeError(const std::function<void()> &accion) {
-    try {
-        accion();
-    } catch (const ErrorDatos &error) {
-        return error.Numero();
-    }
-    return 0;
-}
-
-} // namespace
-
-TEST(PapelPrueba, HeadMovesAsOnPaper) {
-    PapelPrueba papel;
-    papel.Columna(-3);
-    papel.Texto(QStringLiteral("abc"));
-    papel.Columna(3); // right behind the head: same line
-    papel.Texto(QStringLiteral("d\te\n"));
-    papel.Columna(7);
-    papel.Texto(QStringLiteral("f"));
-    papel.Columna(6); // passed: next line
-    papel.Linea(QStringLiteral("g"));
-    papel.Posicion(1200, 1200);
-    papel.Texto(QStringLiteral("h"));
-    papel.NuevaPagina();
-    papel.Imagen(QImage(), 0, 240, 2400, 1350);
-    EXPECT_EQ(papel.Lineas().join(u'|'),
-              QStringLiteral("abcd e f|      g||||          h|\f||[imagen 2400x1350]"));
+    ImprimirTicket(*NuevoDocumentoPdf(carpeta, ClasePapel::Rollo, u"Ticket"_qs, kMomento), {}, venta);
+    return Leer(carpeta + u"/ticket-20261122-104233-001.pdf"_qs);
 }
 
 TEST(Grabada, RepeatingGivesTheSamePaper) {
     SuperficieGrabada papel;
-    ImprimirTicketPrueba(papel, {{{QStringLiteral("Uno"), true}, {}, {QStringLiteral("Tres"), false}}});
+    ImprimirTicketPrueba(papel, {{{u"Uno"_qs, true}, {}, {u"Tres"_qs, false}}});
     papel.NuevaPagina();
     papel.Posicion(500, 5000);
     papel.Imagen(QImage(), 0, 0, 10, 10);
     PapelPrueba copia;
     papel.Repetir(copia);
-    EXPECT_EQ(copia.Lineas().join(u'|'),
-              QStringLiteral("|             Uno||            Tres|||\f|[imagen 10x10]"));
+    EXPECT_EQ(copia.Lineas().join(u'|'), u"|             Uno||            Tres|||\f|[imagen 10x10]"_qs);
     EXPECT_FALSE(copia.Terminado());
 }
 
 TEST(Cortar, KeepsSurrogatesTogether) {
-    EXPECT_EQ(Cortar(QStringLiteral("abc"), 2), QStringLiteral("ab"));
-    EXPECT_EQ(Cortar(QStringLiteral("abc"), -1), QString());
-    EXPECT_EQ(Cortar(QStringLiteral("a😀c"), 2), QStringLiteral("a"));
-    EXPECT_EQ(Cortar(QStringLiteral("a😀c"), 3), QStringLiteral("a😀"));
+    EXPECT_EQ(Cortar(u"abc"_qs, 2), u"ab");
+    EXPECT_EQ(Cortar(u"abc"_qs, -1), QString());
+    EXPECT_EQ(Cortar(u"a😀c"_qs, 2), u"a");
+    EXPECT_EQ(Cortar(u"a😀c"_qs, 3), u"a😀");
 }
 
 // A column that the head has passed lies on the next line, a position is told in twips.
@@ -190,21 +130,21 @@ TEST_F(Papel, AmountsEndFlushWithTheRule) {
     for (const bool negrita : {false, true}) {
         papel->Negrita(negrita);
         papel->Columna(39 - 8);
-        papel->Linea(QStringLiteral("$ 124,50"));
+        papel->Linea(u"$ 124,50"_qs);
     }
     EXPECT_NEAR(Derecha(1), Derecha(0), 1);
     EXPECT_NEAR(Derecha(2), Derecha(0), 1);
     EXPECT_LT(motor.pintados[0].lugar.y(), motor.pintados[1].lugar.y());
     papel->Texto(QString(20, u'x'));
     papel->Columna(20);
-    papel->Texto(QStringLiteral("a"));
+    papel->Texto(u"a"_qs);
     papel->Columna(20);
-    papel->Texto(QStringLiteral("b"));
+    papel->Texto(u"b"_qs);
     EXPECT_EQ(motor.pintados[4].lugar.y(), motor.pintados[3].lugar.y());
     EXPECT_GT(motor.pintados[5].lugar.y(), motor.pintados[3].lugar.y());
     EXPECT_EQ(motor.pintados[5].lugar.x(), motor.pintados[4].lugar.x());
     papel->Posicion(720, 1440);
-    papel->Texto(QStringLiteral("c"));
+    papel->Texto(u"c"_qs);
     EXPECT_NEAR(motor.pintados[6].lugar.x(), 600, 1); // dots, 1200 to the inch
     EXPECT_NEAR(motor.pintados[6].lugar.y(), 1200 + 80, 80);
 }
@@ -234,12 +174,12 @@ TEST_F(Papel, FullPageGoesOnOnTheNextOne) {
 TEST_F(Papel, PrinterThatRefusesIsAnError) {
     auto papel = Pintada();
     motor.roto = true;
-    EXPECT_EQ(NumeroDeError([&] { papel->NuevaPagina(); }), errores::kImpresora);
+    EXPECT_EQ(NumeroDe([&] { papel->NuevaPagina(); }), errores::kImpresora);
     papel.reset();
-    EXPECT_EQ(NumeroDeError([&] { Pintada(); }), errores::kImpresora);
+    EXPECT_EQ(NumeroDe([&] { Pintada(); }), errores::kImpresora);
 }
 
-TEST(Pdf, SlipIsOnePageAsLongAsItsText) {
+TEST(Pdf, SlipIsOnePageAsLongAsItsTextUnlessItIsEndless) {
     QTemporaryDir uno, dos;
     const QByteArray corto = TicketPdf(uno.path(), 1);
     const QByteArray largo = TicketPdf(dos.path(), 101);
@@ -251,13 +191,10 @@ TEST(Pdf, SlipIsOnePageAsLongAsItsText) {
     // Two lines of 8 points for each article.
     const double porArticulo = (HojaPdf(largo).height() - HojaPdf(corto).height()) / 100;
     EXPECT_NEAR(porArticulo, 2 * 8 * 1.15 * 25.4 / 72, 0.4);
-}
-
-TEST(Pdf, EndlessSlipTakesMorePages) {
-    QTemporaryDir carpeta;
-    const QByteArray pdf = TicketPdf(carpeta.path(), 900);
-    EXPECT_EQ(PaginasPdf(pdf), 2);
-    EXPECT_NEAR(HojaPdf(pdf).height(), 5000, 1);
+    QTemporaryDir tres;
+    const QByteArray sinFin = TicketPdf(tres.path(), 900);
+    EXPECT_EQ(PaginasPdf(sinFin), 2);
+    EXPECT_NEAR(HojaPdf(sinFin).height(), 5000, 1);
 }
 
 // Head, 51 rows and foot go on one sheet, so paper has the pages that the listing says.
@@ -265,16 +202,15 @@ TEST(Pdf, ListingHasThePagesThatItSays) {
     const std::pair<int, int> casos[] = {{0, 1}, {50, 1}, {51, 2}, {101, 2}};
     for (const auto &[filas, paginas] : casos) {
         QTemporaryDir carpeta;
-        Listado listado{.titulo = QStringLiteral("LISTADO DE CLIENTES"),
-                        .subrayado = QStringLiteral("-------------------"),
-                        .encabezado = QStringLiteral("Código")};
+        Listado listado{.titulo = u"LISTADO DE CLIENTES"_qs,
+                        .subrayado = u"-------------------"_qs,
+                        .encabezado = u"Código"_qs};
         listado.imprimirFila = [](Superficie &papel, int fila) { papel.Texto(QString::number(fila)); };
         listado.pie = [](int contadas) { return QString::number(contadas); };
-        listado.trasTitulo = [](Superficie &papel) { papel.Linea(QStringLiteral("Cliente: Ana\n")); };
+        listado.trasTitulo = [](Superficie &papel) { papel.Linea(u"Cliente: Ana\n"_qs); };
         ImprimirListado(*NuevoDocumentoPdf(carpeta.path(), ClasePapel::Hoja, listado.titulo, kMomento),
                         listado, filas);
-        const QByteArray pdf =
-            Leer(carpeta.filePath(QStringLiteral("listado-de-clientes-20261122-104233-001.pdf")));
+        const QByteArray pdf = Leer(carpeta.filePath(u"listado-de-clientes-20261122-104233-001.pdf"_qs));
         EXPECT_EQ(PaginasPdf(pdf), paginas) << filas;
         EXPECT_NEAR(HojaPdf(pdf).width(), 210, 0.5);
         EXPECT_NEAR(HojaPdf(pdf).height(), 297, 0.5);
@@ -283,71 +219,67 @@ TEST(Pdf, ListingHasThePagesThatItSays) {
 
 TEST(Pdf, NeverOverwritesAndMakesItsFolder) {
     QTemporaryDir carpeta;
-    const QString impresos = carpeta.filePath(QStringLiteral("a/Impresos"));
+    const QString impresos = carpeta.filePath(u"a/Impresos"_qs);
     RelojFijo reloj(kMomento);
     ImpresorasSistema impresoras(reloj, impresos);
-    EXPECT_EQ(impresoras.Nombres().last(), QStringLiteral("PDF"));
-    impresoras.HacerActual(QStringLiteral("PDF"));
-    impresoras.HacerActual(QStringLiteral("No existe"));
-    EXPECT_EQ(impresoras.Actual(), QStringLiteral("PDF"));
+    EXPECT_EQ(impresoras.Nombres().last(), u"PDF");
+    impresoras.HacerActual(u"PDF"_qs);
+    impresoras.HacerActual(u"No existe"_qs);
+    EXPECT_EQ(impresoras.Actual(), u"PDF");
     for (const auto *titulo : {"Ticket", "Ticket", "Devolución Contado"})
         ImprimirTicketPrueba(*impresoras.NuevoDocumento(ClasePapel::Rollo, QString::fromUtf8(titulo)), {});
     EXPECT_EQ(QDir(impresos).entryList(QDir::Files, QDir::Name),
-              (QStringList{QStringLiteral("devolucion-contado-20261122-104233-001.pdf"),
-                           QStringLiteral("ticket-20261122-104233-001.pdf"),
-                           QStringLiteral("ticket-20261122-104233-002.pdf")}));
+              (QStringList{u"devolucion-contado-20261122-104233-001.pdf"_qs,
+                           u"ticket-20261122-104233-001.pdf"_qs, u"ticket-20261122-104233-002.pdf"_qs}));
 }
 
 TEST(Pdf, WhatCannotBeWrittenLeavesNoFile) {
     QTemporaryDir carpeta;
     for (const ClasePapel clase : {ClasePapel::Rollo, ClasePapel::Hoja}) {
-        const auto papel = NuevoDocumentoPdf(carpeta.path(), clase, QStringLiteral("lleno"), kMomento);
-        papel->Linea(QStringLiteral("texto"));
+        const auto papel = NuevoDocumentoPdf(carpeta.path(), clase, u"lleno"_qs, kMomento);
+        papel->Linea(u"texto"_qs);
         const DiscoLleno lleno(1000);
-        EXPECT_EQ(NumeroDeError([&] { papel->Terminar(); }), errores::kEscritura);
+        EXPECT_EQ(NumeroDe([&] { papel->Terminar(); }), errores::kEscritura);
     }
-    NuevoDocumentoPdf(carpeta.path(), ClasePapel::Hoja, QStringLiteral("abandonado"), kMomento).reset();
+    NuevoDocumentoPdf(carpeta.path(), ClasePapel::Hoja, u"abandonado"_qs, kMomento).reset();
     EXPECT_TRUE(QDir(carpeta.path()).isEmpty());
 
-    QFile obstaculo(carpeta.filePath(QStringLiteral("archivo")));
-    ASSERT_TRUE(obstaculo.open(QIODevice::WriteOnly));
-    EXPECT_EQ(NumeroDeError([&] {
-                  NuevoDocumentoPdf(obstaculo.fileName(), ClasePapel::Rollo, QStringLiteral("x"), kMomento);
-              }),
+    const QString obstaculo = carpeta.filePath(u"archivo"_qs);
+    Escribir(obstaculo, {});
+    EXPECT_EQ(NumeroDe([&] { NuevoDocumentoPdf(obstaculo, ClasePapel::Rollo, u"x"_qs, kMomento); }),
               errores::kEscritura);
 }
 
 TEST(Impresoras, ChosenByPurpose) {
     QTemporaryDir carpeta;
-    QSettings ajustes(carpeta.filePath(QStringLiteral("ajustes.ini")), QSettings::IniFormat);
-    const struct {
-        const char *impTick, *impList, *ticket, *listado;
-    } casos[] = {{"", "", "Láser", "Láser"},
-                 {"Tickets", "PDF", "Tickets", "PDF"},
-                 {"Vendida", "tickets", "Láser", "Láser"}};
-    for (const auto &caso : casos) {
-        ajustes.setValue("ImpTick", QString::fromUtf8(caso.impTick));
-        ajustes.setValue("ImpList", QString::fromUtf8(caso.impList));
-        for (const bool ticket : {true, false}) {
-            ImpresorasPrueba impresoras;
-            const QString esperada = QString::fromUtf8(ticket ? caso.ticket : caso.listado);
-            EXPECT_EQ(ElegirImpresora(impresoras, ajustes, ticket ? Proposito::Ticket : Proposito::Listado),
-                      esperada);
-            EXPECT_EQ(impresoras.actual, esperada);
-        }
+    QSettings ajustes(carpeta.filePath(u"ajustes.ini"_qs), QSettings::IniFormat);
+    const std::tuple<Proposito, const char *, const char *, const char *> casos[] = {
+        {Proposito::Ticket, "ImpTick", "", "Láser"},
+        {Proposito::Listado, "ImpList", "", "Láser"},
+        {Proposito::Ticket, "ImpTick", "Tickets", "Tickets"},
+        {Proposito::Listado, "ImpList", "PDF", "PDF"},
+        {Proposito::Ticket, "ImpTick", "Vendida", "Láser"},
+        {Proposito::Listado, "ImpList", "tickets", "Láser"}};
+    for (const auto &[proposito, clave, guardada, utf8] : casos) {
+        ajustes.setValue(clave, QString::fromUtf8(guardada));
+        ImpresorasPrueba impresoras;
+        const QString esperada = QString::fromUtf8(utf8);
+        EXPECT_EQ(ElegirImpresora(impresoras, ajustes, proposito), esperada);
+        EXPECT_EQ(impresoras.actual, esperada);
     }
 }
 
 TEST(Impresoras, FailuresOfTheChoiceAreSwallowed) {
     struct Rotas final : Impresoras {
-        QStringList Nombres() const override {
-            throw ErrorDatos(errores::kImpresora, QStringLiteral("Sin cola."));
-        }
+        QStringList Nombres() const override { throw ErrorDatos(errores::kImpresora, u"Sin cola."_qs); }
         QString Actual() const override { return {}; }
         void HacerActual(const QString &) override {}
         std::unique_ptr<Superficie> NuevoDocumento(ClasePapel, const QString &) override { return {}; }
     } rotas;
     QTemporaryDir carpeta;
-    const QSettings ajustes(carpeta.filePath(QStringLiteral("ajustes.ini")), QSettings::IniFormat);
+    const QSettings ajustes(carpeta.filePath(u"ajustes.ini"_qs), QSettings::IniFormat);
     EXPECT_EQ(ElegirImpresora(rotas, ajustes, Proposito::Ticket), QString());
 }
+
+} // namespace
+} // namespace tarvo

@@ -1,38 +1,12 @@
 // What slips carry, line by line.
-#include "documents/ticket.h"
+#include "documents/comprobanteprueba.h"
+#include "documents/recibos.h"
 
 #include "testkit/datosprueba.h"
 #include "testkit/papelprueba.h"
 
-#include <gtest/gtest.h>
-
-using namespace tarvo;
-
+namespace tarvo {
 namespace {
-
-Cabecera CabeceraTienda() {
-    return {{{QStringLiteral("Almacén Sol"), true},
-             {QStringLiteral("Av. Italia 1234"), false},
-             {QString(), true},
-             {QStringLiteral("Tel. 2400 0000"), false},
-             {QStringLiteral("Gracias"), true}}};
-}
-
-Comprobante VentaContado() {
-    Comprobante venta;
-    venta.fecha = QStringLiteral("22/11/2026");
-    venta.hora = QStringLiteral("10:42");
-    venta.tipo = QStringLiteral("Factura contado");
-    venta.lineas = {{QStringLiteral("Y1"), QStringLiteral("Yerba 1 kg"), QStringLiteral("3"),
-                     QStringLiteral("$ 12,50"), QStringLiteral("$ 37,50")}};
-    venta.subtotal = QStringLiteral("$ 37,50");
-    venta.iva = QStringLiteral("$ 8,25");
-    venta.total = QStringLiteral("$ 45,75");
-    venta.descuento = QStringLiteral("0 %");
-    venta.totalConDescuento = QStringLiteral("$ 45,75");
-    venta.vendedor = QStringLiteral("1 - Ana");
-    return venta;
-}
 
 QString VolcadoDe(const Comprobante &venta) {
     PapelPrueba papel;
@@ -48,8 +22,6 @@ QStringList CuerpoDe(const Comprobante &venta) {
     return papel.Lineas().mid(10);
 }
 
-} // namespace
-
 TEST(Ticket, CashSaleWithoutCustomer) {
     EXPECT_EQ(VolcadoDe(VentaContado()).toStdString(), R"(
 
@@ -64,7 +36,7 @@ TEST(Ticket, CashSaleWithoutCustomer) {
 [/n]Factura contado
 ---------------------------------------
 [n]Detalle                           Total
-[/n]Yerba 1 kg                      $ 37,50
+[/n]Yerba                           $ 37,50
   3 x $ 12,50
 ---------------------------------------
 Subtotal                        $ 37,50
@@ -80,77 +52,64 @@ Descuento                           0 %
 
 TEST(Ticket, CreditSaleWithCustomerNumberAndCustomTax) {
     Comprobante venta = VentaContado();
-    venta.tipo = QStringLiteral("Factura crédito");
-    venta.numero = QStringLiteral("A-0001");
-    venta.cliente = QStringLiteral("Panadería La Espiga");
-    venta.idFiscal = QStringLiteral("211234560018");
-    venta.nombreImpuesto = QStringLiteral("COFIS");
-    venta.impuesto = QStringLiteral("$ 1,00");
-    venta.descuento = QStringLiteral("10 %");
+    venta.tipo = u"Factura crédito"_qs;
+    venta.numero = u"A-0001"_qs;
+    venta.cliente = u"Panadería La Espiga"_qs;
+    venta.idFiscal = u"211234560018"_qs;
+    venta.nombreImpuesto = u"COFIS"_qs;
+    venta.impuesto = u"$ 1,00"_qs;
+    venta.descuento = u"10 %"_qs;
     const QString volcado = VolcadoDe(venta);
     // The customer stands in the bold that header line 5 left.
-    EXPECT_TRUE(volcado.contains(QStringLiteral("          [n]Gracias\n\n[8]22/11/2026    10:42\n\n"
-                                                "Cliente    Panadería La Espiga\n"
-                                                "[/n]Id. Fiscal 211234560018\n"
-                                                "Factura crédito\n"
-                                                "Nº Comprobante A-0001\n-----")))
-        << volcado.toStdString();
-    EXPECT_TRUE(volcado.contains(QStringLiteral("IVA                              $ 8,25\n"
-                                                "COFIS                            $ 1,00\n"
-                                                "Total                           $ 45,75\n"
-                                                "Descuento                          10 %\n")))
-        << volcado.toStdString();
+    for (const QString &parte :
+         {u"[n]Gracias\n\n[8]22/11/2026    10:42\n\nCliente    Panadería La Espiga\n"
+          "[/n]Id. Fiscal 211234560018\nFactura crédito\nNº Comprobante A-0001\n-----"_qs,
+          u"\nIVA                              $ 8,25\nCOFIS                            $ 1,00\n"
+          "Total                           $ 45,75\nDescuento                          10 %\n"_qs})
+        EXPECT_TRUE(volcado.contains(parte)) << volcado.toStdString();
 }
 
 TEST(Ticket, NothingLeavesTheThirtyNineColumns) {
     Comprobante venta = VentaContado();
-    const QString largo(60, QLatin1Char('x'));
+    const QString largo(60, u'x');
     venta.tipo = venta.numero = venta.cliente = venta.idFiscal = venta.vendedor = largo;
     venta.nombreImpuesto = largo;
-    venta.impuesto = QStringLiteral("$ 1234567,00");
-    venta.lineas = {{largo, largo, largo, largo, QStringLiteral("$ 37,50")}};
+    venta.impuesto = u"$ 1234567,00"_qs;
+    venta.lineas = {{largo, largo, largo, largo, u"$ 37,50"_qs}};
     const QStringList cuerpo = CuerpoDe(venta);
     for (const QString &linea : cuerpo)
         EXPECT_LE(linea.size(), 39) << linea.toStdString();
-    EXPECT_TRUE(cuerpo.contains(QString(26, QLatin1Char('x')) + QStringLiteral(" $ 1234567,00")));
+    EXPECT_TRUE(cuerpo.contains(QString(26, u'x') + u" $ 1234567,00"_qs));
 }
 
 TEST(Ticket, LongNameIsCutAndItsAmountGoesToTheNextLine) {
-    const struct {
-        int largo;
-        QString importe;
-        QStringList lineas;
-    } casos[] = {
-        {31, QStringLiteral("$ 37,50"), {QString(31, u'x') + QStringLiteral(" $ 37,50")}},
-        {32, QStringLiteral("$ 37,50"), {QString(32, u'x') + QStringLiteral("$ 37,50")}},
-        {33, QStringLiteral("$ 37,50"), {QString(33, u'x'), QString(32, u' ') + QStringLiteral("$ 37,50")}},
-        {60, QStringLiteral("1,50"), {QString(35, u'x') + QStringLiteral("1,50")}},
-        {60, QStringLiteral("12,50"), {QString(35, u'x'), QString(34, u' ') + QStringLiteral("12,50")}},
+    const std::tuple<int, QString, QStringList> casos[] = {
+        {31, u"$ 37,50"_qs, {QString(31, u'x') + u" $ 37,50"_qs}},
+        {32, u"$ 37,50"_qs, {QString(32, u'x') + u"$ 37,50"_qs}},
+        {33, u"$ 37,50"_qs, {QString(33, u'x'), QString(32, u' ') + u"$ 37,50"_qs}},
+        {60, u"1,50"_qs, {QString(35, u'x') + u"1,50"_qs}},
+        {60, u"12,50"_qs, {QString(35, u'x'), QString(34, u' ') + u"12,50"_qs}},
     };
-    for (const auto &caso : casos) {
+    for (const auto &[largo, importe, lineas] : casos) {
         Comprobante venta = VentaContado();
-        venta.lineas = {{{}, QString(caso.largo, u'x'), QStringLiteral("1"), caso.importe, caso.importe}};
-        EXPECT_EQ(CuerpoDe(venta).mid(3, caso.lineas.size()), caso.lineas) << caso.largo;
+        venta.lineas = {{{}, QString(largo, u'x'), u"1"_qs, importe, importe}};
+        EXPECT_EQ(CuerpoDe(venta).mid(3, lineas.size()), lineas) << largo;
     }
 }
 
 // Slips and the test ticket disagree on odd lengths: the one rounds to the even column, the other truncates.
 TEST(Ticket, HeaderLinesAreCentredByTwoRules) {
-    const struct {
-        int largo;
-        int enTicket;
-        int enPrueba;
-    } casos[] = {{1, 14, 14}, {2, 13, 13}, {3, 12, 13}, {5, 12, 12}, {7, 10, 11},
-                 {27, 0, 1},  {28, 0, 0},  {29, 0, 0},  {31, 0, 0},  {40, 0, 0}};
-    for (const auto &caso : casos) {
+    const std::array<int, 3> casos[] = {{1, 14, 14}, {2, 13, 13}, {3, 12, 13}, {5, 12, 12}, {7, 10, 11},
+                                        {27, 0, 1},  {28, 0, 0},  {29, 0, 0},  {31, 0, 0},  {40, 0, 0}};
+    for (const auto &[largo, enTicket, enPrueba] : casos) {
         Cabecera cabecera;
-        cabecera[0].texto = QString(caso.largo, u'x');
+        cabecera[0].texto = QString(largo, u'x');
         PapelPrueba ticket;
         ImprimirCabecera(ticket, cabecera, QDateTime({2026, 11, 22}, {10, 42}));
         PapelPrueba prueba;
         ImprimirTicketPrueba(prueba, cabecera);
-        EXPECT_EQ(ticket.Trozos().front().columna, caso.enTicket) << caso.largo;
-        EXPECT_EQ(prueba.Trozos().front().columna, caso.enPrueba) << caso.largo;
+        EXPECT_EQ(ticket.Trozos().front().columna, enTicket) << largo;
+        EXPECT_EQ(prueba.Trozos().front().columna, enPrueba) << largo;
     }
 }
 
@@ -172,12 +131,75 @@ TEST(Ticket, HeaderIsReadFromTheTicketTable) {
     datos.Ejecutar("UPDATE main.Ticket SET linea1='Uno', negrita1='S', linea2='Dos', negrita2='N', linea3='',"
                    " negrita3='s', linea4='Cuatro', negrita4='', linea5='Cinco', negrita5='S'");
     const Cabecera cabecera = LeerCabecera(datos.Abrir());
-    QStringList textos;
-    QString negritas;
-    for (const LineaCabecera &linea : cabecera) {
-        textos << linea.texto;
-        negritas += linea.negrita ? u'S' : u'N';
-    }
-    EXPECT_EQ(textos.join(u'|'), QStringLiteral("Uno|Dos||Cuatro|Cinco"));
-    EXPECT_EQ(negritas, QStringLiteral("SNNNS"));
+    QString lineas;
+    for (const LineaCabecera &linea : cabecera)
+        lineas += linea.texto + (linea.negrita ? u" S|"_qs : u" N|"_qs);
+    EXPECT_EQ(lineas, u"Uno S|Dos N| N|Cuatro N|Cinco S|");
 }
+
+const QDateTime kMomento({2026, 11, 22}, {10, 42});
+
+// The slip from its date on.
+template <typename Imprimir> QString Hoja(const Imprimir &imprimir) {
+    PapelPrueba papel;
+    imprimir(papel);
+    EXPECT_TRUE(papel.Terminado());
+    return papel.Volcado().section(u"[8]"_qs, 1);
+}
+
+// The heading has left its bold on.
+TEST(Recibos, ReceiptOfAPayment) {
+    const Recibo recibo{kMomento, u"Panadería La Espiga"_qs, u"$ 250,00"_qs};
+    EXPECT_EQ(Hoja([&](Superficie &papel) { ImprimirRecibo(papel, CabeceraTienda(), recibo); }).toStdString(),
+              R"(22/11/2026    10:42
+
+Cliente    Panadería La Espiga
+[/n]Recibo
+---------------------------------------
+[n]Total                          [/n]$ 250,00
+
+
+)");
+}
+
+// Bold or not, title and rule stay as header line 5 left them. An amount that the description has passed goes
+// to the next line.
+TEST(Recibos, CreditNoteAndCashReturn) {
+    Cabecera cabecera = CabeceraTienda();
+    Devolucion nota{TituloNotaCredito(),   kMomento,      u"Ana"_qs, u"03/05/2026"_qs, u"14:07"_qs,
+                    u"Factura crédito"_qs, u"$ 250,00"_qs};
+    const auto hoja = [&] {
+        return Hoja([&](Superficie &papel) { ImprimirDevolucion(papel, cabecera, nota); }).toStdString();
+    };
+    EXPECT_EQ(hoja(), R"(22/11/2026    10:42
+
+Cliente    Ana
+Nota de crédito
+---------------------------------------
+Fecha        Hora
+[/n]03/05/2026 - 14:07
+[n]Detalle                          Total
+[/n]Factura crédito                $ 250,00
+
+
+)");
+    nota.titulo = TituloDevolucion();
+    nota.cliente = std::nullopt;
+    nota.descripcion = QString(40, u'x');
+    cabecera[4].negrita = false;
+    EXPECT_EQ(hoja(), R"(22/11/2026    10:42
+
+Devolución Contado
+---------------------------------------
+[n]Fecha        Hora
+[/n]03/05/2026 - 14:07
+[n]Detalle                          Total
+[/n]xxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxx
+                               $ 250,00
+
+
+)");
+}
+
+} // namespace
+} // namespace tarvo

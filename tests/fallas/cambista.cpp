@@ -32,9 +32,9 @@ constexpr Elegidas kVentasYArticulos{false, true, true, false, false};
 void Hacer(const char *orden, const QString &carpeta, FrmBases &bases) {
     SinAvance avance;
     if (std::strcmp(orden, "respaldar") == 0)
-        Respaldar(bases, {carpeta + QStringLiteral("/copia"), kTodas, kVentasYArticulos}, avance);
+        Respaldar(bases, {carpeta + u"/copia"_qs, kTodas, kVentasYArticulos}, avance);
     else if (std::strcmp(orden, "recuperar") == 0)
-        Recuperar(bases, {carpeta + QStringLiteral("/respaldo"), kTodas}, avance);
+        Recuperar(bases, {carpeta + u"/respaldo"_qs, kTodas}, avance);
     else
         std::printf("%d\n", static_cast<int>(AbrirBases(bases).estado));
 }
@@ -46,7 +46,7 @@ int main(int argc, char **argv) {
         return 2;
     const QString carpeta = QString::fromLocal8Bit(argv[2]);
     try {
-        FrmBases bases(carpeta + QStringLiteral("/Datos"), Moneda());
+        FrmBases bases(carpeta + u"/Datos"_qs, Moneda());
         Hacer(argv[1], carpeta, bases);
         std::puts("OK");
         return 0;

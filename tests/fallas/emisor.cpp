@@ -34,26 +34,26 @@ void Decir(const QString &linea) {
 
 void Vender(FrmBases &bases) {
     bases.datVentas.AddNew();
-    bases.camVentTipo = QStringLiteral("Contado");
-    bases.camVentTotal = QStringLiteral("$ 12,50");
+    bases.camVentTipo = u"Contado"_qs;
+    bases.camVentTotal = u"$ 12,50"_qs;
     bases.datVentas.Refresh();
     for (int i = 1; i <= kArticulos; ++i) {
-        bases.datArticulos.Index(QStringLiteral("primarykey"));
-        bases.datArticulos.Seek(QStringLiteral("="), QString::number(i));
-        bases.camArtStock = QStringLiteral("vendido");
+        bases.datArticulos.Index(u"primarykey"_qs);
+        bases.datArticulos.Seek(u"="_qs, QString::number(i));
+        bases.camArtStock = u"vendido"_qs;
         bases.datArticulos.Refresh();
     }
 }
 
 void Recibir(FrmBases &bases) {
-    EscribirRecibo(bases, QStringLiteral("1"), QStringLiteral("$ 12,50"), QDateTime::currentDateTime());
+    EscribirRecibo(bases, u"1"_qs, u"$ 12,50"_qs, QDateTime::currentDateTime());
 }
 
 void Devolver(FrmBases &bases) {
     DocumentoDevuelto factura;
-    factura.tipo = QStringLiteral("DevContado");
-    factura.idFactura = QStringLiteral("1");
-    factura.marca = QStringLiteral("Factura contado (D)");
+    factura.tipo = u"DevContado"_qs;
+    factura.idFactura = u"1"_qs;
+    factura.marca = u"Factura contado (D)"_qs;
     EscribirDevolucion(bases, factura, QDateTime::currentDateTime());
 }
 
@@ -65,22 +65,13 @@ Escritor EscritorDe(const char *orden) {
     return std::strcmp(orden, "devolver") == 0 ? Devolver : Vender;
 }
 
-int Vendidos(FrmBases &bases) {
-    int vendidos = 0;
-    Recorrer(bases.datArticulos, [&] {
-        vendidos += bases.camArtStock.Es("vendido") ? 1 : 0;
+int Cuantas(Cursor &cursor, const Campo &campo, const char *texto) {
+    int cuantas = 0;
+    Recorrer(cursor, [&] {
+        cuantas += campo.Es(texto) ? 1 : 0;
         return false;
     });
-    return vendidos;
-}
-
-int Marcadas(FrmBases &bases) {
-    int marcadas = 0;
-    Recorrer(bases.datVentas, [&] {
-        marcadas += bases.camVentDescripcion.Es("Factura contado (D)") ? 1 : 0;
-        return false;
-    });
-    return marcadas;
+    return cuantas;
 }
 
 bool Intentar(FrmBases &bases, Escritor escribir, const char *operacion) {
@@ -88,13 +79,13 @@ bool Intentar(FrmBases &bases, Escritor escribir, const char *operacion) {
         Transaccion transaccion(bases, {QString::fromUtf8(operacion)});
         escribir(bases);
         transaccion.Confirmar();
-        Decir(QStringLiteral("OK"));
+        Decir(u"OK"_qs);
         return true;
     } catch (const OperacionAnterior &anterior) {
-        Decir(anterior.EsLaMisma() ? QStringLiteral("ANTERIOR") : QStringLiteral("OTRA"));
+        Decir(anterior.EsLaMisma() ? u"ANTERIOR"_qs : u"OTRA"_qs);
         return true;
     } catch (const ErrorDatos &error) {
-        Decir(QStringLiteral("ERROR %1 %2").arg(error.Numero()).arg(error.Descripcion()));
+        Decir(u"ERROR %1 %2"_qs.arg(error.Numero()).arg(error.Descripcion()));
         return false;
     }
 }
@@ -106,18 +97,16 @@ void SanarDisco() {
 }
 
 void Contar(FrmBases &bases) {
-    Decir(QStringLiteral("CONSTA %1 %2 %3")
-              .arg(bases.datVentas.RecordCount() - 1)
-              .arg(Vendidos(bases))
-              .arg(Marcadas(bases)));
+    Decir(u"CONSTA %1 %2 %3"_qs.arg(bases.datVentas.RecordCount() - 1)
+              .arg(Cuantas(bases.datArticulos, bases.camArtStock, "vendido"))
+              .arg(Cuantas(bases.datVentas, bases.camVentDescripcion, "Factura contado (D)")));
 }
 
 // Opens when the word comes, tells the state, and holds what is open until its input ends.
 int Retener(FrmBases &bases) {
     std::getchar();
     const ResultadoApertura apertura = bases.AbrirInsistiendo();
-    Decir(apertura.estado == EstadoApertura::Completa ? QStringLiteral("ABIERTO")
-                                                      : QStringLiteral("OCUPADO"));
+    Decir(apertura.estado == EstadoApertura::Completa ? u"ABIERTO"_qs : u"OCUPADO"_qs);
     std::getchar();
     return 0;
 }
@@ -125,9 +114,7 @@ int Retener(FrmBases &bases) {
 int ConBases(const char *orden, FrmBases &bases) {
     const ResultadoApertura apertura = bases.Abrir();
     if (std::strcmp(orden, "abrir") == 0 || apertura.estado != EstadoApertura::Completa) {
-        Decir(QStringLiteral("%1 %2 %3")
-                  .arg(static_cast<int>(apertura.estado))
-                  .arg(apertura.archivo, apertura.motivo));
+        Decir(u"%1 %2 %3"_qs.arg(static_cast<int>(apertura.estado)).arg(apertura.archivo, apertura.motivo));
         return 0;
     }
     const Escritor escribir = EscritorDe(orden);
@@ -147,13 +134,13 @@ int main(int argc, char **argv) {
     const QString carpeta = QString::fromLocal8Bit(argv[2]);
     try {
         if (std::strcmp(argv[1], "instalar") == 0) {
-            PrepararDatos(carpeta, QStringLiteral("/proc/no-hay"));
+            PrepararDatos(carpeta, u"/proc/no-hay"_qs);
             return 0;
         }
         FrmBases bases(carpeta, Moneda());
         return std::strcmp(argv[1], "retener") == 0 ? Retener(bases) : ConBases(argv[1], bases);
     } catch (const ErrorDatos &error) {
-        Decir(QStringLiteral("ERROR %1").arg(error.Numero()));
+        Decir(u"ERROR %1"_qs.arg(error.Numero()));
         return 1;
     }
 }

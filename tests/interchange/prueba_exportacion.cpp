@@ -1,12 +1,82 @@
-// The writers of the export: bytes, layouts, limits.
+// The export: what is written, byte for byte, its layouts and limits; the file that is picked, replaced, or
+// left alone.
+#include "desktop/listatexto.h"
+#include "desktop/windows1252.h"
 #include "interchange/excelfile.h"
-#include "listaexportada.h"
+#include "interchange/exportacion.h"
+#include "interchange/mnuexportar.h"
+#include "interchange/tablaexportacion.h"
+#include "testkit/archivos.h"
+#include "testkit/preguntasguion.h"
 
+#include <QBuffer>
 #include <QProcess>
-#include <QTemporaryDir>
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <unistd.h>
 
 namespace tarvo {
 namespace {
+
+// A list of nine columns, as many as any that is exported.
+class ListaExportada {
+  public:
+    explicit ListaExportada(const QList<QStringList> &filas = {}) {
+        for (const QStringList &fila : filas)
+            lista.AgregarFila(fila);
+    }
+    // `filas` rows whose cells are their numbers, as "7.2": row 7, column 2.
+    explicit ListaExportada(int filas) {
+        for (int i = 1; i <= filas; ++i) {
+            QStringList fila;
+            for (int columna = 0; columna < 9; ++columna)
+                fila << u"%1.%2"_qs.arg(i).arg(columna);
+            lista.AgregarFila(fila);
+        }
+    }
+
+    QByteArray Hoja(const char *control, const QString &saldo = {}, const QString &cliente = {}) const {
+        const QString nombre = QString::fromLatin1(control);
+        return Escrito([&](QIODevice &salida) {
+            EscribirHoja(salida, *TablaDe(nombre), {&lista, nombre, saldo, cliente});
+        });
+    }
+    QByteArray Texto(const char *control) const {
+        return Escrito(
+            [&](QIODevice &salida) { EscribirTexto(salida, *TablaDe(QString::fromLatin1(control)), lista); });
+    }
+
+    ListaTexto lista{std::vector<ColumnaLista>(9)};
+
+  private:
+    template <typename Escritor> static QByteArray Escrito(Escritor escribir) {
+        QBuffer salida;
+        salida.open(QIODevice::WriteOnly);
+        escribir(salida);
+        return salida.data();
+    }
+};
+
+// The cells of a spreadsheet in the order of the file, each "row:column text".
+struct HojaLeida {
+    QStringList celdas;
+    bool terminada = false; // ends with its end record
+
+    explicit HojaLeida(const QByteArray &bytes) {
+        const auto numero = [&](qsizetype i) {
+            return int(quint8(bytes.at(i))) + 256 * int(quint8(bytes.at(i + 1)));
+        };
+        for (qsizetype i = 0; i + 4 <= bytes.size(); i += 4 + numero(i + 2)) {
+            terminada = numero(i) == 0x0A && i + 4 == bytes.size();
+            if (numero(i) == 0x04)
+                celdas << u"%1:%2 %3"_qs.arg(numero(i + 4) + 1)
+                              .arg(numero(i + 6) + 1)
+                              .arg(DeWindows1252(bytes.mid(i + 12, quint8(bytes.at(i + 11)))));
+        }
+    }
+    std::string Texto() const { return celdas.join(u'|').toStdString(); }
+};
 
 QByteArray Hex(const char *texto) {
     return QByteArray::fromHex(texto);
@@ -17,7 +87,7 @@ TEST(Hoja, IsTheseBytes) {
     salida.open(QIODevice::WriteOnly);
     ExcelFile hoja(salida);
     hoja.OpenFile();
-    hoja.EWriteString(3, 3, QStringLiteral("Año €"));
+    hoja.EWriteString(3, 3, u"Año €"_qs);
     hoja.EWriteString(255, 255, QString());
     hoja.EWriteInteger(1, 2, 0x1234);
     hoja.CloseFile();
@@ -32,7 +102,7 @@ TEST(Hoja, ACellBeyondAByteRaisesAndWritesNothing) {
     QBuffer salida;
     salida.open(QIODevice::WriteOnly);
     ExcelFile hoja(salida);
-    const QString larga(247, QLatin1Char('x'));
+    const QString larga(247, u'x');
     hoja.EWriteString(1, 1, larga);
     EXPECT_EQ(salida.data().left(12), Hex("0400 FF00 0000 0000 000000 F7"));
     const QByteArray antes = salida.data();
@@ -68,8 +138,7 @@ TEST(Hoja, EachListHasItsLayout) {
                    "10:8 2.4|10:10 2.5|12:9 Saldo|12:10 $ 3,00"},
     };
     for (const auto &[control, celdas] : casos) {
-        const HojaLeida hoja(
-            ListaExportada(2).Hoja(control, QStringLiteral("$ 3,00"), QStringLiteral("Ana")));
+        const HojaLeida hoja(ListaExportada(2).Hoja(control, u"$ 3,00"_qs, u"Ana"_qs));
         EXPECT_EQ(hoja.Texto(), celdas);
         EXPECT_EQ(hoja.terminada, std::string_view(control) != "LVArticulos") << control;
     }
@@ -77,12 +146,7 @@ TEST(Hoja, EachListHasItsLayout) {
 
 // Last cell and end record by number of rows. The articles walk 254 rows whatever there are.
 TEST(Hoja, EndsWhereItsRowsOverflow) {
-    const struct {
-        const char *control;
-        int filas;
-        const char *ultima;
-        bool terminada;
-    } casos[] = {
+    const std::tuple<const char *, int, const char *, bool> casos[] = {
         {"LVClientes", 0, "5:9 Teléfono", true},        {"LVClientes", 249, "255:9 249.4", true},
         {"LVClientes", 250, "255:9 249.4", false},      {"LVClientes", 300, "255:9 249.4", false},
         {"LVArticulos", 0, "5:12 P.Venta", false},      {"LVArticulos", 249, "255:12 249.5", false},
@@ -92,28 +156,27 @@ TEST(Hoja, EndsWhereItsRowsOverflow) {
         {"LVEstado", 245, "255:9 $ 3,00", true},        {"LVEstado", 247, "255:9 247.4", false},
         {"LVCaja", 248, "255:10 247.5", false},
     };
-    for (const auto &caso : casos) {
-        const HojaLeida hoja(ListaExportada(caso.filas).Hoja(caso.control, QStringLiteral("$ 3,00")));
-        EXPECT_EQ(hoja.celdas.last().toStdString(), caso.ultima) << caso.control << ' ' << caso.filas;
-        EXPECT_EQ(hoja.terminada, caso.terminada) << caso.control << ' ' << caso.filas;
+    for (const auto &[control, filas, ultima, terminada] : casos) {
+        const HojaLeida hoja(ListaExportada(filas).Hoja(control, u"$ 3,00"_qs));
+        EXPECT_EQ(hoja.celdas.last().toStdString(), ultima) << control << ' ' << filas;
+        EXPECT_EQ(hoja.terminada, terminada) << control << ' ' << filas;
     }
 }
 
 TEST(Hoja, EndsAtATextThatIsTooLong) {
-    const QString larga(247, QLatin1Char('n'));
-    const ListaExportada cabe({{QStringLiteral("1"), larga}});
+    const QString larga(247, u'n');
+    const ListaExportada cabe({{u"1"_qs, larga}});
     EXPECT_TRUE(HojaLeida(cabe.Hoja("LVClientes")).terminada);
-    const ListaExportada noCabe({{QStringLiteral("1"), larga + QLatin1Char('n')}, {QStringLiteral("2")}});
+    const ListaExportada noCabe({{u"1"_qs, larga + u'n'}, {u"2"_qs}});
     const HojaLeida hoja(noCabe.Hoja("LVClientes"));
-    EXPECT_EQ(hoja.celdas.last(), QStringLiteral("7:2 1"));
+    EXPECT_EQ(hoja.celdas.last(), u"7:2 1");
     EXPECT_FALSE(hoja.terminada);
 }
 
 TEST(Texto, HasALineForEachRowInTheOrderOnScreenAndNothingElse) {
-    ListaExportada datos({{QStringLiteral("b"), QStringLiteral("Peña, \"Luis\""), QStringLiteral("€"),
-                           QStringLiteral("\u4e00x\U0001F600"), QStringLiteral("$ 1,50"), QStringLiteral("f"),
-                           QStringLiteral("g")},
-                          {QStringLiteral("a"), QStringLiteral("dos\r\nlíneas")}});
+    ListaExportada datos(
+        {{u"b"_qs, u"Peña, \"Luis\""_qs, u"€"_qs, u"\u4e00x\U0001F600"_qs, u"$ 1,50"_qs, u"f"_qs, u"g"_qs},
+         {u"a"_qs, u"dos\r\nlíneas"_qs}});
     datos.lista.Ordenar(0, Qt::AscendingOrder);
     const QByteArray cuatro = "a,dos  l\xEDneas,,\r\nb,Pe\xF1"
                               "a, \"Luis\",\x80,?x?";
@@ -130,27 +193,9 @@ TEST(Texto, HasALineForEachRowInTheOrderOnScreenAndNothingElse) {
     EXPECT_EQ(ListaExportada(20'000).Texto("LVArticulos").count("\r\n"), 20'000);
 }
 
-// Runs a Python program on the bytes, which prints rows of cells; none when it or its reader is not
-// installed.
-std::optional<QString> LeidoPor(const char *programa, const QByteArray &bytes) {
-    QTemporaryDir carpeta;
-    QFile archivo(carpeta.filePath(QStringLiteral("exportado")));
-    EXPECT_TRUE(archivo.open(QIODevice::WriteOnly));
-    archivo.write(bytes);
-    archivo.close();
-    QProcess python;
-    python.start(QStringLiteral("/usr/bin/python3"),
-                 {QStringLiteral("-c"), QString::fromUtf8(programa), archivo.fileName()});
-    if (!python.waitForFinished(60'000) || python.exitCode() == 77)
-        return std::nullopt;
-    EXPECT_EQ(python.exitCode(), 0) << python.readAllStandardError().toStdString();
-    return QString::fromUtf8(python.readAllStandardOutput()).trimmed();
-}
-
+// By a reader in Python, where it is installed; it insists on the document type of a worksheet.
 TEST(OtroLector, ReadsTheCellsOfTheSpreadsheet) {
-    // That reader insists on the document type of a worksheet.
-    const std::optional<QString> leido =
-        LeidoPor(R"(
+    const char *const programa = R"(
 import sys
 try:
     import xlrd
@@ -162,30 +207,126 @@ hoja = xlrd.open_workbook(file_contents=bytes(datos), encoding_override='cp1252'
 for f in range(hoja.nrows):
     if any(hoja.row_values(f)):
         sys.stdout.buffer.write(('|'.join(hoja.row_values(f)) + '\n').encode())
-)",
-                 ListaExportada({{QStringLiteral("1"), QStringLiteral("Peña €"), QStringLiteral("SRL"),
-                                  QStringLiteral("30-1"), QStringLiteral("$ 12,50")}})
-                     .Hoja("LVClientes"));
-    if (!leido)
+)";
+    QTemporaryDir carpeta;
+    const QString archivo = carpeta.filePath(u"exportado"_qs);
+    Escribir(
+        archivo,
+        ListaExportada({{u"1"_qs, u"Peña €"_qs, u"SRL"_qs, u"30-1"_qs, u"$ 12,50"_qs}}).Hoja("LVClientes"));
+    QProcess python;
+    python.start(u"/usr/bin/python3"_qs, {u"-c"_qs, QString::fromUtf8(programa), archivo});
+    if (!python.waitForFinished(60'000) || python.exitCode() == 77)
         GTEST_SKIP() << "python3-xlrd is not installed";
-    EXPECT_EQ(leido->toStdString(), "||Listado de clientes||||||\n"
-                                    "|Código|Nombre||Nombre fiscal||Id. Fiscal||Teléfono\n"
-                                    "|1|Peña €||SRL||30-1||$ 12,50");
+    EXPECT_EQ(python.readAllStandardOutput(), "||Listado de clientes||||||\n"
+                                              "|Código|Nombre||Nombre fiscal||Id. Fiscal||Teléfono\n"
+                                              "|1|Peña €||SRL||30-1||$ 12,50\n")
+        << python.readAllStandardError().toStdString();
 }
 
-TEST(OtroLector, ReadsTheFieldsOfTheText) {
-    const std::optional<QString> leido =
-        LeidoPor(R"(
-import csv, sys
-for fila in csv.reader(open(sys.argv[1], encoding='cp1252', newline='')):
-    sys.stdout.buffer.write(('|'.join(fila) + '\n').encode())
-)",
-                 ListaExportada({{QStringLiteral("1"), QStringLiteral("Peña"), QStringLiteral("a"),
-                                  QStringLiteral("b"), QStringLiteral("$ 12,50")}})
-                     .Texto("LVProveedores"));
-    if (!leido)
-        GTEST_SKIP() << "python3 is not installed";
-    EXPECT_EQ(leido->toStdString(), "1|Peña|a|b|$ 12|50") << "a comma in a value makes another field";
+// --- the entry of the menu
+
+const QString kNoEsPosible =
+    u"No es posible continuar.\nAsegúrese de que el archivo no está abierto ni protegido contra "
+    "escritura."_qs;
+
+class MnuExportar : public testing::Test {
+  protected:
+    QString Ruta(const char *nombre) const { return carpeta.filePath(QString::fromUtf8(nombre)); }
+    void Elige(const QString &ruta) {
+        preguntas.EsperaRuta({.para = PedidoRuta::Para::Guardar,
+                              .titulo = u"Exportar..."_qs,
+                              .filtro = u"Hoja de Microsoft Excel|*.xls|Archivo de texto separado "
+                                        "por comas|*.txt"_qs,
+                              .carpeta = QString()},
+                             ruta);
+    }
+    void Reemplazar(const QString &ruta, Respuesta respuesta) {
+        preguntas.Espera(u"\"%1\" ya existe.\nDesea reemplazarlo?"_qs.arg(ruta), No, respuesta);
+    }
+    void Exportar() { mnuExportar(preguntas, {&datos.lista, u"LVClientes"_qs}); }
+    // An existing file that the operator lets be replaced, and can't be.
+    void NoSePuede(const QString &ruta) {
+        Elige(ruta);
+        Reemplazar(ruta, Si);
+        preguntas.EsperaFalla(kNoEsPosible);
+        Exportar();
+        EXPECT_EQ(Leer(ruta), "antes");
+    }
+    QStringList Archivos() const {
+        return QDir(carpeta.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot);
+    }
+
+    QTemporaryDir carpeta;
+    PreguntasGuion preguntas;
+    ListaExportada datos{3};
+};
+
+TEST_F(MnuExportar, TheEndingPicksTheFormat) {
+    for (const char *nombre : {"a.xls", "b.txt", "c.XLS", "d.csv", "e"}) {
+        Elige(Ruta(nombre));
+        Exportar();
+    }
+    EXPECT_EQ(Leer(Ruta("a.xls")), datos.Hoja("LVClientes"));
+    EXPECT_EQ(Leer(Ruta("b.txt")), datos.Texto("LVClientes"));
+    EXPECT_EQ(Archivos(), QStringList({u"a.xls"_qs, u"b.txt"_qs}));
+    Elige(QString()); // cancelled
+    Exportar();
+}
+
+TEST_F(MnuExportar, AsksBeforeItReplaces) {
+    const QString ruta = Ruta("lista.txt");
+    Escribir(ruta, "antes");
+    Elige(ruta);
+    Reemplazar(ruta, No);
+    Elige(Ruta("otra.txt"));
+    Exportar();
+    EXPECT_EQ(Leer(ruta), "antes");
+    Elige(ruta);
+    Reemplazar(ruta, Si);
+    Exportar();
+    EXPECT_EQ(Leer(ruta), datos.Texto("LVClientes"));
+    EXPECT_EQ(Archivos().size(), 2) << "nothing is left of the trial";
+    // What was let go is gone, also when the ending picks no format.
+    const QString mayusculas = Ruta("LISTA.TXT");
+    Escribir(mayusculas, "antes");
+    Elige(mayusculas);
+    Reemplazar(mayusculas, Si);
+    Exportar();
+    EXPECT_FALSE(QFile::exists(mayusculas));
+}
+
+TEST_F(MnuExportar, WhatCanNotBeReplacedStays) {
+    const QString ruta = Ruta("lista.xls");
+    Escribir(ruta, "antes");
+    QFile::setPermissions(ruta, QFile::ReadOwner);
+    NoSePuede(ruta);
+    QFile::setPermissions(ruta, QFile::ReadOwner | QFile::WriteOwner);
+    const int otro = ::open(QFile::encodeName(ruta).constData(), O_RDONLY);
+    ASSERT_EQ(::flock(otro, LOCK_SH), 0);
+    NoSePuede(ruta);
+    ::close(otro);
+    Escribir(ruta + u"vsw"_qs, "antes"); // a file of the operator's own
+    NoSePuede(ruta);
+    for (const QString &nada :
+         {Ruta("no hay/lista.xls"), carpeta.path(), Ruta("x").repeated(300) + u".xls"_qs}) {
+        Elige(nada);
+        preguntas.EsperaFalla(kNoEsPosible);
+        Exportar();
+    }
+}
+
+TEST_F(MnuExportar, ADiskThatFailsIsToldAndLosesNothing) {
+    const QString ruta = Ruta("lista.txt");
+    Escribir(ruta, "antes");
+    Elige(ruta);
+    Reemplazar(ruta, Si);
+    preguntas.EsperaFalla(u"No se pudo escribir \"lista.txt\": error de entrada o salida."_qs);
+    {
+        const DiscoLleno lleno(10);
+        Exportar();
+    }
+    EXPECT_EQ(Leer(ruta), "antes");
+    EXPECT_EQ(Archivos(), QStringList(u"lista.txt"_qs));
 }
 
 } // namespace

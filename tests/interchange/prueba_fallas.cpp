@@ -1,45 +1,21 @@
 // Backup, emptying and restore on a disk that fails: killed, or refused, at every call that changes
 // something.
+#include "fallas/confallas.h"
 #include "tiendacambio.h"
-
-#include <QProcess>
 
 namespace tarvo {
 namespace {
 
-struct Corrida {
-    bool hecho = false; // it told "OK"
-    bool fallo = false; // a fault was made
-    bool matado = false;
-    std::string texto;
-};
-
-class PruebaFallasCambio : public testing::Test {
+class PruebaFallasCambio : public ConFallas {
   protected:
-    void SetUp() override {
-#ifdef TARVO_SANITIZADO
-        GTEST_SKIP() << "the sanitizer doesn't go with a preloaded library";
-#endif
-    }
-    Corrida Correr(const char *orden, const char *modo = "", int llamada = 0) const {
-        QProcess proceso;
-        QStringList entorno = QProcess::systemEnvironment();
-        entorno << QStringLiteral("LD_PRELOAD=" TARVO_FALLAS)
-                << QStringLiteral("FALLAS_CARPETA=") + trabajo->Carpeta()
-                << QStringLiteral("FALLAS_MODO=") + QString::fromUtf8(modo)
-                << QStringLiteral("FALLAS_LLAMADA=%1").arg(llamada);
-        proceso.setEnvironment(entorno);
-        proceso.start(QStringLiteral(TARVO_CAMBISTA), {QString::fromUtf8(orden), trabajo->Carpeta()});
-        EXPECT_TRUE(proceso.waitForFinished(60'000));
-        const QByteArray salida = proceso.readAllStandardOutput();
-        return {salida.endsWith("OK\n"), proceso.readAllStandardError().contains("FALLA"),
-                proceso.exitStatus() == QProcess::CrashExit, salida.toStdString()};
+    Corrida Correr(const char *orden, const char *modo, int llamada) const {
+        return ConFallas::Correr(QStringLiteral(TARVO_CAMBISTA), orden, trabajo->Carpeta(), modo, llamada);
     }
     // The next start of the program opens everything; nothing of the work is left over.
     void Abrir() {
         FrmBases bases(trabajo->Ruta("Datos"), Moneda());
         EXPECT_EQ(AbrirBases(bases).estado, EstadoApertura::Completa);
-        EXPECT_EQ(QDir(trabajo->Ruta("Datos")).entryList({QStringLiteral("nuevos*")}), QStringList());
+        EXPECT_EQ(QDir(trabajo->Ruta("Datos")).entryList({u"nuevos*"_qs}), QStringList());
     }
     // Runs `orden` with a fault at call 1, 2, ... until none is left; returns how many faults were made.
     int EnCadaLlamada(const char *orden, const char *modo,
@@ -49,7 +25,7 @@ class PruebaFallasCambio : public testing::Test {
             trabajo = std::make_unique<TiendaCambio>();
             const Corrida corrida = Correr(orden, modo, n);
             if (!corrida.fallo) {
-                EXPECT_TRUE(corrida.hecho) << corrida.texto;
+                EXPECT_TRUE(corrida.Hecho()) << corrida.Texto();
                 return n - 1;
             }
             mirar(corrida);
@@ -69,7 +45,7 @@ TEST_F(PruebaFallasCambio, ARestoreIsWholeOrNotThere) {
             const std::string marcas = trabajo->Marcas("Datos");
             const bool nueva = marcas == "nuevo nuevo nuevo nuevo nuevo";
             EXPECT_TRUE(nueva || marcas == "viejo viejo viejo viejo viejo") << marcas;
-            EXPECT_TRUE(nueva || !corrida.hecho) << "a success that is none";
+            EXPECT_TRUE(nueva || !corrida.Hecho()) << "a success that is none";
             nuevas += nueva ? 1 : 0;
         });
         EXPECT_GT(fallas, 25) << modo;
@@ -98,7 +74,7 @@ TEST_F(PruebaFallasCambio, ABackupLosesNothing) {
                 EXPECT_EQ(viva == "-" ? trabajo->Marca("copia", i) : viva, "viejo")
                     << "emptied without a copy";
             }
-            if (corrida.hecho) {
+            if (corrida.Hecho()) {
                 EXPECT_EQ(trabajo->Marcas("copia"), "viejo viejo viejo viejo viejo");
             }
         });

@@ -1,7 +1,7 @@
 // Backup, emptying and restore on a disk that works; and what they do with files that don't.
 #include "tiendacambio.h"
 
-#include "store/errordatos.h"
+#include "testkit/archivos.h"
 
 #include <QFileInfo>
 #include <QProcess>
@@ -24,24 +24,10 @@ class PruebaRespaldo : public testing::Test {
     Resultado Recupera(const Elegidas &recuperar) {
         return Recuperar(bases, {tienda.Ruta("respaldo"), recuperar}, avance);
     }
-    // The text of the failure of `accion`; empty when it did not fail.
-    static std::string Falla(const std::function<void()> &accion) {
-        try {
-            accion();
-            return {};
-        } catch (const ErrorDatos &error) {
-            return error.what();
-        }
-    }
-    void Escribir(const char *relativa, const QByteArray &contenido) const {
-        QFile archivo(tienda.Ruta(relativa));
-        EXPECT_TRUE(archivo.open(QIODevice::WriteOnly));
-        archivo.write(contenido);
-    }
     void AbreCompleta() {
         const ResultadoApertura abiertas = AbrirBases(bases);
         EXPECT_EQ(abiertas.estado, EstadoApertura::Completa) << abiertas.motivo.toStdString();
-        EXPECT_EQ(QDir(tienda.Ruta("Datos")).entryList({QStringLiteral("nuevos*")}), QStringList());
+        EXPECT_EQ(QDir(tienda.Ruta("Datos")).entryList({u"nuevos*"_qs}), QStringList());
         bases.Cerrar();
     }
 
@@ -50,14 +36,10 @@ class PruebaRespaldo : public testing::Test {
     AvancePrueba avance;
 };
 
-TEST(NombreRespaldo, SortsByTimeWithoutSeparatorsOfADateFormat) {
-    EXPECT_EQ(NombreRespaldo(QDateTime({2006, 5, 3}, {14, 7, 9})), QStringLiteral("2006 05 03-14 07 09"));
-}
-
 TEST_F(PruebaRespaldo, CopiesWhatIsTickedAndEmptiesFromTheTemplates) {
     AbrirBases(bases); // as in the running program
     bases.datVentas.AddNew();
-    bases.camVentNumComp = QStringLiteral("zz: an edit that the closing commits");
+    bases.camVentNumComp = u"zz: an edit that the closing commits"_qs;
     bases.datVentas.Refresh();
     Respalda({true, true, true, true, false}, {true, true, false, false, false});
     EXPECT_EQ(tienda.Marcas("copia"), "viejo zz: an edit that the closing commits viejo viejo falta");
@@ -69,13 +51,14 @@ TEST_F(PruebaRespaldo, CopiesWhatIsTickedAndEmptiesFromTheTemplates) {
 
 TEST_F(PruebaRespaldo, TwoInOneSecondCollide) {
     Respalda(kTodas);
-    EXPECT_EQ(Falla([&] { Respalda(kTodas); }), "No se pudo crear la carpeta \"copia\": ya existe.");
+    EXPECT_EQ(TextoDe([&] { Respalda(kTodas); }), "No se pudo crear la carpeta \"copia\": ya existe.");
 }
 
 TEST_F(PruebaRespaldo, RestoresTheChosenFilesInItsOwnOrder) {
+    TiendaCambio::Sql(tienda.Ruta("respaldo/ventas.mdb"), "CREATE INDEX otro ON Ventas(fecha)"); // is taken
     EXPECT_EQ(Recupera({true, true, false, true, true}), Resultado::Completo);
-    EXPECT_EQ(avance.archivos.join(QLatin1Char(' ')), QStringLiteral("config.mdb ventas.mdb proveedores.mdb "
-                                                                     "clientes.mdb"));
+    EXPECT_EQ(avance.archivos.join(u' '), u"config.mdb ventas.mdb proveedores.mdb "
+                                          "clientes.mdb"_qs);
     EXPECT_EQ(tienda.Marcas("Datos"), "nuevo nuevo viejo nuevo nuevo");
     AbreCompleta();
 }
@@ -91,7 +74,7 @@ TEST_F(PruebaRespaldo, AFileThatWentAwayIsPassedOver) {
 
 // A copy-journal beside a live file is of its old content.
 TEST_F(PruebaRespaldo, AJournalIsNotPlayedBackIntoARestoredFile) {
-    Escribir("Datos/ventas.mdb-journal", QByteArray(4096, 'x'));
+    Escribir(tienda.Ruta("Datos/ventas.mdb-journal"), QByteArray(4096, 'x'));
     EXPECT_EQ(Recupera(kTodas), Resultado::Completo);
     EXPECT_FALSE(QFileInfo::exists(tienda.Ruta("Datos/ventas.mdb-journal")));
     EXPECT_EQ(tienda.Marcas("Datos"), kNuevas);
@@ -109,30 +92,22 @@ TEST_F(PruebaRespaldo, EndsBetweenFilesWhenAskedTo) {
     AbreCompleta();
 }
 
-TEST_F(PruebaRespaldo, ABackupWithOtherIndexesIsTaken) {
-    TiendaCambio::Sql(tienda.Ruta("respaldo/ventas.mdb"), "CREATE INDEX otro ON Ventas(fecha)");
-    EXPECT_EQ(Recupera(kTodas), Resultado::Completo);
-    AbreCompleta();
-}
-
 // --- files that are no good: told by name, and nothing is changed
 
 TEST_F(PruebaRespaldo, ABackupThatIsNoneOfOursIsRefused) {
     const QString clientes = tienda.Ruta("respaldo/clientes.mdb");
-    const struct {
-        const char *motivo;
-        std::function<void()> estropear;
-    } casos[] = {
+    const std::pair<const char *, std::function<void()>> casos[] = {
         {"falta la columna fax de Clientes.",
          [&] { TiendaCambio::Sql(clientes, "ALTER TABLE Clientes DROP fax"); }},
         {"falta la tabla Clientes.", [&] { TiendaCambio::Sql(clientes, "DROP TABLE Clientes"); }},
-        {"no es una base de datos.", [&] { Escribir("respaldo/clientes.mdb", QByteArray(9000, 'x')); }},
-        {"falta la tabla Clientes.", [&] { Escribir("respaldo/clientes.mdb", {}); }},
+        {"no es una base de datos.",
+         [&] { Escribir(tienda.Ruta("respaldo/clientes.mdb"), QByteArray(9000, 'x')); }},
+        {"falta la tabla Clientes.", [&] { Escribir(tienda.Ruta("respaldo/clientes.mdb"), {}); }},
     };
-    for (const auto &caso : casos) {
-        caso.estropear();
-        EXPECT_EQ(Falla([&] { Recupera(kTodas); }),
-                  std::string("El archivo \"clientes.mdb\" no sirve: ") + caso.motivo);
+    for (const auto &[motivo, estropear] : casos) {
+        estropear();
+        EXPECT_EQ(TextoDe([&] { Recupera(kTodas); }),
+                  std::string("El archivo \"clientes.mdb\" no sirve: ") + motivo);
         EXPECT_EQ(tienda.Marcas("Datos"), kViejas);
         AbreCompleta();
     }
@@ -148,8 +123,8 @@ TEST_F(PruebaRespaldo, ADamagedFileIsNeitherBackedUpNorRestored) {
         archivo.seek(3 * 4096);
         archivo.write(QByteArray(4096, 'x'));
     }
-    EXPECT_EQ(Falla([&] { Recupera(kTodas); }), "El archivo \"ventas.mdb\" no sirve: está dañado.");
-    EXPECT_EQ(Falla([&] { Respalda(kTodas, kTodas); }), "El archivo \"ventas.mdb\" no sirve: está dañado.");
+    EXPECT_EQ(TextoDe([&] { Recupera(kTodas); }), "El archivo \"ventas.mdb\" no sirve: está dañado.");
+    EXPECT_EQ(TextoDe([&] { Respalda(kTodas, kTodas); }), "El archivo \"ventas.mdb\" no sirve: está dañado.");
     EXPECT_EQ(QFileInfo(tienda.Ruta("Datos/ventas.mdb")).size(),
               QFileInfo(tienda.Ruta("copia/ventas.mdb")).size())
         << "a file whose copy did not pass is not emptied";
@@ -164,7 +139,7 @@ TEST_F(PruebaRespaldo, ATemplateThatIsNoGoodEmptiesNothing) {
         QFile::remove(tienda.Ruta("Datos/vacio/ventas.mdb"));
         if (std::string_view(que) == "otra")
             QFile::copy(tienda.Ruta("Datos/vacio/clientes.mdb"), tienda.Ruta("Datos/vacio/ventas.mdb"));
-        EXPECT_EQ(Falla([&] { Respalda(kTodas, {false, true, false, false, false}); }), mensaje);
+        EXPECT_EQ(TextoDe([&] { Respalda(kTodas, {false, true, false, false, false}); }), mensaje);
         EXPECT_EQ(tienda.Marcas("Datos"), kViejas);
         EXPECT_EQ(tienda.Marcas("copia"), "viejo viejo falta falta falta") << "what was copied stays";
         QDir(tienda.Ruta("copia")).removeRecursively();
@@ -174,40 +149,40 @@ TEST_F(PruebaRespaldo, ATemplateThatIsNoGoodEmptiesNothing) {
 TEST_F(PruebaRespaldo, FilesThatOthersHoldOrTookAwayAreTold) {
     {
         QProcess otro;
-        otro.start(QStringLiteral(TARVO_EMISOR), {QStringLiteral("retener"), tienda.Ruta("Datos")});
+        otro.start(QStringLiteral(TARVO_EMISOR), {u"retener"_qs, tienda.Ruta("Datos")});
         otro.write("\n");
         ASSERT_TRUE(otro.waitForReadyRead(30'000));
-        EXPECT_EQ(Falla([&] { Respalda(kTodas); }), "Otro programa está usando \"config.mdb\".");
-        EXPECT_EQ(Falla([&] { Recupera(kTodas); }), "Otro programa está usando \"config.mdb\".");
+        EXPECT_EQ(TextoDe([&] { Respalda(kTodas); }), "Otro programa está usando \"config.mdb\".");
+        EXPECT_EQ(TextoDe([&] { Recupera(kTodas); }), "Otro programa está usando \"config.mdb\".");
         otro.closeWriteChannel();
         ASSERT_TRUE(otro.waitForFinished(30'000));
     }
     QDir(tienda.Ruta("copia")).removeRecursively();
     QFile::remove(tienda.Ruta("Datos/articulos.mdb"));
-    EXPECT_EQ(Falla([&] { Respalda(kTodas); }), "No se encuentra el archivo \"articulos.mdb\".");
+    EXPECT_EQ(TextoDe([&] { Respalda(kTodas); }), "No se encuentra el archivo \"articulos.mdb\".");
     EXPECT_EQ(tienda.Marcas("copia"), "viejo viejo falta falta falta");
     EXPECT_EQ(Recupera(kTodas), Resultado::Completo) << "a restore brings back what is gone";
     EXPECT_EQ(tienda.Marcas("Datos"), kNuevas);
     {
         const int otro = ::open(QFile::encodeName(tienda.Ruta("Datos")).constData(), O_RDONLY);
         ASSERT_EQ(::flock(otro, LOCK_EX), 0);
-        EXPECT_EQ(Falla([&] { Recupera(kTodas); }), "Otro programa está trabajando con los datos.");
+        EXPECT_EQ(TextoDe([&] { Recupera(kTodas); }), "Otro programa está trabajando con los datos.");
         EXPECT_EQ(AbrirBases(bases).estado, EstadoApertura::Bloqueada);
         ::close(otro);
     }
 }
 
 TEST_F(PruebaRespaldo, TargetsThatCanNotBeMadeAreTold) {
-    const QString larga = tienda.Carpeta() + QStringLiteral("/a").repeated(2100) + QLatin1Char('/');
+    const QString larga = tienda.Carpeta() + u"/a"_qs.repeated(2100) + u'/';
     const char *const kNoHay = "No se pudo crear la carpeta \"x\": no se encuentra la ruta o el archivo.";
-    Escribir("archivo", {});
+    Escribir(tienda.Ruta("archivo"), {});
     const std::pair<QString, const char *> casos[] = {
         {tienda.Ruta("no hay/x"), kNoHay},
         {tienda.Ruta("archivo/x"), "No se pudo crear la carpeta \"x\": la ruta no es una carpeta."},
-        {larga + QLatin1Char('x'), "No se pudo crear la carpeta \"x\": el nombre es demasiado largo."},
+        {larga + u'x', "No se pudo crear la carpeta \"x\": el nombre es demasiado largo."},
     };
     for (const auto &[destino, mensaje] : casos)
-        EXPECT_EQ(Falla([&] { Respaldar(bases, {destino, kTodas, {}}, avance); }), mensaje);
+        EXPECT_EQ(TextoDe([&] { Respaldar(bases, {destino, kTodas, {}}, avance); }), mensaje);
     const QString rara = tienda.Ruta("año \"nuevo\" 'x'");
     EXPECT_EQ(Respaldar(bases, {rara, kTodas, {}}, avance), Resultado::Completo);
     EXPECT_EQ(tienda.Marcas("año \"nuevo\" 'x'"), kViejas);

@@ -36,7 +36,7 @@ class TiendaCambio {
     }
     // The mark of a file, by the index of its database; "-" when it holds none.
     std::string Marca(const char *carpeta, std::size_t i) const {
-        const QString ruta = Ruta(carpeta) + QLatin1Char('/') + BasesRespaldo()[i].archivo;
+        const QString ruta = Ruta(carpeta) + u'/' + BasesRespaldo()[i].archivo;
         if (!QFile::exists(ruta))
             return "falta";
         SQLite::Database archivo(ruta.toStdString(), SQLite::OPEN_READONLY);
@@ -65,7 +65,7 @@ class TiendaCambio {
             const QString carpeta = QString::fromLatin1(nombre);
             EXPECT_TRUE(QDir(base).mkdir(carpeta));
             for (const BaseRespaldo &una : BasesRespaldo()) {
-                const QString archivo = QLatin1Char('/') + carpeta + QLatin1Char('/') + una.archivo;
+                const QString archivo = u'/' + carpeta + u'/' + una.archivo;
                 EXPECT_TRUE(QFile::copy(modelo + archivo, base + archivo));
             }
         }
@@ -81,7 +81,7 @@ class TiendaCambio {
                 QDir().mkdir(ruta);
                 CrearPlantillas(ruta);
                 for (std::size_t i = 0; *marca != '\0' && i < kBases; ++i)
-                    Sql(ruta + QLatin1Char('/') + BasesRespaldo()[i].archivo,
+                    Sql(ruta + u'/' + BasesRespaldo()[i].archivo,
                         std::string("INSERT INTO ") + kMarcas[i].first + "(" + kMarcas[i].second +
                             ") VALUES('" + marca + "')");
             }

@@ -1,15 +1,8 @@
 // What the windows of customers, suppliers and articles have in common, driven by keys and clicks.
-#include "desktop/ventanas/listavista.h"
 #include "masterdata/ventanas/frmarticulos.h"
 #include "masterdata/ventanas/frmclientes.h"
 #include "masterdata/ventanas/frmproveedores.h"
-#include "masterdata/vistaprueba.h"
-#include "testkit/mundoprueba.h"
-
-#include <QLineEdit>
-#include <QPushButton>
-
-#include <gtest/gtest.h>
+#include "testkit/conventana.h"
 
 namespace tarvo {
 namespace {
@@ -17,18 +10,13 @@ namespace {
 struct Catalogo {
     const char *nombre;
     VentanaCatalogo *(*crear)(const Servicios &, Anfitrion &);
-    const char *tabla;
-    const char *lista;
+    const char *tabla, *lista;
     const char *que;      // in the questions
     const char *pregunta; // before printing
     bool vaciaApaga;      // an empty list turns search and print off
     bool otroTrasGuardar; // a saved new row begins another one
     int exportarAlBorrar; // how often a delete speaks of the export: off and on, or on alone
 };
-
-void PrintTo(const Catalogo &catalogo, std::ostream *salida) {
-    *salida << catalogo.nombre;
-}
 
 template <typename Ventana> VentanaCatalogo *Crear(const Servicios &servicios, Anfitrion &anfitrion) {
     return new Ventana(servicios, anfitrion);
@@ -43,57 +31,42 @@ const Catalogo kCatalogos[] = {
      "Desea imprimir el listado de proveedores?", false, false, 1},
 };
 
-class Catalogos : public testing::TestWithParam<Catalogo> {
+class Catalogos : public ConVentana<VentanaCatalogo>, public testing::WithParamInterface<Catalogo> {
   protected:
-    ~Catalogos() override { ventana_.reset(); }
-
-    void Filas(std::initializer_list<std::pair<const char *, const char *>> filas) {
+    void Insertar(std::initializer_list<std::pair<const char *, const char *>> filas) {
         for (const auto &[codigo, nombre] : filas)
-            mundo_.datos.Ejecutar((std::string("INSERT INTO ") + GetParam().tabla +
-                                   "(codigo, nombre) VALUES ('" + codigo + "','" + nombre + "')")
-                                      .c_str());
+            mundo.datos.Ejecutar(std::string("INSERT INTO ") + GetParam().tabla +
+                                 "(codigo, nombre) VALUES ('" + codigo + "','" + nombre + "')");
     }
-    void TresFilas() { Filas({{"2", "Banana S.A."}, {"10", "Ana"}, {"1", "Zulema"}}); }
-
     void Abrir() {
-        ventana_.reset(GetParam().crear(mundo_.servicios(), anfitrion_));
-        ventana_->resize(1000, 700);
-        MostrarVentana(*ventana_);
+        ventana.reset(GetParam().crear(mundo.servicios(), anfitrion));
+        ventana->resize(1000, 700);
+        MostrarVentana(*ventana);
     }
-    template <typename T = QLineEdit> T *C(const char *nombre) { return Control<T>(*ventana_, nombre); }
-    ListaVista *LV() { return C<ListaVista>(GetParam().lista); }
-    void Click(const char *boton) { Pulsar(C<QPushButton>(boton)); }
+    void AbrirConTresFilas() {
+        Insertar({{"2", "Banana S.A."}, {"10", "Ana"}, {"1", "Zulema"}});
+        Abrir();
+    }
+    ListaVista *LV() { return Lista(GetParam().lista); }
 
     // Enabled buttons as letters, in the order of the row: N G E A C B I.
     QString Botones() {
         QString letras;
         for (const char *boton : {"cmdNuevo", "cmdGuardar", "cmdEliminar", "cmdActualizar", "cmdCancelar",
                                   "cmdBuscar", "cmdImprimir"})
-            letras += C<QPushButton>(boton)->isEnabled() ? QLatin1Char(boton[3]) : QLatin1Char('-');
+            letras += QLatin1Char(Habilitado(boton) ? boton[3] : '-');
         return letras;
     }
-    QStringList Codigos() {
-        QStringList codigos;
-        for (int fila = 0; fila < ventana_->Lista().Filas(); ++fila)
-            codigos << ventana_->Lista().Celda(fila, 0);
-        return codigos;
-    }
-    std::vector<std::vector<QString>> Tabla() {
-        return mundo_.datos.Filas(
-            (std::string("SELECT codigo, nombre FROM ") + GetParam().tabla + " ORDER BY id").c_str());
-    }
-    QString Texto(const char *plantilla) {
-        return QString::fromUtf8(plantilla).arg(QString::fromUtf8(GetParam().que));
+    QString Codigos() { return ColumnaDe(ventana->Lista(), 0); }
+    QString Tabla() {
+        return mundo.datos.Tabla(std::string("SELECT codigo, nombre FROM ") + GetParam().tabla +
+                                 " ORDER BY id");
     }
     void Confirmar(const char *verbo, Respuesta respuesta) {
-        mundo_.preguntas.Espera(QStringLiteral("Está seguro de querer %1 los datos del %2 seleccionado?")
-                                    .arg(QString::fromUtf8(verbo), QString::fromUtf8(GetParam().que)),
-                                Respuesta::No, respuesta);
+        mundo.preguntas.Espera(u"Está seguro de querer %1 los datos del %2 seleccionado?"_qs.arg(
+                                   QString::fromUtf8(verbo), QString::fromUtf8(GetParam().que)),
+                               No, respuesta);
     }
-
-    MundoPrueba mundo_;
-    AnfitrionPrueba anfitrion_;
-    std::unique_ptr<VentanaCatalogo> ventana_;
 };
 
 INSTANTIATE_TEST_SUITE_P(Todos, Catalogos, testing::ValuesIn(kCatalogos),
@@ -102,206 +75,189 @@ INSTANTIATE_TEST_SUITE_P(Todos, Catalogos, testing::ValuesIn(kCatalogos),
 TEST_P(Catalogos, AnEmptyTableGreysTheFieldsAndOffersOnlyNewAndRefresh) {
     Abrir();
     EXPECT_EQ(Botones(), GetParam().vaciaApaga ? u"N--A---"_qs : u"N--A-BI"_qs);
-    EXPECT_FALSE(C("txtNombre")->isEnabled());
-    EXPECT_TRUE(C("txtNombre")->property("sinDatos").toBool());
-    EXPECT_TRUE(anfitrion_.dicho.isEmpty());
-    EXPECT_FALSE(ventana_->EntradaEnCurso());
-    Click("cmdNuevo");
+    EXPECT_FALSE(Habilitado("txtNombre"));
+    EXPECT_TRUE(Campo("txtNombre")->property("sinDatos").toBool());
+    EXPECT_TRUE(anfitrion.dicho.isEmpty());
+    Clic("cmdNuevo");
     EXPECT_EQ(Botones(), GetParam().vaciaApaga ? u"-G--C--"_qs : u"-G--CBI"_qs);
-    EXPECT_FALSE(C("txtNombre")->property("sinDatos").toBool());
-    Click("cmdCancelar");
-    EXPECT_FALSE(C("txtNombre")->isEnabled());
-    EXPECT_TRUE(Tabla().empty());
-    Click("cmdNuevo");
-    Teclear(C("txtCodigo"), u"7"_qs);
-    Teclear(C("txtNombre"), u"Uno"_qs);
-    Click("cmdGuardar");
-    EXPECT_EQ(Codigos(), QStringList(u"7"_qs));
-    EXPECT_EQ(anfitrion_.dicho, QList{true});
-    EXPECT_EQ(ventana_->EntradaEnCurso(), GetParam().otroTrasGuardar);
+    EXPECT_FALSE(Campo("txtNombre")->property("sinDatos").toBool());
+    Clic("cmdCancelar");
+    EXPECT_FALSE(Habilitado("txtNombre"));
+    EXPECT_EQ(Tabla(), QString());
+    Clic("cmdNuevo");
+    Teclear(Campo("txtCodigo"), u"7"_qs);
+    Teclear(Campo("txtNombre"), u"Uno"_qs);
+    Clic("cmdGuardar");
+    EXPECT_EQ(Codigos(), u"7");
+    EXPECT_EQ(anfitrion.dicho, QList{true});
 }
 
 TEST_P(Catalogos, ShowsTheFirstRowInTextOrderAndFollowsClicksAndArrows) {
-    TresFilas();
-    Abrir();
-    EXPECT_EQ(Botones(), u"NGEA-BI"_qs);
-    EXPECT_EQ(Codigos(), QStringList({u"1"_qs, u"10"_qs, u"2"_qs}));
-    EXPECT_EQ(C("txtNombre")->text(), u"Zulema"_qs);
-    EXPECT_EQ(anfitrion_.dicho, QList{true});
+    AbrirConTresFilas();
+    EXPECT_EQ(Botones(), u"NGEA-BI");
+    EXPECT_EQ(Codigos(), u"1|10|2");
+    EXPECT_EQ(Texto("txtNombre"), u"Zulema");
+    EXPECT_EQ(anfitrion.dicho, QList{true});
     LV()->setFocus();
-    Tecla(LV(), Qt::Key_Down);
-    EXPECT_EQ(C("txtNombre")->text(), u"Ana"_qs);
-    QTest::mouseClick(LV()->viewport(), Qt::LeftButton, Qt::NoModifier,
+    Pulsa(Qt::Key_Down);
+    EXPECT_EQ(Texto("txtNombre"), u"Ana");
+    QTest::mouseClick(LV()->viewport(), Qt::LeftButton, {},
                       LV()->visualRect(LV()->model()->index(2, 0)).center());
-    EXPECT_EQ(C("txtNombre")->text(), u"Banana S.A."_qs);
+    EXPECT_EQ(Texto("txtNombre"), u"Banana S.A.");
     LV()->Lista()->ClicEncabezado(1);
-    Click("cmdActualizar"); // the sort outlives a fill
-    EXPECT_EQ(Codigos(), QStringList({u"10"_qs, u"2"_qs, u"1"_qs}));
-    EXPECT_EQ(C("txtCodigo")->text(), u"10"_qs);
-    ventana_->close();
-    EXPECT_FALSE(anfitrion_.dicho.last());
+    Clic("cmdActualizar"); // the sort outlives a fill
+    EXPECT_EQ(Codigos(), u"10|2|1");
+    EXPECT_EQ(Texto("txtCodigo"), u"10");
+    ventana->close();
+    EXPECT_FALSE(anfitrion.dicho.last());
 }
 
 TEST_P(Catalogos, TakesANewRowByKeysAlone) {
-    TresFilas();
-    Abrir();
-    Tecla(C<QPushButton>("cmdNuevo"), Qt::Key_Return);
-    EXPECT_EQ(Botones(), u"-G--CBI"_qs);
+    AbrirConTresFilas();
+    Tecla(C("cmdNuevo"), Qt::Key_Return);
+    EXPECT_EQ(Botones(), u"-G--CBI");
     EXPECT_FALSE(LV()->isEnabled());
-    EXPECT_EQ(ConFoco(), u"txtCodigo"_qs);
-    EXPECT_TRUE(ventana_->EntradaEnCurso());
-    mundo_.preguntas.EsperaMensaje(u"Debe llenar el campo \"Código\""_qs, Icono::Informacion);
-    Click("cmdGuardar");
-    EXPECT_EQ(ConFoco(), u"txtCodigo"_qs);
-    Teclear(C("txtCodigo"), u"0"_qs);
-    mundo_.preguntas.EsperaMensaje(u"Debe llenar el campo \"Nombre\""_qs, Icono::Informacion);
-    Click("cmdGuardar");
-    EXPECT_EQ(ConFoco(), u"txtNombre"_qs);
-    Teclear(C("txtNombre"), u"O'Hara, \"ñ\""_qs);
-    for (int i = 0; i < 20 && ConFoco() != u"cmdGuardar"_qs; ++i)
-        Tecla(QApplication::focusWidget(), Qt::Key_Return);
-    ASSERT_EQ(ConFoco(), u"cmdGuardar"_qs); // Enter leads through all fields
-    Tecla(QApplication::focusWidget(), Qt::Key_Return);
-
-    ASSERT_EQ(Tabla().size(), 4U);
-    EXPECT_EQ(Tabla()[3], (std::vector<QString>{u"0"_qs, u"O'Hara, \"ñ\""_qs}));
-    EXPECT_EQ(Codigos(), QStringList({u"0"_qs, u"1"_qs, u"10"_qs, u"2"_qs}));
+    EXPECT_EQ(ConFoco(), u"txtCodigo");
+    EXPECT_TRUE(ventana->EntradaEnCurso());
+    mundo.preguntas.EsperaMensaje(u"Debe llenar el campo \"Código\""_qs);
+    EXPECT_EQ(Clic("cmdGuardar"), u"txtCodigo");
+    Teclas(u"0"_qs);
+    mundo.preguntas.EsperaMensaje(u"Debe llenar el campo \"Nombre\""_qs);
+    EXPECT_EQ(Clic("cmdGuardar"), u"txtNombre");
+    Teclear(Campo("txtNombre"), u"O'Hara, \"ñ\""_qs);
+    for (int i = 0; i < 20 && ConFoco() != u"cmdGuardar"; ++i)
+        Entrar();
+    ASSERT_EQ(ConFoco(), u"cmdGuardar"); // Enter leads through all fields
+    Entrar();
+    EXPECT_EQ(Tabla(), u"2|Banana S.A.; 10|Ana; 1|Zulema; 0|O'Hara, \"ñ\"");
+    EXPECT_EQ(Codigos(), u"0|1|10|2");
     EXPECT_EQ(LV()->FilaActual(), 3); // the last row, not the new one
     EXPECT_EQ(Botones(), GetParam().otroTrasGuardar ? u"-G--CBI"_qs : u"NGEA-BI"_qs);
     EXPECT_EQ(LV()->isEnabled(), !GetParam().otroTrasGuardar);
 }
 
 TEST_P(Catalogos, AChangeIsAskedForAndShownInTheListAtItsOldPlace) {
-    TresFilas();
-    Abrir();
-    Teclear(C("txtCodigo"), u"99"_qs);
-    Confirmar("modificar", Respuesta::No);
-    Click("cmdGuardar");
-    EXPECT_EQ(Codigos().first(), u"1"_qs);
-    Confirmar("modificar", Respuesta::Si);
-    Click("cmdGuardar");
-    EXPECT_EQ(Codigos(), QStringList({u"99"_qs, u"10"_qs, u"2"_qs}));
-    EXPECT_EQ(Tabla()[2], (std::vector<QString>{u"99"_qs, u"Zulema"_qs}));
+    AbrirConTresFilas();
+    Teclear(Campo("txtCodigo"), u"99"_qs);
+    Confirmar("modificar", No);
+    Clic("cmdGuardar");
+    EXPECT_EQ(Codigos(), u"1|10|2");
+    Confirmar("modificar", Si);
+    Clic("cmdGuardar");
+    EXPECT_EQ(Codigos(), u"99|10|2");
+    EXPECT_EQ(Tabla(), u"2|Banana S.A.; 10|Ana; 99|Zulema");
     EXPECT_EQ(ConFoco(), GetParam().otroTrasGuardar ? u"cmdGuardar"_qs : LV()->objectName());
 }
 
 TEST_P(Catalogos, DeletesWithTheDeleteKeyUntilNothingIsLeft) {
-    Filas({{"1", "Uno"}, {"2", "Dos"}});
+    Insertar({{"1", "Uno"}, {"2", "Dos"}});
     Abrir();
     LV()->setFocus();
-    Confirmar("eliminar", Respuesta::No);
+    Confirmar("eliminar", No);
     Tecla(LV(), Qt::Key_Delete);
-    EXPECT_EQ(Tabla().size(), 2U);
-    anfitrion_.dicho.clear();
-    Confirmar("eliminar", Respuesta::Si);
+    EXPECT_EQ(Tabla(), u"1|Uno; 2|Dos");
+    anfitrion.dicho.clear();
+    Confirmar("eliminar", Si);
     Tecla(LV(), Qt::Key_Delete);
-    EXPECT_EQ(Codigos(), QStringList(u"2"_qs));
-    EXPECT_EQ(anfitrion_.dicho.size(), GetParam().exportarAlBorrar);
-    EXPECT_TRUE(anfitrion_.dicho.last());
+    EXPECT_EQ(Codigos(), u"2");
+    EXPECT_EQ(anfitrion.dicho.size(), GetParam().exportarAlBorrar);
+    EXPECT_TRUE(anfitrion.dicho.last());
     EXPECT_TRUE(LV()->hasFocus());
-    Confirmar("eliminar", Respuesta::Si);
-    Click("cmdEliminar");
-    EXPECT_TRUE(Tabla().empty());
-    EXPECT_EQ(Botones().left(5), u"N--A-"_qs);
+    Confirmar("eliminar", Si);
+    Clic("cmdEliminar");
+    EXPECT_EQ(Tabla(), QString());
+    EXPECT_EQ(Botones().left(5), u"N--A-");
     Tecla(LV(), Qt::Key_Delete); // an empty list asks nothing
 }
 
+// Save and delete act on the row in the fields, not on the one that was found.
 TEST_P(Catalogos, SearchSelectsARowAndLeavesTheFields) {
-    TresFilas(); // in order: 1 Zulema, 10 Ana, 2 Banana S.A.
-    Abrir();
-    Click("cmdBuscar");
-    EXPECT_EQ(ConFoco(), u"txtArtBuscar"_qs);
-    EXPECT_FALSE(C<QPushButton>("cmdNuevo")->isEnabled());
-    Tecla(C("txtArtBuscar"), Qt::Key_Return); // an empty text searches nothing
+    AbrirConTresFilas(); // in order: 1 Zulema, 10 Ana, 2 Banana S.A.
+    EXPECT_EQ(Clic("cmdBuscar"), u"txtArtBuscar");
+    EXPECT_FALSE(Habilitado("cmdNuevo"));
+    Entrar(); // an empty text searches nothing
     EXPECT_EQ(LV()->FilaActual(), 0);
-    Pulsar(C<QAbstractButton>("chkBuscarPor(0)"));
-    EXPECT_EQ(ConFoco(), u"txtArtBuscar"_qs);
-    mundo_.preguntas.EsperaMensaje(u"Debe seleccionar al menos un criterio de búsqueda."_qs,
-                                   Icono::Informacion);
-    Tecla(C("txtArtBuscar"), Qt::Key_Return);
-    Pulsar(C<QAbstractButton>("chkBuscarPor(1)"));
-    Teclear(C("txtArtBuscar"), u"ANA"_qs);
-    Tecla(C("txtArtBuscar"), Qt::Key_Return);
+    EXPECT_EQ(Clic("chkBuscarPor(0)"), u"txtArtBuscar");
+    mundo.preguntas.EsperaMensaje(u"Debe seleccionar al menos un criterio de búsqueda."_qs);
+    Entrar();
+    Clic("chkBuscarPor(1)");
+    Teclas(u"ANA"_qs);
+    Entrar();
     EXPECT_EQ(LV()->FilaActual(), 1);
-    EXPECT_EQ(C("txtArtBuscar")->selectedText(), u"ANA"_qs);
-    EXPECT_EQ(C("txtNombre")->text(), u"Zulema"_qs);
-    Tecla(C("txtArtBuscar"), Qt::Key_Escape);
-    EXPECT_TRUE(C<QPushButton>("cmdNuevo")->isEnabled());
-    // Save and delete act on the row in the fields, not on the one that was found.
-    Confirmar("eliminar", Respuesta::Si);
-    Click("cmdEliminar");
-    EXPECT_EQ(Codigos(), QStringList({u"10"_qs, u"2"_qs}));
-    Click("cmdBuscar");
-    Teclear(C("txtArtBuscar"), u"banana"_qs);
-    Click("cmdBuscarArt");
+    EXPECT_EQ(Campo("txtArtBuscar")->selectedText(), u"ANA");
+    EXPECT_EQ(Texto("txtNombre"), u"Zulema");
+    Pulsa(Qt::Key_Escape);
+    EXPECT_TRUE(Habilitado("cmdNuevo"));
+    Confirmar("eliminar", Si);
+    Clic("cmdEliminar");
+    EXPECT_EQ(Codigos(), u"10|2");
+    Clic("cmdBuscar");
+    Teclas(u"banana"_qs);
+    Clic("cmdBuscarArt");
     EXPECT_EQ(LV()->FilaActual(), 1);
-    Click("cmdCancelarArt");
-    Teclear(C("txtCodigo"), u"0"_qs);
-    Confirmar("modificar", Respuesta::Si);
-    Click("cmdGuardar");
-    EXPECT_EQ(Tabla()[1], (std::vector<QString>{u"0"_qs, u"Ana"_qs}));
-    EXPECT_EQ(Codigos(), QStringList({u"0"_qs, u"2"_qs}));
+    Clic("cmdCancelarArt");
+    Teclear(Campo("txtCodigo"), u"0"_qs);
+    Confirmar("modificar", Si);
+    Clic("cmdGuardar");
+    EXPECT_EQ(Tabla(), u"2|Banana S.A.; 0|Ana");
+    EXPECT_EQ(Codigos(), u"0|2");
 }
 
 TEST_P(Catalogos, EscapeGivesUpANewRowAndClosingAsks) {
-    TresFilas();
-    Abrir();
-    EXPECT_TRUE(ventana_->PermiteCerrarPrograma());
-    Click("cmdNuevo");
-    for (const Respuesta respuesta : {Respuesta::No, Respuesta::Si}) {
-        mundo_.preguntas.Espera(Texto("Desea cerrar el programa sin completar el ingreso del %1?"),
-                                Respuesta::No, respuesta);
-        EXPECT_EQ(ventana_->PermiteCerrarPrograma(), respuesta == Respuesta::Si);
+    AbrirConTresFilas();
+    EXPECT_TRUE(ventana->PermiteCerrarPrograma());
+    Clic("cmdNuevo");
+    for (const Respuesta respuesta : {No, Si}) {
+        mundo.preguntas.Espera(u"Desea cerrar el programa sin completar el ingreso del %1?"_qs.arg(
+                                   QString::fromUtf8(GetParam().que)),
+                               No, respuesta);
+        EXPECT_EQ(ventana->PermiteCerrarPrograma(), respuesta == Si);
     }
-    Teclear(C("txtCodigo"), u"half"_qs);
-    FrmBases &bases = mundo_.frmBases();
+    Teclear(Campo("txtCodigo"), u"half"_qs);
+    FrmBases &bases = mundo.frmBases();
     for (Cursor *cursor : {&bases.datArticulos, &bases.datClientes, &bases.datProveedores})
         cursor->Refresh(); // must not store what is half typed
-    Tecla(C("txtCodigo"), Qt::Key_Escape);
-    EXPECT_EQ(Botones(), u"NGEA-BI"_qs);
+    Pulsa(Qt::Key_Escape);
+    EXPECT_EQ(Botones(), u"NGEA-BI");
     EXPECT_TRUE(LV()->hasFocus());
-    EXPECT_EQ(C("txtNombre")->text(), u"Zulema"_qs);
-    EXPECT_EQ(Tabla().size(), 3U);
+    EXPECT_EQ(Texto("txtNombre"), u"Zulema");
+    EXPECT_EQ(Tabla(), u"2|Banana S.A.; 10|Ana; 1|Zulema");
 }
 
 TEST_P(Catalogos, AWriteThatTheDiskRefusesIsToldAndLeavesEverythingAsTyped) {
-    TresFilas();
-    for (const char *orden : {"INSERT", "UPDATE", "DELETE"}) {
-        const std::string tabla = GetParam().tabla;
-        const std::string esquema = tabla.substr(0, tabla.find('.'));
-        mundo_.datos.Ejecutar(("CREATE TRIGGER " + esquema + ".no" + orden + " BEFORE " + orden + " ON " +
-                               tabla.substr(tabla.find('.') + 1) + " BEGIN SELECT RAISE(ABORT,'prueba'); END")
-                                  .c_str());
-    }
+    const std::string tabla = GetParam().tabla;
+    const std::size_t punto = tabla.find('.');
+    Insertar({{"1", "Zulema"}, {"2", "Ana"}});
+    for (const std::string orden : {"INSERT", "UPDATE", "DELETE"})
+        mundo.datos.Ejecutar("CREATE TRIGGER " + tabla.substr(0, punto) + ".no" + orden + " BEFORE " + orden +
+                             " ON " + tabla.substr(punto + 1) + " BEGIN SELECT RAISE(ABORT,'prueba'); END");
     Abrir();
-    const QString aviso = u"No se pudo escribir en la base de datos: prueba."_qs;
-    Teclear(C("txtCodigo"), u"5"_qs);
-    Confirmar("modificar", Respuesta::Si);
-    mundo_.preguntas.EsperaMensaje(aviso, Icono::Critico);
-    Click("cmdGuardar");
-    EXPECT_EQ(C("txtCodigo")->text(), u"5"_qs);
-    Confirmar("eliminar", Respuesta::Si);
-    mundo_.preguntas.EsperaMensaje(aviso, Icono::Critico);
-    Click("cmdEliminar");
-    Click("cmdNuevo");
-    Teclear(C("txtCodigo"), u"6"_qs);
-    Teclear(C("txtNombre"), u"Seis"_qs);
-    mundo_.preguntas.EsperaMensaje(aviso, Icono::Critico);
-    Click("cmdGuardar");
-    EXPECT_EQ(C("txtNombre")->text(), u"Seis"_qs);
-    EXPECT_TRUE(ventana_->EntradaEnCurso());
-    EXPECT_EQ(Codigos(), QStringList({u"1"_qs, u"10"_qs, u"2"_qs}));
-    EXPECT_EQ(Tabla().size(), 3U);
+    const auto rechaza = [this](const char *boton) {
+        mundo.preguntas.EsperaFalla(u"No se pudo escribir en la base de datos: prueba."_qs);
+        Clic(boton);
+    };
+    Teclear(Campo("txtCodigo"), u"5"_qs);
+    Confirmar("modificar", Si);
+    rechaza("cmdGuardar");
+    EXPECT_EQ(Texto("txtCodigo"), u"5");
+    Confirmar("eliminar", Si);
+    rechaza("cmdEliminar");
+    Clic("cmdNuevo");
+    Teclear(Campo("txtCodigo"), u"6"_qs);
+    Teclear(Campo("txtNombre"), u"Seis"_qs);
+    rechaza("cmdGuardar");
+    EXPECT_EQ(Texto("txtNombre"), u"Seis");
+    EXPECT_TRUE(ventana->EntradaEnCurso());
+    EXPECT_EQ(Codigos(), u"1|2");
+    EXPECT_EQ(Tabla(), u"1|Zulema; 2|Ana");
 }
 
 TEST_P(Catalogos, PrintsTheRowsOnScreenAfterAQuestion) {
-    TresFilas();
-    Abrir();
-    mundo_.preguntas.Espera(QString::fromUtf8(GetParam().pregunta), Respuesta::Si, Respuesta::Si);
-    Click("cmdImprimir");
-    ASSERT_EQ(mundo_.impresoras.documentos.size(), 1U);
-    const QString papel = mundo_.impresoras.documentos[0]->Lineas().join(u'\n');
-    EXPECT_LT(papel.indexOf(u"Zulema"_qs), papel.indexOf(u"Banana"_qs));
+    AbrirConTresFilas();
+    mundo.preguntas.Espera(QString::fromUtf8(GetParam().pregunta), Si, Si);
+    Clic("cmdImprimir");
+    const QString papel = mundo.impresoras.Papel();
+    EXPECT_LT(papel.indexOf(u"Zulema"), papel.indexOf(u"Banana"));
 }
 
 } // namespace

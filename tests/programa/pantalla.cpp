@@ -12,9 +12,8 @@ QByteArray Ejecutar(const QString &orden, const QStringList &argumentos, bool pu
     proceso.start(orden, argumentos);
     const bool bien = proceso.waitForFinished(kEspera) && proceso.exitCode() == 0;
     if (!bien && !puedeFallar)
-        throw std::runtime_error(
-            (orden + QLatin1Char(' ') + argumentos.join(QLatin1Char(' '))).toStdString() + ": " +
-            proceso.readAllStandardError().toStdString());
+        throw std::runtime_error((orden + u' ' + argumentos.join(u' ')).toStdString() + ": " +
+                                 proceso.readAllStandardError().toStdString());
     return proceso.readAllStandardOutput();
 }
 
@@ -24,14 +23,12 @@ void Esperar(const char *que, const std::function<bool()> &cumple) {
 }
 
 Pantalla::Pantalla() {
-    const QString numero = registros_.filePath(QStringLiteral("numero"));
+    const QString numero = registros_.filePath(u"numero"_qs);
     servidor_.setStandardOutputFile(numero);
     servidor_.setStandardErrorFile(QProcess::nullDevice());
     // A server that resets itself when its first client leaves would take the window manager along.
-    servidor_.start(QStringLiteral("Xvfb"),
-                    {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
-                     QStringLiteral("0"), QStringLiteral("1280x900x24"), QStringLiteral("-noreset"),
-                     QStringLiteral("-nolisten"), QStringLiteral("tcp")});
+    servidor_.start(u"Xvfb"_qs, {u"-displayfd"_qs, u"1"_qs, u"-screen"_qs, u"0"_qs, u"1280x900x24"_qs,
+                                 u"-noreset"_qs, u"-nolisten"_qs, u"tcp"_qs});
     QByteArray leido;
     Esperar("display number of the X server", [&] {
         QFile archivo(numero);
@@ -41,10 +38,9 @@ Pantalla::Pantalla() {
     });
     qputenv("DISPLAY", ":" + leido.trimmed());
     gestor_.setStandardErrorFile(QProcess::nullDevice());
-    gestor_.start(QStringLiteral("openbox"), {QStringLiteral("--sm-disable")});
+    gestor_.start(u"openbox"_qs, {u"--sm-disable"_qs});
     Esperar("window manager", [] {
-        return Ejecutar(QStringLiteral("xprop"),
-                        {QStringLiteral("-root"), QStringLiteral("_NET_SUPPORTING_WM_CHECK")}, true)
+        return Ejecutar(u"xprop"_qs, {u"-root"_qs, u"_NET_SUPPORTING_WM_CHECK"_qs}, true)
             .contains("window id");
     });
 }

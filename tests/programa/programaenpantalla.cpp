@@ -1,7 +1,6 @@
 #include "programa/programaenpantalla.h"
 
 #include <SQLiteCpp/SQLiteCpp.h>
-#include <gtest/gtest.h>
 
 #include <QDir>
 #include <QFile>
@@ -13,12 +12,11 @@
 namespace tarvo {
 
 namespace {
-const QString kTeclado = QStringLiteral("xdotool");
+const QString kTeclado = u"xdotool"_qs;
 
 // The splash is 264 pixels high and messages are lower, however long their text.
 bool EsPrincipal(const QString &ventana) {
-    const QByteArray medidas =
-        Ejecutar(kTeclado, {QStringLiteral("getwindowgeometry"), QStringLiteral("--shell"), ventana}, true);
+    const QByteArray medidas = Ejecutar(kTeclado, {u"getwindowgeometry"_qs, u"--shell"_qs, ventana}, true);
     const qsizetype lugar = medidas.indexOf("HEIGHT=");
     return lugar >= 0 && medidas.mid(lugar + 7, medidas.indexOf('\n', lugar) - lugar - 7).toInt() >= 450;
 }
@@ -27,7 +25,7 @@ bool EsPrincipal(const QString &ventana) {
 Carpeta::Carpeta() {
     if (!QFile::copy(QStringLiteral(TARVO_PROGRAMA), Ruta("tarvo")))
         throw std::runtime_error("no copy of the program");
-    QDir(Raiz()).mkdir(QStringLiteral("sesion"));
+    QDir(Raiz()).mkdir(u"sesion"_qs);
     QFile::setPermissions(Ruta("sesion"), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
 }
 
@@ -50,12 +48,12 @@ std::string Carpeta::Valor(const char *archivo, const char *consulta) const {
 
 ProgramaEnPantalla::ProgramaEnPantalla(const Carpeta &carpeta, const QStringList &argumentos) {
     QProcessEnvironment entorno = QProcessEnvironment::systemEnvironment();
-    entorno.insert(QStringLiteral("XDG_CONFIG_HOME"), carpeta.Ruta("ajustes"));
-    entorno.insert(QStringLiteral("XDG_DATA_HOME"), carpeta.Ruta("usuario"));
-    entorno.insert(QStringLiteral("XDG_RUNTIME_DIR"), carpeta.Ruta("sesion"));
+    entorno.insert(u"XDG_CONFIG_HOME"_qs, carpeta.Ruta("ajustes"));
+    entorno.insert(u"XDG_DATA_HOME"_qs, carpeta.Ruta("usuario"));
+    entorno.insert(u"XDG_RUNTIME_DIR"_qs, carpeta.Ruta("sesion"));
     // Under the sanitizers: the session bus library keeps memory to the end of every process.
-    entorno.insert(QStringLiteral("ASAN_OPTIONS"), QStringLiteral("detect_leaks=0"));
-    entorno.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("xcb"));
+    entorno.insert(u"ASAN_OPTIONS"_qs, u"detect_leaks=0"_qs);
+    entorno.insert(u"QT_QPA_PLATFORM"_qs, u"xcb"_qs);
     proceso_.setProcessEnvironment(entorno);
     proceso_.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     proceso_.start(carpeta.Ruta("tarvo"), argumentos);
@@ -72,13 +70,11 @@ ProgramaEnPantalla::~ProgramaEnPantalla() {
 }
 
 QStringList ProgramaEnPantalla::VentanasVisibles() const {
-    const QByteArray salida =
-        Ejecutar(kTeclado,
-                 {QStringLiteral("search"), QStringLiteral("--all"), QStringLiteral("--onlyvisible"),
-                  QStringLiteral("--pid"), QString::number(proceso_.processId()), QStringLiteral("--name"),
-                  QStringLiteral(".")},
-                 true);
-    return QString::fromLatin1(salida).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    const QByteArray salida = Ejecutar(kTeclado,
+                                       {u"search"_qs, u"--all"_qs, u"--onlyvisible"_qs, u"--pid"_qs,
+                                        QString::number(proceso_.processId()), u"--name"_qs, u"."_qs},
+                                       true);
+    return QString::fromLatin1(salida).split(u'\n', Qt::SkipEmptyParts);
 }
 
 QString ProgramaEnPantalla::BuscarPrincipal() const {
@@ -88,7 +84,7 @@ QString ProgramaEnPantalla::BuscarPrincipal() const {
 }
 
 QString ProgramaEnPantalla::Activa() const {
-    return QString::fromLatin1(Ejecutar(kTeclado, {QStringLiteral("getactivewindow")}, true)).trimmed();
+    return QString::fromLatin1(Ejecutar(kTeclado, {u"getactivewindow"_qs}, true)).trimmed();
 }
 
 void ProgramaEnPantalla::EsperarPrincipal() {
@@ -113,30 +109,28 @@ void ProgramaEnPantalla::EsperarVuelta() {
     Esperar("main window with the keyboard", [this] { return Activa() == principal_; });
 }
 
-void ProgramaEnPantalla::Teclas(const QStringList &teclas) {
-    Ejecutar(kTeclado,
-             QStringList{QStringLiteral("key"), QStringLiteral("--delay"), QStringLiteral("25")} + teclas);
+void ProgramaEnPantalla::Teclas(const char *teclas, int veces) {
+    QStringList argumentos{u"key"_qs, u"--delay"_qs, u"25"_qs};
+    for (int vez = 0; vez < veces; ++vez)
+        argumentos += QString::fromLatin1(teclas).split(u' ');
+    Ejecutar(kTeclado, argumentos);
 }
 
-void ProgramaEnPantalla::Escribir(const QString &texto) {
-    Ejecutar(kTeclado, {QStringLiteral("type"), QStringLiteral("--delay"), QStringLiteral("15"), texto});
+void ProgramaEnPantalla::Escribir(const char *texto) {
+    Ejecutar(kTeclado, {u"type"_qs, u"--delay"_qs, u"15"_qs, QString::fromUtf8(texto)});
 }
 
 void ProgramaEnPantalla::Escanear(const std::string &codigo) {
-    const QString sinDemora = QStringLiteral("0");
+    const QString sinDemora = u"0"_qs;
     Ejecutar(kTeclado,
-             {QStringLiteral("type"), QStringLiteral("--args"), QStringLiteral("1"),
-              QStringLiteral("--delay"), sinDemora, QString::fromStdString(codigo), QStringLiteral("key"),
-              QStringLiteral("--delay"), sinDemora, QStringLiteral("Return"), QStringLiteral("Return")});
+             {u"type"_qs, u"--args"_qs, u"1"_qs, u"--delay"_qs, sinDemora, QString::fromStdString(codigo),
+              u"key"_qs, u"--delay"_qs, sinDemora, u"Return"_qs, u"Return"_qs});
 }
 
 void ProgramaEnPantalla::FotoDeFallo() const {
     if (!testing::Test::HasFailure() && std::uncaught_exceptions() == 0)
         return;
-    Ejecutar(QStringLiteral("import"),
-             {QStringLiteral("-window"), QStringLiteral("root"),
-              QStringLiteral("fallo-%1.png").arg(proceso_.processId())},
-             true);
+    Ejecutar(u"import"_qs, {u"-window"_qs, u"root"_qs, u"fallo-%1.png"_qs.arg(proceso_.processId())}, true);
 }
 
 int ProgramaEnPantalla::CodigoSalida() {
@@ -151,7 +145,7 @@ void ProgramaEnPantalla::Matar() {
 }
 
 void ProgramaEnPantalla::Cerrar() {
-    Teclas({QStringLiteral("alt+F4")});
+    Teclas("alt+F4");
     CodigoSalida();
 }
 

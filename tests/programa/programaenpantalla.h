@@ -4,7 +4,7 @@
 
 #include "programa/pantalla.h"
 
-#include <QProcess>
+#include <gtest/gtest.h>
 
 #include <string>
 #include <vector>
@@ -26,7 +26,7 @@ class Carpeta {
 };
 
 // Arguments of a start without the splash.
-inline const QStringList kDirecto{QStringLiteral("--directo")};
+inline const QStringList kDirecto{u"--directo"_qs};
 
 class ProgramaEnPantalla {
   public:
@@ -43,9 +43,9 @@ class ProgramaEnPantalla {
     void EsperarCuadro();
     // Until the main window has the keyboard again.
     void EsperarVuelta();
-    // Keys by their X names, in turn.
-    void Teclas(const QStringList &teclas);
-    void Escribir(const QString &texto);
+    // Keys by their X names with blanks between them, all of them that often.
+    void Teclas(const char *teclas, int veces = 1);
+    void Escribir(const char *texto);
     // What a barcode scanner sends, and the Enter that adds the article, all at once.
     void Escanear(const std::string &codigo);
 
@@ -66,6 +66,13 @@ class ProgramaEnPantalla {
     QProcess proceso_;
     QString principal_;
     QString cuadro_;
+};
+
+// The world of a whole-program test: a screen, and a folder with the program.
+class MundoPrograma : public testing::Test {
+  protected:
+    Pantalla pantalla_;
+    Carpeta carpeta_;
 };
 
 } // namespace tarvo

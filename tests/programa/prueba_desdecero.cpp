@@ -1,49 +1,47 @@
 // A shop from nothing: everything that a first sale needs is typed by keys into the windows, and is found in
 // the files.
-#include "programa/mundoprograma.h"
 #include "programa/ventaporteclas.h"
 
-using namespace tarvo;
-
+namespace tarvo {
 namespace {
 
 // Types the values, each ended by Enter; an empty one leaves its field as it is. "^" and a key name press
 // that key instead of typing.
 void Llenar(ProgramaEnPantalla &programa, const std::vector<const char *> &valores) {
     for (const char *valor : valores) {
-        const QString texto = k(valor);
-        if (texto.startsWith(QLatin1Char('^')))
-            programa.Teclas({texto.mid(1)});
-        else if (!texto.isEmpty())
-            programa.Escribir(texto);
-        programa.Teclas({k("Return")});
+        if (*valor == '^')
+            programa.Teclas(valor + 1);
+        else if (*valor != '\0')
+            programa.Escribir(valor);
+        programa.Teclas("Return");
     }
 }
 
 // In a panel of the options: from the code past `campos` fields to the button that starts a new row.
 void NuevaFila(ProgramaEnPantalla &programa, int campos) {
-    programa.Teclas({k("alt+c")});
-    programa.Teclas(QStringList(campos, k("Tab")));
-    programa.Teclas({k("space")});
+    programa.Teclas("alt+c");
+    programa.Teclas("Tab", campos);
+    programa.Teclas("space");
 }
 
 // In an empty window the fields are off: the button that starts a new row comes right behind the list.
 void AbrirYEmpezar(ProgramaEnPantalla &programa, const char *tecla) {
-    programa.Teclas({k(tecla), k("Tab"), k("space")});
+    programa.Teclas(tecla);
+    programa.Teclas("Tab space");
 }
 
 void Configurar(ProgramaEnPantalla &programa) {
-    programa.Teclas({k("F9")});
+    programa.Teclas("F9");
     programa.EsperarCuadro();
     NuevaFila(programa, 3);
     Llenar(programa, {"7", "Especial", "12"});
-    programa.Teclas({k("space"), k("shift+Tab"), k("Down")}); // from the list to the next node of the tree
+    programa.Teclas("space shift+Tab Down"); // from the list to the next node of the tree
     NuevaFila(programa, 2);
     Llenar(programa, {"5", "Bebidas"});
-    programa.Teclas({k("shift+Tab"), k("Down")});
+    programa.Teclas("shift+Tab Down");
     NuevaFila(programa, 7);
     Llenar(programa, {"9", "Eva Gil", "", "", "", "", ""});
-    programa.Teclas({k("space"), k("Escape")});
+    programa.Teclas("space Escape");
     programa.EsperarVuelta();
 }
 
@@ -51,10 +49,10 @@ void Configurar(ProgramaEnPantalla &programa) {
 void CargarProveedorYCliente(ProgramaEnPantalla &programa) {
     AbrirYEmpezar(programa, "F3");
     Llenar(programa, {"P1", "Campo S.A.", "", "", "", "", "", ""});
-    programa.Teclas({k("space")});
+    programa.Teclas("space");
     AbrirYEmpezar(programa, "F4");
     Llenar(programa, {"C1", "Sur S.L.", "Sur S.L.", "30-71234567-1", "", "", "", "", "", "", "", "", "", ""});
-    programa.Teclas({k("space")});
+    programa.Teclas("space");
 }
 
 // A saved article is followed by the next new one, until Escape.
@@ -62,23 +60,21 @@ void CargarArticulos(ProgramaEnPantalla &programa) {
     AbrirYEmpezar(programa, "F2");
     Llenar(programa,
            {"A1", "7790001000011", "Agua 1 l", "", "botella", "^End", "4,5", "10", "^End", "^Down", "8", ""});
-    programa.Teclas({k("space")});
+    programa.Teclas("space");
     Llenar(programa,
            {"A2", "7790001000028", "Vino tinto", "", "", "^End", "", "25.50", "^Home", "^Down", "3", ""});
-    programa.Teclas({k("space"), k("Escape")});
+    programa.Teclas("space Escape");
 }
 
 void Vender(ProgramaEnPantalla &programa) {
-    programa.Teclas({k("F8")});
+    programa.Teclas("F8");
     programa.Escanear("7790001000011");
     programa.Escanear("7790001000028");
     programa.Escanear("7790001000028");
     ElegirCliente(programa, "sur");
-    programa.Teclas({k("alt+d"), k("shift+Tab"), k("End")});
+    programa.Teclas("alt+d shift+Tab End");
     EmitirConTicket(programa);
 }
-
-} // namespace
 
 class DesdeCero : public MundoPrograma {};
 
@@ -113,3 +109,6 @@ TEST_F(DesdeCero, WhatIsTypedIntoTheWindowsIsSoldAndIsInTheFiles) {
         carpeta_.Filas("ventas.mdb", "SELECT idcliente, idoperador, tipo, subtotal, iva, total FROM Ventas"),
         (Filas{{"1", vendedor, "Contado", "$ 61,00", "$ 11,91", "$ 72,91"}}));
 }
+
+} // namespace
+} // namespace tarvo

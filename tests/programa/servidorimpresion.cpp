@@ -46,12 +46,12 @@ bool EscribirControlador(const QString &ruta) {
     if (!original.open(QIODevice::ReadOnly))
         return false;
     Escribir(ruta, QString::fromUtf8(original.readAll()) +
-                       QStringLiteral("*cupsFilter2: \"application/vnd.cups-pdf application/pdf 0 -\"\n"));
+                       u"*cupsFilter2: \"application/vnd.cups-pdf application/pdf 0 -\"\n"_qs);
     return true;
 }
 
 bool Responde() {
-    return Ejecutar(QStringLiteral("lpstat"), {QStringLiteral("-r")}, true).contains("is running");
+    return Ejecutar(u"lpstat"_qs, {u"-r"_qs}, true).contains("is running");
 }
 
 } // namespace
@@ -60,9 +60,8 @@ ServidorImpresion::ServidorImpresion() {
     qputenv("CUPS_SERVER", Ruta("cups.sock").toUtf8());
     Configurar();
     cupsd_.setStandardErrorFile(QProcess::nullDevice());
-    cupsd_.start(QStringLiteral("/usr/sbin/cupsd"),
-                 {QStringLiteral("-f"), QStringLiteral("-c"), Ruta("raiz/cupsd.conf"), QStringLiteral("-s"),
-                  Ruta("raiz/cups-files.conf")});
+    cupsd_.start(u"/usr/sbin/cupsd"_qs,
+                 {u"-f"_qs, u"-c"_qs, Ruta("raiz/cupsd.conf"), u"-s"_qs, Ruta("raiz/cups-files.conf")});
     constexpr int kArranque = 5000;
     anda_ = cupsd_.waitForStarted() && QTest::qWaitFor(Responde, kArranque) && Instalar();
 }
@@ -86,14 +85,13 @@ void ServidorImpresion::Configurar() const {
 bool ServidorImpresion::Instalar() const {
     if (!EscribirControlador(Ruta("controlador.ppd")))
         return false;
-    const QString nombre = QStringLiteral("Mostrador");
-    Ejecutar(QStringLiteral("lpadmin"),
-             {QStringLiteral("-p"), nombre, QStringLiteral("-E"), QStringLiteral("-P"),
-              Ruta("controlador.ppd"), QStringLiteral("-v"),
-              QStringLiteral("file:") + Ruta("papel/hoja.pdf")},
+    const QString nombre = u"Mostrador"_qs;
+    Ejecutar(u"lpadmin"_qs,
+             {u"-p"_qs, nombre, u"-E"_qs, u"-P"_qs, Ruta("controlador.ppd"), u"-v"_qs,
+              u"file:"_qs + Ruta("papel/hoja.pdf")},
              true);
-    Ejecutar(QStringLiteral("lpadmin"), {QStringLiteral("-d"), nombre}, true);
-    return Ejecutar(QStringLiteral("lpstat"), {QStringLiteral("-d")}, true).contains("Mostrador");
+    Ejecutar(u"lpadmin"_qs, {u"-d"_qs, nombre}, true);
+    return Ejecutar(u"lpstat"_qs, {u"-d"_qs}, true).contains("Mostrador");
 }
 
 QString ServidorImpresion::Texto() const {
@@ -101,9 +99,7 @@ QString ServidorImpresion::Texto() const {
         QFile papel(Ruta("papel/hoja.pdf"));
         return papel.open(QIODevice::ReadOnly) && papel.readAll().trimmed().endsWith("%%EOF");
     });
-    return QString::fromUtf8(
-        Ejecutar(QStringLiteral("pdftotext"),
-                 {QStringLiteral("-layout"), Ruta("papel/hoja.pdf"), QStringLiteral("-")}));
+    return QString::fromUtf8(Ejecutar(u"pdftotext"_qs, {u"-layout"_qs, Ruta("papel/hoja.pdf"), u"-"_qs}));
 }
 
 } // namespace tarvo

@@ -5,33 +5,29 @@
 
 namespace tarvo {
 
-inline QString k(const char *texto) {
-    return QString::fromUtf8(texto);
-}
-
 // From the search field, in an open sale: the first customer whose name has `nombre` in it. Back in the
 // search field.
 inline void ElegirCliente(ProgramaEnPantalla &programa, const char *nombre) {
-    programa.Teclas(QStringList(7, k("Tab")));
-    programa.Teclas({k("space")});
-    programa.Escribir(k(nombre));
-    programa.Teclas({k("Return"), k("Tab"), k("Tab"), k("Tab"), k("space")});
+    programa.Teclas("Tab", 7);
+    programa.Teclas("space");
+    programa.Escribir(nombre);
+    programa.Teclas("Return Tab Tab Tab space");
 }
 
 // From anywhere in the sale: the question that confirms the issue is on screen.
 inline void PedirEmision(ProgramaEnPantalla &programa) {
-    programa.Teclas({k("ctrl+Return")});
+    programa.Teclas("ctrl+Return");
     programa.EsperarCuadro();
 }
 
 // The issue to its end, with the ticket.
 inline void EmitirConTicket(ProgramaEnPantalla &programa) {
     PedirEmision(programa);
-    programa.Teclas({k("Return")});
+    programa.Teclas("Return");
     programa.EsperarCuadro(); // ticket?
-    programa.Teclas({k("Return")});
+    programa.Teclas("Return");
     programa.EsperarCuadro(); // success
-    programa.Teclas({k("Return")});
+    programa.Teclas("Return");
     programa.EsperarVuelta();
 }
 

@@ -16,11 +16,17 @@ inline constexpr const char *kTienda =
     "('C1','Ñandú S.A.','4444','30-71234567-1'),('C2','Juan','5555','');";
 
 inline void CobrarImpuesto(DatosPrueba &datos, const char *sobreIva, const char *existeIFiscal) {
-    const std::string sql =
+    datos.Ejecutar(
         std::string(
             "UPDATE main.Impuesto SET utilizar='Si', nombre='Percepción', porcentaje='3', sobreiva='") +
-        sobreIva + "', existeifiscal='" + existeIFiscal + "'";
-    datos.Ejecutar(sql.c_str());
+        sobreIva + "', existeifiscal='" + existeIFiscal + "'");
+}
+
+// The questions of an issue that is confirmed, and its good news.
+inline void EsperaEmision(PreguntasGuion &preguntas, Respuesta ticket) {
+    preguntas.Espera(u"Confirma la emisión de la factura?"_qs, Si, Si);
+    preguntas.Espera(u"Desea imprimir el ticket?"_qs, Si, ticket);
+    preguntas.EsperaMensaje(u"La venta se realizó con exito."_qs);
 }
 
 } // namespace tarvo

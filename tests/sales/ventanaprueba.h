@@ -3,30 +3,19 @@
 
 #include "tiendaprueba.h"
 
-#include "desktop/ventanas/listavista.h"
 #include "sales/ultimocomprobante.h"
 #include "sales/ventanas/frmventas.h"
-#include "testkit/anfitrionprueba.h"
-
-#include <QAction>
-#include <QCheckBox>
-#include <QClipboard>
-#include <QComboBox>
-#include <QFrame>
-#include <QLabel>
-#include <QLineEdit>
-#include <QMenu>
-#include <QPushButton>
-#include <QTimer>
-#include <QToolBar>
+#include "testkit/conventana.h"
 
 namespace tarvo {
 
-inline const QString kFinal = QStringLiteral("La búsqueda ha finalizado.");
+inline const QString kFinal = u"La búsqueda ha finalizado."_qs;
+inline const QString kNuevaVenta = u"Está seguro de querer comenzar una nueva venta?"_qs;
 
-class VentanaVentas : public ::testing::Test {
+class VentanaVentas : public ConVentana<FrmVentas> {
   protected:
     VentanaVentas() { mundo.datos.Ejecutar(kTienda); }
+    ~VentanaVentas() override { ventana.reset(); } // before the document that it shows
 
     void Abrir() {
         ventana = std::make_unique<FrmVentas>(mundo.servicios(), anfitrion, Ultimo(), nullptr);
@@ -39,18 +28,6 @@ class VentanaVentas : public ::testing::Test {
             ultimo = std::make_unique<UltimoComprobante>(mundo.servicios());
         return *ultimo;
     }
-    template <typename T> T *C(const char *nombre) { return Control<T>(*ventana, nombre); }
-    QLineEdit *Campo(const char *nombre) { return C<QLineEdit>(nombre); }
-    ListaVista *Lista(const char *nombre) { return C<ListaVista>(nombre); }
-    QString Texto(const char *etiqueta) { return C<QLabel>(etiqueta)->text(); }
-    bool Se(const char *nombre) { return C<QWidget>(nombre)->isVisible(); }
-    void Clic(const char *boton) { Pulsar(C<QWidget>(boton)); }
-    // Keys go to whatever has the focus, as from a keyboard.
-    void Teclas(const QString &texto) {
-        for (const QChar letra : texto)
-            QTest::keyClick(QApplication::focusWidget(), letra.toLatin1());
-    }
-    void Entrar() { QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return); }
     void Escanear(const char *codigo) {
         Teclas(QLatin1String(codigo));
         Entrar();
@@ -58,14 +35,16 @@ class VentanaVentas : public ::testing::Test {
     }
     QString Linea(int fila, int columna) { return Lista("LVDetalle")->Lista()->Celda(fila, columna); }
     int Lineas() { return Lista("LVDetalle")->Lista()->Filas(); }
-    void Modo(const char *barra, const char *clave) {
-        Control<QAction>(*C<QToolBar>(barra), clave)->trigger();
-    }
+    QString Stock(int fila) { return Lista("LVArticulos")->Lista()->Celda(fila, articulo::Stock); }
+    QAction *Accion(const char *clave) { return Control<QAction>(*C<QToolBar>("tbrControles"), clave); }
+    void EsperaNuevaVenta(Respuesta respuesta) { mundo.preguntas.Espera(kNuevaVenta, No, respuesta); }
 
-    MundoPrueba mundo;
-    AnfitrionPrueba anfitrion;
     std::unique_ptr<UltimoComprobante> ultimo;
-    std::unique_ptr<FrmVentas> ventana;
+};
+
+class VentaAbierta : public VentanaVentas {
+  protected:
+    void SetUp() override { Abrir(); }
 };
 
 } // namespace tarvo

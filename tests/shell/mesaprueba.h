@@ -3,11 +3,13 @@
 #pragma once
 
 #include "shell/conmutador.h"
+#include "testkit/preguntasguion.h"
 
 #include <QSet>
 #include <QStringList>
 
 #include <algorithm>
+#include <map>
 #include <stdexcept>
 
 namespace tarvo {
@@ -28,7 +30,7 @@ inline QString Boton(Modulo modulo) {
 inline QString Junta(const QSet<QString> &claves) {
     QStringList lista(claves.begin(), claves.end());
     std::sort(lista.begin(), lista.end());
-    return lista.join(QLatin1Char(' '));
+    return lista.join(u' ');
 }
 
 class MesaPrueba : public TableroModulos, public VentanasModulos, public Preguntas {
@@ -36,7 +38,7 @@ class MesaPrueba : public TableroModulos, public VentanasModulos, public Pregunt
     QSet<QString> marcadas, presionados, abiertas, conEntrada;
     QStringList hechos; // "+ventas" and "-ventas" buttons, "abre ventas", "cierra ventas", ...
     QStringList preguntadas;
-    Respuesta respuesta = Respuesta::No;
+    Respuesta respuesta = No;
     int ticksPedidos = 0;
     bool fallaMostrar = false;
     Conmutador conmutador{*this, *this, *this};
@@ -51,21 +53,14 @@ class MesaPrueba : public TableroModulos, public VentanasModulos, public Pregunt
     }
 
     void PorTecla(Modulo modulo) {
-        using enum Modulo;
-        switch (modulo) {
-        case Ventas:
-            return conmutador.mnuVentas();
-        case Articulos:
-            return conmutador.mnuArticulos();
-        case Clientes:
-            return conmutador.mnuClientes();
-        case Proveedores:
-            return conmutador.mnuProveedores();
-        case Estados:
-            return conmutador.mnuEstadosClientes();
-        case Stats:
-            return conmutador.mnuStats();
-        }
+        static const std::map<Modulo, void (Conmutador::*)()> manejadores{
+            {Modulo::Ventas, &Conmutador::mnuVentas},
+            {Modulo::Articulos, &Conmutador::mnuArticulos},
+            {Modulo::Clientes, &Conmutador::mnuClientes},
+            {Modulo::Proveedores, &Conmutador::mnuProveedores},
+            {Modulo::Estados, &Conmutador::mnuEstadosClientes},
+            {Modulo::Stats, &Conmutador::mnuStats}};
+        (conmutador.*manejadores.at(modulo))();
     }
     // A click has toggled the button before the handler runs.
     void PorClic(Modulo modulo) {
@@ -85,7 +80,7 @@ class MesaPrueba : public TableroModulos, public VentanasModulos, public Pregunt
     bool BotonPresionado(Entrada entrada) const override { return presionados.contains(Boton(entrada)); }
     void PresionarBoton(Entrada entrada, bool valor) override {
         const QString boton = Boton(entrada);
-        hechos += (valor ? QLatin1Char('+') : QLatin1Char('-')) + boton;
+        hechos += (valor ? u'+' : u'-') + boton;
         valor ? presionados += boton : presionados -= boton;
     }
     void IniciarTimer1() override { ticksPedidos = 1; }
@@ -95,7 +90,7 @@ class MesaPrueba : public TableroModulos, public VentanasModulos, public Pregunt
         if (fallaMostrar)
             throw std::runtime_error("no window");
         abiertas += Clave(modulo);
-        hechos += QStringLiteral("abre ") + Clave(modulo);
+        hechos += u"abre "_qs + Clave(modulo);
     }
     void Cerrar(Modulo modulo) override {
         const QString clave = Clave(modulo);
@@ -103,19 +98,19 @@ class MesaPrueba : public TableroModulos, public VentanasModulos, public Pregunt
             return;
         abiertas -= clave;
         conEntrada -= clave;
-        hechos += QStringLiteral("cierra ") + clave;
+        hechos += u"cierra "_qs + clave;
     }
     void MostrarOpciones(bool abrirDisenador) override {
-        hechos += abrirDisenador ? QStringLiteral("opciones y diseñador") : QStringLiteral("opciones");
+        hechos += abrirDisenador ? u"opciones y diseñador"_qs : u"opciones"_qs;
     }
-    void MostrarRespaldo() override { hechos += QStringLiteral("respaldo"); }
-    void EjecutarContado() override { hechos += QStringLiteral("contado"); }
-    void EjecutarPorCliente() override { hechos += QStringLiteral("por cliente"); }
-    void MostrarCalculadora() override { hechos += QStringLiteral("abre calculadora"); }
-    void CerrarCalculadora() override { hechos += QStringLiteral("cierra calculadora"); }
+    void MostrarRespaldo() override { hechos += u"respaldo"_qs; }
+    void EjecutarContado() override { hechos += u"contado"_qs; }
+    void EjecutarPorCliente() override { hechos += u"por cliente"_qs; }
+    void MostrarCalculadora() override { hechos += u"abre calculadora"_qs; }
+    void CerrarCalculadora() override { hechos += u"cierra calculadora"_qs; }
 
     Respuesta Preguntar(const QString &texto, Respuesta preseleccionada) override {
-        if (preseleccionada != Respuesta::No)
+        if (preseleccionada != No)
             throw std::logic_error("No is the preselected answer of every question");
         preguntadas += texto;
         return respuesta;

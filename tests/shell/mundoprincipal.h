@@ -1,20 +1,13 @@
 // The main window over modules that are made for the test.
 #pragma once
 
-#include "desktop/anfitrion.h"
 #include "desktop/ventanas/kitmenu.h"
 #include "desktop/ventanas/ventanamodulo.h"
 #include "shell/ventanas/composicion.h"
 #include "shell/ventanas/frmprincipal.h"
-#include "testkit/mundoprueba.h"
+#include "testkit/conventana.h"
 
-#include <QAction>
-#include <QLabel>
-#include <QLineEdit>
-#include <QToolBar>
 #include <QVBoxLayout>
-
-#include <memory>
 
 namespace tarvo {
 
@@ -24,18 +17,16 @@ class ModuloFalso : public VentanaModulo {
   public:
     ModuloFalso(Modulo modulo, Anfitrion &anfitrion, Preguntas &preguntas, QWidget *padre)
         : VentanaModulo(padre), preguntas_(preguntas) {
-        setObjectName(QStringLiteral("frm_") + DatosDe(DatosDe(modulo).entrada).clave.toString());
+        setObjectName(u"frm_"_qs + DatosDe(DatosDe(modulo).entrada).clave.toString());
         auto *campo = new QLineEdit(this);
-        campo->setObjectName(QStringLiteral("txtCampo"));
+        campo->setObjectName(u"txtCampo"_qs);
         (new QVBoxLayout(this))->addWidget(campo);
         campo->setFocus();
         anfitrion.PonerExportable(true);
-        anfitrion.Sugerencia(QStringLiteral("Pulse Enter"));
+        anfitrion.Sugerencia(u"Pulse Enter"_qs);
     }
     bool EntradaEnCurso() const override { return entrada; }
-    bool PermiteCerrarPrograma() override {
-        return !entrada || preguntas_.Confirma(QStringLiteral("Cerrar?"), Respuesta::No);
-    }
+    bool PermiteCerrarPrograma() override { return !entrada || preguntas_.Confirma(u"Cerrar?"_qs, No); }
     std::optional<Exportable> ParaExportar() const override { return Exportable{nullptr, objectName()}; }
     bool entrada = false;
 
@@ -43,66 +34,58 @@ class ModuloFalso : public VentanaModulo {
     Preguntas &preguntas_;
 };
 
-class MundoPrincipal : public ::testing::Test {
+class MundoPrincipal : public ConVentana<FrmPrincipal> {
   protected:
-    MundoPrueba mundo;
     Composicion composicion = Completa();
-    std::unique_ptr<FrmPrincipal> frm;
     QStringList hechos;
 
-    void SetUp() override { mundo.ajustes.clear(); }
-    void Abrir(int anchoPantalla = 19200) {
-        frm = std::make_unique<FrmPrincipal>(mundo.servicios(), composicion, mundo.datos.Carpeta());
-        frm->Presentar(anchoPantalla);
-        ASSERT_TRUE(QTest::qWaitForWindowActive(frm.get()));
+    ~MundoPrincipal() override { ventana.reset(); } // before what it is composed of
+    void Abrir() {
+        ventana = std::make_unique<FrmPrincipal>(mundo.servicios(), composicion, mundo.datos.Carpeta());
+        ventana->Presentar(19200);
+        ASSERT_TRUE(QTest::qWaitForWindowActive(ventana.get()));
     }
-
-    QAction *DeMenu(const char *clave) {
-        return AccionDe(Control<QWidget>(*frm, "mnuBarra"), QLatin1String(clave));
+    // A key of the window, whatever has the focus.
+    void Pide(Qt::Key tecla, Qt::KeyboardModifiers modificadores = Qt::NoModifier) {
+        Tecla(ventana.get(), tecla, modificadores);
     }
-    QAction *DeBarra(const char *clave) {
-        return AccionDe(Control<QWidget>(*frm, "tbrPrincipal"), QLatin1String(clave));
-    }
-    QWidget *Boton(const char *clave) {
-        return Control<QToolBar>(*frm, "tbrPrincipal")->widgetForAction(DeBarra(clave));
-    }
+    QAction *DeMenu(const char *clave) { return AccionDe(C("mnuBarra"), QLatin1String(clave)); }
+    QAction *DeBarra(const char *clave) { return AccionDe(C("tbrPrincipal"), QLatin1String(clave)); }
+    QWidget *Boton(const char *clave) { return C<QToolBar>("tbrPrincipal")->widgetForAction(DeBarra(clave)); }
+    ModuloFalso *Modulo_() { return ventana->findChild<ModuloFalso *>(); }
     // Key of the open module, as its window's name tells; empty when none is open.
-    QString Abierta() {
-        const auto *modulo = frm->findChild<ModuloFalso *>();
-        return modulo == nullptr ? QString() : modulo->objectName().mid(4);
-    }
-    ModuloFalso *Modulo_() { return frm->findChild<ModuloFalso *>(); }
+    QString Abierta() { return Modulo_() == nullptr ? QString() : Modulo_()->objectName().mid(4); }
     // Keys of the pressed buttons, in the order of the toolbar.
     QString Presionados() {
         QStringList claves;
-        for (const QAction *accion : Control<QToolBar>(*frm, "tbrPrincipal")->actions()) {
+        for (const QAction *accion : C("tbrPrincipal")->actions()) {
             if (accion->isChecked())
                 claves += accion->objectName();
         }
-        return claves.join(QLatin1Char(' '));
+        return claves.join(u' ');
     }
-    QString TextoEstado() { return Control<QLabel>(*frm, "separador")->text(); }
+    QString TextoEstado() { return Texto("separador"); }
 
   private:
     Composicion Completa() {
         Composicion todas;
         for (const Modulo modulo : kModulos) {
-            todas.modulos[modulo] = [this, modulo](Anfitrion &anfitrion, QWidget *padre) {
-                return new ModuloFalso(modulo, anfitrion, mundo.preguntas, padre);
+            todas.modulos[modulo] = [this, modulo](Anfitrion &principal, QWidget *padre) {
+                return new ModuloFalso(modulo, principal, mundo.preguntas, padre);
             };
         }
         todas.opciones = [this](bool disenador, QWidget *) {
-            hechos += disenador ? QStringLiteral("diseñador") : QStringLiteral("opciones");
+            hechos += disenador ? u"diseñador"_qs : u"opciones"_qs;
         };
         todas.disenador = true;
-        todas.respaldo = [this](QWidget *) { hechos += QStringLiteral("respaldo"); };
+        todas.respaldo = [this](QWidget *) { hechos += u"respaldo"_qs; };
         todas.calculadora = [](QWidget *padre) {
             auto *calculadora = new QWidget(padre, Qt::Tool);
-            calculadora->setObjectName(QStringLiteral("frmCalc"));
+            calculadora->setObjectName(u"frmCalc"_qs);
             return calculadora;
         };
-        todas.devContado = [this](VentanaModulo &) { hechos += QStringLiteral("contado"); };
-        todas.devCliente = [this](VentanaModulo &) { hechos += QStringLiteral("por cliente"); };
+        todas.devContado = [this](VentanaModulo &) { hechos += u"contado"_qs; };
+        todas.devCliente = [this](VentanaModulo &) { hechos += u"por cliente"_qs; };
         todas.exportar = [this](const Exportable &lista) { hechos += lista.nombre; };
         return todas;
     }

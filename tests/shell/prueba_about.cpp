@@ -4,10 +4,6 @@
 #include "testkit/mundoprueba.h"
 
 #include <QEnterEvent>
-#include <QSignalSpy>
-#include <QTimer>
-
-#include <gtest/gtest.h>
 
 namespace tarvo {
 namespace {

@@ -13,24 +13,19 @@ namespace tarvo {
 namespace {
 
 TEST(Medidas, WindowSizeFollowsTheScreenWidth) {
-    struct Caso {
-        int pixeles;
-        TamanoInicial esperado;
-    };
-    const Caso casos[] = {
+    const std::pair<int, TamanoInicial> casos[] = {
         {640, {std::nullopt, true}},          {639, {std::nullopt, false}},
         {800, {Tamano{9600, 7200}, true}},    {801, {std::nullopt, false}},
         {1023, {std::nullopt, false}},        {1024, {Tamano{12000, 9000}, false}},
-        {1280, {Tamano{12000, 9000}, false}}, {3840, {Tamano{12000, 9000}, false}},
-    };
-    for (const Caso &caso : casos)
-        EXPECT_EQ(TamanoPorPantalla(ATwips(caso.pixeles)), caso.esperado) << caso.pixeles;
+        {1280, {Tamano{12000, 9000}, false}}, {3840, {Tamano{12000, 9000}, false}}};
+    for (const auto &[pixeles, esperado] : casos)
+        EXPECT_EQ(TamanoPorPantalla(ATwips(pixeles)), esperado) << pixeles;
 }
 
 class AjustesTest : public ::testing::Test {
   protected:
     QTemporaryDir carpeta;
-    QSettings guardados{carpeta.filePath(QStringLiteral("a.ini")), QSettings::IniFormat};
+    QSettings guardados{carpeta.filePath(u"a.ini"_qs), QSettings::IniFormat};
     AjustesPrincipal ajustes{guardados};
 };
 
@@ -40,10 +35,10 @@ TEST_F(AjustesTest, BarsAreShownUnlessTheSettingSaysFalse) {
     ajustes.PonerBarHer(false);
     EXPECT_FALSE(ajustes.BarHer());
     EXPECT_TRUE(ajustes.BarEst());
-    EXPECT_EQ(guardados.value(QStringLiteral("BarHer")).toString(), QStringLiteral("False"));
+    EXPECT_EQ(guardados.value(u"BarHer"_qs).toString(), u"False");
     ajustes.PonerBarHer(true);
-    EXPECT_EQ(guardados.value(QStringLiteral("BarHer")).toString(), QStringLiteral("True"));
-    guardados.setValue(QStringLiteral("BarEst"), QStringLiteral("basura"));
+    EXPECT_EQ(guardados.value(u"BarHer"_qs).toString(), u"True");
+    guardados.setValue(u"BarEst"_qs, u"basura"_qs);
     EXPECT_TRUE(ajustes.BarEst());
 }
 
@@ -53,31 +48,30 @@ TEST_F(AjustesTest, WhatIsNotStoredOfTheWindowIsItsCurrentState) {
     const Geometria antes{kVentanaNormal, 150, -300, 11000, 8000};
     ajustes.PonerPantComp(antes);
     EXPECT_EQ(ajustes.PantComp(actual), antes);
-    guardados.setValue(QStringLiteral("PantCompW"), QStringLiteral("ancho"));
+    guardados.setValue(u"PantCompW"_qs, u"ancho"_qs);
     EXPECT_EQ(ajustes.PantComp(actual).ancho, actual.ancho);
 }
 
 TEST(Apertura, OnlyAPartialOpeningGivesAHint) {
     EXPECT_TRUE(AvisoApertura({}).isEmpty());
-    EXPECT_EQ(AvisoApertura(
-                  {EstadoApertura::Parcial, QStringLiteral("clientes.mdb"), QStringLiteral("está dañado.")}),
-              QStringLiteral("No se pudo abrir clientes.mdb: está dañado."));
-    EXPECT_EQ(AvisoApertura({EstadoApertura::Parcial, {}, QStringLiteral("el disco está lleno.")}),
-              QStringLiteral("No se pudieron abrir los datos: el disco está lleno."));
+    EXPECT_EQ(AvisoApertura({EstadoApertura::Parcial, u"clientes.mdb"_qs, u"está dañado."_qs}),
+              u"No se pudo abrir clientes.mdb: está dañado."_qs);
+    EXPECT_EQ(AvisoApertura({EstadoApertura::Parcial, {}, u"el disco está lleno."_qs}),
+              u"No se pudieron abrir los datos: el disco está lleno."_qs);
 }
 
 TEST(Apertura, DataThatLieElsewhereAreTold) {
     const QTemporaryDir programa;
     const QTemporaryDir medio;
-    const QString propia = programa.filePath(QStringLiteral("Datos"));
+    const QString propia = programa.filePath(u"Datos"_qs);
     QDir().mkdir(propia);
-    EXPECT_TRUE(AvisoLugar(propia, programa.path() + QStringLiteral("/.")).isEmpty());
-    const QString lejos = QStringLiteral("Datos en ") + QFileInfo(medio.path()).canonicalFilePath();
+    EXPECT_TRUE(AvisoLugar(propia, programa.path() + u"/."_qs).isEmpty());
+    const QString lejos = u"Datos en "_qs + QFileInfo(medio.path()).canonicalFilePath();
     EXPECT_EQ(AvisoLugar(medio.path(), programa.path()), lejos);
     QDir().rmdir(propia);
     QFile::link(medio.path(), propia);
     EXPECT_EQ(AvisoLugar(propia, programa.path()), lejos);
-    EXPECT_EQ(UnirAvisos({QString(), lejos, QStringLiteral("x")}), lejos + QStringLiteral("   x"));
+    EXPECT_EQ(UnirAvisos({QString(), lejos, u"x"_qs}), lejos + u"   x"_qs);
 }
 
 // Each message sets off another exception, as a window that can't be painted would.
@@ -103,8 +97,7 @@ TEST(AvisoFallas, TellsAnExceptionOnceAndGoesOn) {
         EXPECT_TRUE(preguntas.aviso.Proteger([]() -> bool { throw std::runtime_error("disco lleno, ñ"); }));
         EXPECT_EQ(preguntas.mostrados.size(), vez);
     }
-    EXPECT_EQ(preguntas.mostrados.front(),
-              QStringLiteral("No se pudo completar la operación: disco lleno, ñ"));
+    EXPECT_EQ(preguntas.mostrados.front(), u"No se pudo completar la operación: disco lleno, ñ"_qs);
     EXPECT_TRUE(preguntas.aviso.Proteger([]() -> bool { throw 3; }));
     EXPECT_EQ(preguntas.mostrados.size(), 3);
 }

@@ -1,7 +1,5 @@
 #include "mesaprueba.h"
 
-#include <gtest/gtest.h>
-
 namespace tarvo {
 namespace {
 
@@ -23,7 +21,7 @@ TEST(Conmutador, SwitchesFreelyWithoutAnEntryAndAfterYes) {
                     SCOPED_TRACE(Nombre(abierta) + (entrada ? " in progress, " : " open, ") + Nombre(propio));
                     MesaPrueba mesa;
                     mesa.Abierta(abierta, entrada);
-                    mesa.respuesta = Respuesta::Si;
+                    mesa.respuesta = Si;
                     clic ? mesa.PorClic(propio) : mesa.PorTecla(propio);
                     mesa.Tick();
                     EXPECT_EQ(mesa.preguntadas,
@@ -103,29 +101,26 @@ TEST(Conmutador, StrayButtonDoesNotLoseAnEntry) {
     mesa.Tick();
     mesa.PorClic(Proveedores);
     EXPECT_EQ(mesa.preguntadas.size(), 2);
-    EXPECT_EQ(Junta(mesa.abiertas), QStringLiteral("proveedores"));
+    EXPECT_EQ(Junta(mesa.abiertas), u"proveedores");
 }
 
 TEST(Conmutador, YesUnpressesTheStatementsButtonInSomeHandlers) {
-    const auto trasSi = [](Modulo propio, Modulo abierta) {
+    const std::tuple<Modulo, Modulo, bool> casos[] = {
+        {Ventas, Articulos, true},    {Ventas, Proveedores, true}, {Ventas, Clientes, false},
+        {Estados, Proveedores, true}, {Estados, Articulos, false}, {Articulos, Proveedores, false}};
+    for (const auto &[propio, abierta, suelta] : casos) {
         MesaPrueba mesa;
         mesa.Abierta(abierta, true);
-        mesa.presionados += QStringLiteral("estado");
-        mesa.respuesta = Respuesta::Si;
+        mesa.presionados += u"estado"_qs;
+        mesa.respuesta = Si;
         mesa.PorTecla(propio);
-        return mesa.hechos.contains(QStringLiteral("-estado"));
-    };
-    EXPECT_TRUE(trasSi(Ventas, Articulos));
-    EXPECT_TRUE(trasSi(Ventas, Proveedores));
-    EXPECT_FALSE(trasSi(Ventas, Clientes));
-    EXPECT_TRUE(trasSi(Estados, Proveedores));
-    EXPECT_FALSE(trasSi(Estados, Articulos));
-    EXPECT_FALSE(trasSi(Articulos, Proveedores));
+        EXPECT_EQ(mesa.hechos.contains(u"-estado"_qs), suelta) << Nombre(propio);
+    }
 }
 
 TEST(Conmutador, EntryOfAnUncheckedModuleDoesNotCount) {
     MesaPrueba mesa;
-    mesa.conEntrada += QStringLiteral("ventas");
+    mesa.conEntrada += u"ventas"_qs;
     mesa.PorClic(Articulos);
     EXPECT_TRUE(mesa.preguntadas.isEmpty());
 }
@@ -135,9 +130,9 @@ TEST(Conmutador, ClosesAllInItsOrderWithoutAQuestion) {
     for (const Modulo modulo : kModulos)
         mesa.Abierta(modulo, true);
     mesa.conmutador.CerrarModulos();
-    QStringList cerradas = mesa.hechos.filter(QStringLiteral("cierra "));
-    EXPECT_EQ(cerradas.replaceInStrings(QStringLiteral("cierra "), QString()).join(QLatin1Char(' ')),
-              QStringLiteral("stats clientes articulos estado ventas proveedores"));
+    QStringList cerradas = mesa.hechos.filter(u"cierra "_qs);
+    EXPECT_EQ(cerradas.replaceInStrings(u"cierra "_qs, QString()).join(u' '),
+              u"stats clientes articulos estado ventas proveedores"_qs);
     EXPECT_TRUE(mesa.Vacia());
     EXPECT_TRUE(mesa.preguntadas.isEmpty());
 }
@@ -155,7 +150,7 @@ struct CasoDialogo {
     const char *alSalir;
 };
 
-const CasoDialogo kDialogos[] = {
+const CasoDialogo kAbiertas[] = {
     {Ventas, "ventas", "completar la venta?"},
     {Estados, "estados de cuenta", ""},
     {Articulos, "artículos", "completar el ingreso del artículo?"},
@@ -163,44 +158,47 @@ const CasoDialogo kDialogos[] = {
     {Clientes, "clientes", "completar el ingreso del cliente?"},
 };
 
+// A dialog of the program: the options or the backup.
+struct Dialogo {
+    void (Conmutador::*abrir)();
+    QString hecho, boton, nombre;
+};
+const Dialogo kDialogos[] = {{&Conmutador::mnuOpciones, u"opciones"_qs, u"config"_qs, u"del programa"_qs},
+                             {&Conmutador::mnuRespaldar, u"respaldo"_qs, u"respaldar"_qs, u"de respaldo"_qs}};
+
 // With an entry in progress only the module's own question is asked, else only the dialog's.
+void ProbarDialogo(const CasoDialogo &caso, const Dialogo &dialogo, bool entrada, Respuesta respuesta) {
+    SCOPED_TRACE(Nombre(caso.abierta) + ' ' + dialogo.hecho.toStdString() + (entrada ? ", entry" : "") +
+                 (respuesta == Si ? ", Yes" : ", No"));
+    MesaPrueba mesa;
+    mesa.Abierta(caso.abierta, entrada);
+    mesa.presionados += dialogo.boton;
+    mesa.respuesta = respuesta;
+    (mesa.conmutador.*dialogo.abrir)();
+    mesa.Tick();
+    const QString aviso =
+        u"Al ingresar a las opciones %1 se cerrará el formulario de %2.\nDesea continuar?"_qs.arg(
+            dialogo.nombre, QString::fromUtf8(caso.formulario));
+    const QString salir = u"Confirma que desea salir sin "_qs + QString::fromUtf8(caso.alSalir);
+    EXPECT_EQ(mesa.preguntadas, QStringList{entrada ? salir : aviso});
+    const bool abierto = mesa.hechos.contains(dialogo.hecho);
+    EXPECT_EQ(abierto, respuesta == Si);
+    EXPECT_TRUE(abierto ? mesa.Vacia() : mesa.SoloAbierta(caso.abierta));
+    EXPECT_EQ(!abierto && entrada, !mesa.conEntrada.isEmpty());
+    // The caller is gone: the handler opens and closes again.
+    mesa.respuesta = Si;
+    mesa.PorTecla(caso.abierta);
+    EXPECT_EQ(mesa.Vacia(), !abierto);
+}
+
 TEST(ConmutadorDialogos, AskOnceAndCloseTheModuleOnYes) {
-    for (const CasoDialogo &caso : kDialogos) {
-        for (const bool opciones : {true, false}) {
-            for (const bool entrada : {true, false}) {
-                if (entrada && caso.abierta == Estados)
-                    continue;
-                for (const Respuesta respuesta : {Respuesta::Si, Respuesta::No}) {
-                    SCOPED_TRACE(Nombre(caso.abierta) + (opciones ? ", options" : ", backup") +
-                                 (entrada ? ", entry" : "") +
-                                 (respuesta == Respuesta::Si ? ", Yes" : ", No"));
-                    MesaPrueba mesa;
-                    mesa.Abierta(caso.abierta, entrada);
-                    mesa.presionados += opciones ? QStringLiteral("config") : QStringLiteral("respaldar");
-                    mesa.respuesta = respuesta;
-                    opciones ? mesa.conmutador.mnuOpciones() : mesa.conmutador.mnuRespaldar();
-                    mesa.Tick();
-                    const QString aviso =
-                        QStringLiteral("Al ingresar a las opciones %1 se cerrará el formulario de %2.\n"
-                                       "Desea continuar?")
-                            .arg(opciones ? QStringLiteral("del programa") : QStringLiteral("de respaldo"),
-                                 QString::fromUtf8(caso.formulario));
-                    const QString salir =
-                        QStringLiteral("Confirma que desea salir sin ") + QString::fromUtf8(caso.alSalir);
-                    EXPECT_EQ(mesa.preguntadas, QStringList{entrada ? salir : aviso});
-                    const bool abierto = mesa.hechos.contains(opciones ? QStringLiteral("opciones")
-                                                                       : QStringLiteral("respaldo"));
-                    EXPECT_EQ(abierto, respuesta == Respuesta::Si);
-                    EXPECT_TRUE(abierto ? mesa.Vacia() : mesa.SoloAbierta(caso.abierta));
-                    EXPECT_EQ(!abierto && entrada, !mesa.conEntrada.isEmpty());
-                    // The caller is gone: the handler opens and closes again.
-                    mesa.respuesta = Respuesta::Si;
-                    mesa.PorTecla(caso.abierta);
-                    EXPECT_EQ(mesa.Vacia(), !abierto);
-                }
+    for (const CasoDialogo &caso : kAbiertas)
+        for (const Dialogo &dialogo : kDialogos)
+            for (const Respuesta respuesta : {Si, No}) {
+                ProbarDialogo(caso, dialogo, false, respuesta);
+                if (caso.abierta != Estados)
+                    ProbarDialogo(caso, dialogo, true, respuesta);
             }
-        }
-    }
 }
 
 TEST(ConmutadorDialogos, OpenAtOnceWithNoModuleOrWithStatistics) {
@@ -208,38 +206,33 @@ TEST(ConmutadorDialogos, OpenAtOnceWithNoModuleOrWithStatistics) {
         MesaPrueba mesa;
         if (conStats)
             mesa.Abierta(Stats, false);
-        mesa.conmutador.mnuOpciones();
-        mesa.conmutador.mnuRespaldar();
+        for (const Dialogo &dialogo : kDialogos) {
+            (mesa.conmutador.*dialogo.abrir)();
+            EXPECT_TRUE(mesa.hechos.contains(dialogo.hecho));
+        }
         EXPECT_TRUE(mesa.preguntadas.isEmpty());
-        EXPECT_TRUE(mesa.hechos.contains(QStringLiteral("opciones")));
-        EXPECT_TRUE(mesa.hechos.contains(QStringLiteral("respaldo")));
         EXPECT_EQ(mesa.abiertas.size(), conStats ? 1 : 0);
     }
 }
 
 // A refusal leaves a button pressed beside that of the open module, before or behind it in the toolbar.
 TEST(ConmutadorDialogos, CloseTheOpenModuleBesideAStrayButton) {
-    struct Caso {
-        Modulo abierta;
-        Modulo rechazada;
-    };
-    for (const Caso &caso : {Caso{Articulos, Ventas}, {Articulos, Estados}, {Proveedores, Stats}}) {
-        for (const bool opciones : {true, false}) {
-            SCOPED_TRACE(Nombre(caso.abierta) + " in progress, " + Nombre(caso.rechazada) + " refused");
+    for (const auto &[abierta, rechazada] :
+         {std::pair(Articulos, Ventas), {Articulos, Estados}, {Proveedores, Stats}}) {
+        for (const Dialogo &dialogo : kDialogos) {
+            SCOPED_TRACE(Nombre(abierta) + " in progress, " + Nombre(rechazada) + " refused");
             MesaPrueba mesa;
-            mesa.Abierta(caso.abierta, true);
-            mesa.PorClic(caso.rechazada);
+            mesa.Abierta(abierta, true);
+            mesa.PorClic(rechazada);
             mesa.Tick();
             ASSERT_EQ(mesa.presionados.size(), 2);
-            for (const Respuesta respuesta : {Respuesta::No, Respuesta::Si}) {
+            for (const Respuesta respuesta : {No, Si}) {
                 mesa.preguntadas.clear();
                 mesa.respuesta = respuesta;
-                opciones ? mesa.conmutador.mnuOpciones() : mesa.conmutador.mnuRespaldar();
-                EXPECT_EQ(mesa.preguntadas, QStringList{DatosDe(caso.abierta).alSalir});
-                EXPECT_EQ(mesa.abiertas.isEmpty(), respuesta == Respuesta::Si);
-                EXPECT_EQ(
-                    mesa.hechos.contains(opciones ? QStringLiteral("opciones") : QStringLiteral("respaldo")),
-                    respuesta == Respuesta::Si);
+                (mesa.conmutador.*dialogo.abrir)();
+                EXPECT_EQ(mesa.preguntadas, QStringList{DatosDe(abierta).alSalir});
+                EXPECT_EQ(mesa.abiertas.isEmpty(), respuesta == Si);
+                EXPECT_EQ(mesa.hechos.contains(dialogo.hecho), respuesta == Si);
             }
         }
     }
@@ -249,18 +242,17 @@ TEST(ConmutadorDialogos, DesignerIsAskedForOnceOnly) {
     MesaPrueba mesa;
     mesa.conmutador.mnuFactura();
     mesa.conmutador.mnuOpciones();
-    EXPECT_EQ(mesa.hechos.filter(QStringLiteral("opciones")),
-              (QStringList{QStringLiteral("opciones y diseñador"), QStringLiteral("opciones")}));
+    EXPECT_EQ(mesa.hechos.filter(u"opciones"_qs), (QStringList{u"opciones y diseñador"_qs, u"opciones"_qs}));
 
     MesaPrueba negada;
     negada.Abierta(Ventas, true);
     negada.conmutador.mnuFactura();
-    EXPECT_TRUE(negada.hechos.filter(QStringLiteral("opciones")).isEmpty());
+    EXPECT_TRUE(negada.hechos.filter(u"opciones"_qs).isEmpty());
     EXPECT_EQ(negada.preguntadas, QStringList{DatosDe(Ventas).alSalir});
     EXPECT_TRUE(negada.SoloAbierta(Ventas));
-    negada.respuesta = Respuesta::Si;
+    negada.respuesta = Si;
     negada.conmutador.mnuOpciones();
-    EXPECT_EQ(negada.hechos.filter(QStringLiteral("opciones")), QStringList{QStringLiteral("opciones")});
+    EXPECT_EQ(negada.hechos.filter(u"opciones"_qs), QStringList{u"opciones"_qs});
 }
 
 // The suppliers' handler knows the third caller in another spelling, and so acts as if nobody had called it.
@@ -269,14 +261,14 @@ TEST(ConmutadorLlamador, OnlyAnswersWhetherTheModuleMayClose) {
         SCOPED_TRACE(Nombre(modulo));
         MesaPrueba mesa;
         mesa.Abierta(modulo, false);
-        mesa.conmutador.PonerLlamador(QStringLiteral("estadisticas"));
+        mesa.conmutador.PonerLlamador(u"estadisticas"_qs);
         mesa.PorTecla(modulo);
         EXPECT_EQ(mesa.Vacia(), modulo == Proveedores);
         EXPECT_EQ(mesa.conmutador.puedeCerrar(), modulo != Proveedores);
     }
     MesaPrueba mesa;
     mesa.Abierta(Proveedores, true);
-    mesa.conmutador.PonerLlamador(QStringLiteral("estadísticas"));
+    mesa.conmutador.PonerLlamador(u"estadísticas"_qs);
     mesa.PorTecla(Proveedores);
     EXPECT_FALSE(mesa.conmutador.puedeCerrar());
     EXPECT_EQ(mesa.conmutador.botonPendiente(), Proveedores);
@@ -287,28 +279,27 @@ TEST(ConmutadorDevoluciones, OpenTheStatementsOnlyWhenTheyAreClosed) {
     MesaPrueba mesa;
     mesa.conmutador.mnuDevContado();
     mesa.conmutador.mnuDevCliente();
-    EXPECT_EQ(mesa.hechos, (QStringList{QStringLiteral("abre estado"), QStringLiteral("+estado"),
-                                        QStringLiteral("contado"), QStringLiteral("por cliente")}));
+    EXPECT_EQ(mesa.hechos, (QStringList{u"abre estado"_qs, u"+estado"_qs, u"contado"_qs, u"por cliente"_qs}));
 
     MesaPrueba negada;
     negada.Abierta(Ventas, true);
     negada.conmutador.mnuDevContado();
-    EXPECT_FALSE(negada.hechos.contains(QStringLiteral("contado")));
-    EXPECT_EQ(Junta(negada.abiertas), QStringLiteral("ventas"));
+    EXPECT_FALSE(negada.hechos.contains(u"contado"_qs));
+    EXPECT_EQ(Junta(negada.abiertas), u"ventas");
 }
 
 TEST(ConmutadorCalculadora, TogglesBesideAnyModule) {
     MesaPrueba mesa;
     mesa.Abierta(Ventas, true);
     mesa.conmutador.mnuCalc();
-    EXPECT_EQ(Junta(mesa.marcadas), QStringLiteral("calculadora ventas"));
-    EXPECT_EQ(Junta(mesa.presionados), QStringLiteral("calculadora ventas"));
+    EXPECT_EQ(Junta(mesa.marcadas), u"calculadora ventas");
+    EXPECT_EQ(Junta(mesa.presionados), u"calculadora ventas");
     mesa.conmutador.mnuCalc();
     EXPECT_TRUE(mesa.SoloAbierta(Ventas));
     mesa.conmutador.mnuCalc();
     mesa.conmutador.CalculadoraCerrada(); // closed by its own means
     EXPECT_TRUE(mesa.SoloAbierta(Ventas));
-    EXPECT_EQ(mesa.hechos.count(QStringLiteral("cierra calculadora")), 1);
+    EXPECT_EQ(mesa.hechos.count(u"cierra calculadora"_qs), 1);
     EXPECT_TRUE(mesa.preguntadas.isEmpty());
 }
 

@@ -1,53 +1,49 @@
 // The first start, the place of the data, separator and symbol, and compaction.
-#include "store/archivosprueba.h"
-#include "store/errordatos.h"
 #include "store/instalacion.h"
 #include "store/plantillas.h"
+#include "testkit/archivos.h"
 #include "testkit/datosprueba.h"
-
-#include <gtest/gtest.h>
 
 namespace tarvo {
 namespace {
 
 TEST(Instalacion, TheFirstStartMakesDataThatOpen) {
     QTemporaryDir programa;
-    const QString datos = PrepararDatos(programa.path(), programa.filePath(QStringLiteral("usuario")));
-    EXPECT_EQ(datos, programa.filePath(QStringLiteral("Datos")));
+    const QString datos = PrepararDatos(programa.path(), programa.filePath(u"usuario"_qs));
+    EXPECT_EQ(datos, programa.filePath(u"Datos"_qs));
     EXPECT_EQ(QDir(programa.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
-              QStringList{QStringLiteral("Datos")});
-    EXPECT_EQ(Contenido(datos), Contenido(datos + QStringLiteral("/vacio")));
+              QStringList{u"Datos"_qs});
+    EXPECT_EQ(Contenido(datos), Contenido(datos + u"/vacio"_qs));
     EXPECT_EQ(Contenido(datos).size(), 5U);
     FrmBases b(datos, Moneda());
     ASSERT_EQ(b.Abrir().estado, EstadoApertura::Completa);
     EXPECT_EQ(b.datIVA.RecordCount(), 4);
-    EXPECT_EQ(b.camIVAPorcentaje.Texto(), QStringLiteral("21"));
+    EXPECT_EQ(b.camIVAPorcentaje.Texto(), u"21");
     for (Cursor *cursor : {&b.datImpuesto, &b.datFactura, &b.datTicket, &b.datCategorias, &b.datVendedores})
         EXPECT_EQ(cursor->RecordCount(), 1) << cursor->Tabla();
     for (Cursor *cursor :
          {&b.datCategorias2, &b.datClientes, &b.datProveedores, &b.datArticulos, &b.datVentas})
         EXPECT_EQ(cursor->RecordCount(), 0) << cursor->Tabla();
-    EXPECT_EQ(b.camTicN5.Texto(), QStringLiteral("N"));
-    EXPECT_EQ(b.camImpExisteIFiscal.Texto(), QStringLiteral("No"));
+    EXPECT_EQ(b.camTicN5.Texto(), u"N");
+    EXPECT_EQ(b.camImpExisteIFiscal.Texto(), u"No");
 }
 
 TEST(Instalacion, TheUsersFolderTakesThePlaceOfOneThatCannotBeWritten) {
     QTemporaryDir usuario;
-    const QString sinPermiso = QStringLiteral("/proc/tarvo");
-    const QString carpeta = usuario.filePath(QStringLiteral("a/b"));
+    const QString sinPermiso = u"/proc/tarvo"_qs;
+    const QString carpeta = usuario.filePath(u"a/b"_qs);
     const QString datos = PrepararDatos(sinPermiso, carpeta);
-    EXPECT_EQ(datos, carpeta + QStringLiteral("/Datos"));
-    Escribir(datos + QStringLiteral("/ventas.mdb"), "mio");
+    EXPECT_EQ(datos, carpeta + u"/Datos"_qs);
+    Escribir(datos + u"/ventas.mdb"_qs, "mio");
     // From then on they stay there, also when the folder of the program can be written.
     QTemporaryDir programa;
     EXPECT_EQ(PrepararDatos(programa.path(), carpeta), datos);
     EXPECT_TRUE(QDir(programa.path()).isEmpty());
-    EXPECT_EQ(Contenido(datos)[QStringLiteral("ventas.mdb")], "mio");
+    EXPECT_EQ(Contenido(datos)[u"ventas.mdb"_qs], "mio");
     // A folder beside the program comes first.
-    QDir(programa.path()).mkdir(QStringLiteral("Datos"));
-    EXPECT_EQ(PrepararDatos(programa.path(), carpeta), programa.filePath(QStringLiteral("Datos")));
-    EXPECT_TRUE(QDir(programa.filePath(QStringLiteral("Datos"))).isEmpty())
-        << "one that exists is never filled";
+    QDir(programa.path()).mkdir(u"Datos"_qs);
+    EXPECT_EQ(PrepararDatos(programa.path(), carpeta), programa.filePath(u"Datos"_qs));
+    EXPECT_TRUE(QDir(programa.filePath(u"Datos"_qs)).isEmpty()) << "one that exists is never filled";
     EXPECT_THROW(PrepararDatos(sinPermiso, sinPermiso), ErrorDatos);
 }
 
@@ -55,23 +51,19 @@ TEST(Instalacion, ALinkIsFollowedAndOneThatLeadsNowhereIsTold) {
     QTemporaryDir medio;
     QTemporaryDir programa;
     QTemporaryDir usuario;
-    const QString enlace = programa.filePath(QStringLiteral("Datos"));
-    const QString tienda = medio.filePath(QStringLiteral("tienda"));
-    const QString otra = PrepararDatos(QStringLiteral("/proc/tarvo"), usuario.path());
+    const QString enlace = programa.filePath(u"Datos"_qs);
+    const QString tienda = medio.filePath(u"tienda"_qs);
+    const QString otra = PrepararDatos(u"/proc/tarvo"_qs, usuario.path());
     QFile::link(tienda, enlace);
-    try {
-        PrepararDatos(programa.path(), usuario.path());
-        FAIL() << "began another shop";
-    } catch (const ErrorDatos &error) {
-        EXPECT_EQ(error.Numero(), errores::kRutaNoEncontrada);
-        EXPECT_TRUE(error.Descripcion().contains(tienda)) << error.Descripcion().toStdString();
-    }
+    const auto preparar = [&] { PrepararDatos(programa.path(), usuario.path()); };
+    EXPECT_EQ(NumeroDe(preparar), errores::kRutaNoEncontrada);
+    EXPECT_NE(TextoDe(preparar).find(tienda.toStdString()), std::string::npos) << TextoDe(preparar);
     QDir().mkdir(tienda);
     EXPECT_EQ(PrepararDatos(programa.path(), usuario.path()), enlace);
     EXPECT_TRUE(QDir(tienda).isEmpty());
     QFile::remove(enlace);
     QDir(otra).removeRecursively();
-    QFile::link(usuario.filePath(QStringLiteral("no")), otra);
+    QFile::link(usuario.filePath(u"no"_qs), otra);
     EXPECT_THROW(PrepararDatos(programa.path(), usuario.path()), ErrorDatos);
     EXPECT_TRUE(QDir(programa.path()).isEmpty());
 }
@@ -79,52 +71,41 @@ TEST(Instalacion, ALinkIsFollowedAndOneThatLeadsNowhereIsTold) {
 TEST(Instalacion, OnlyWhatAFirstStartLeftHalfDoneIsRemoved) {
     QTemporaryDir programa;
     const QDir carpeta(programa.path());
-    const QStringList ajenas{QStringLiteral("Datos.backup"), QStringLiteral("Datos.enlace"),
-                             QStringLiteral("Datos.oculto"), QStringLiteral("Datos.textos")};
-    for (const QString &nombre : ajenas + QStringList{QStringLiteral("Datos.aB3xYz")}) {
+    const QStringList ajenas{u"Datos.backup"_qs, u"Datos.enlace"_qs, u"Datos.oculto"_qs, u"Datos.textos"_qs};
+    for (const QString &nombre : ajenas + QStringList{u"Datos.aB3xYz"_qs}) {
         const QString resto = carpeta.filePath(nombre);
-        ASSERT_TRUE(QDir().mkpath(resto + QStringLiteral("/vacio")));
-        CrearPlantillas(resto + QStringLiteral("/vacio"));
-        QFile::copy(resto + QStringLiteral("/vacio/config.mdb"), resto + QStringLiteral("/config.mdb"));
-        Escribir(resto + QStringLiteral("/qt_temp.Ab12cd"), "SQLite format 3");
-        Escribir(resto + QStringLiteral("/vacio/ventas.mdb-journal"), "");
+        ASSERT_TRUE(QDir().mkpath(resto + u"/vacio"_qs));
+        CrearPlantillas(resto + u"/vacio"_qs);
+        QFile::copy(resto + u"/vacio/config.mdb"_qs, resto + u"/config.mdb"_qs);
+        Escribir(resto + u"/qt_temp.Ab12cd"_qs, "SQLite format 3");
+        Escribir(resto + u"/vacio/ventas.mdb-journal"_qs, "");
     }
-    Escribir(carpeta.filePath(QStringLiteral("Datos.backup/ventas.mdb")), "ventas de un año");
-    QFile::link(QStringLiteral("no hay"), carpeta.filePath(QStringLiteral("Datos.enlace/ventas.mdb")));
-    const QString oculto = carpeta.filePath(QStringLiteral("Datos.oculto/ventas.mdb"));
+    Escribir(carpeta.filePath(u"Datos.backup/ventas.mdb"_qs), "ventas de un año");
+    QFile::link(u"no hay"_qs, carpeta.filePath(u"Datos.enlace/ventas.mdb"_qs));
+    const QString oculto = carpeta.filePath(u"Datos.oculto/ventas.mdb"_qs);
     Escribir(oculto, "no se puede leer");
     QFile::setPermissions(oculto, {});
-    Escribir(carpeta.filePath(QStringLiteral("Datos.textos/vacio/cartas.txt")), "mías");
+    Escribir(carpeta.filePath(u"Datos.textos/vacio/cartas.txt"_qs), "mías");
     PrepararDatos(programa.path(), programa.path());
-    EXPECT_EQ(carpeta.entryList(QDir::Dirs | QDir::NoDotAndDotDot),
-              QStringList{QStringLiteral("Datos")} + ajenas);
+    EXPECT_EQ(carpeta.entryList(QDir::Dirs | QDir::NoDotAndDotDot), QStringList{u"Datos"_qs} + ajenas);
 }
 
 TEST(Regional, SettingsComeBeforeTheLocaleOfTheSystem) {
     QTemporaryDir carpeta;
-    const QString ruta = carpeta.filePath(QStringLiteral("a.ini"));
-    struct {
-        const char *ini;
-        const char *decimal, *simbolo; // null: whatever the system says
-    } const casos[] = {
-        {"sDecimal=.\nsCurrency=Bs\n", ".", "Bs"},
-        {"sDecimal=\",\"\nsCurrency=\"€\"\n", ",", "€"},
-        {"sDecimal=,\n", ",", nullptr},
-        {"sCurrency=Gs\n", nullptr, "Gs"},
-        {"sDecimal=x\n", nullptr, nullptr},
-    };
-    for (const auto &caso : casos) {
-        Escribir(ruta, QByteArray("[General]\n") + caso.ini);
+    const QString ruta = carpeta.filePath(u"a.ini"_qs);
+    const Moneda sistema = LeerRegional(QSettings(ruta, QSettings::IniFormat));
+    EXPECT_TRUE(sistema.sDecimal() == u"," || sistema.sDecimal() == u".");
+    EXPECT_FALSE(sistema.sCurrency().isEmpty());
+    const std::tuple<const char *, QString, QString> casos[] = {
+        {"sDecimal=.\nsCurrency=Bs\n", u"."_qs, u"Bs"_qs},
+        {"sDecimal=\",\"\nsCurrency=\"€\"\n", u","_qs, u"€"_qs},
+        {"sDecimal=,\n", u","_qs, sistema.sCurrency()},
+        {"sCurrency=Gs\n", sistema.sDecimal(), u"Gs"_qs},
+        {"sDecimal=x\n", sistema.sDecimal(), sistema.sCurrency()}};
+    for (const auto &[ini, decimal, simbolo] : casos) {
+        Escribir(ruta, QByteArray("[General]\n") + ini);
         const Moneda moneda = LeerRegional(QSettings(ruta, QSettings::IniFormat));
-        if (caso.decimal != nullptr) {
-            EXPECT_EQ(moneda.sDecimal().toStdString(), caso.decimal) << caso.ini;
-        }
-        if (caso.simbolo != nullptr) {
-            EXPECT_EQ(moneda.sCurrency().toStdString(), caso.simbolo) << caso.ini;
-        }
-        EXPECT_TRUE(moneda.sDecimal() == QLatin1String(",") || moneda.sDecimal() == QLatin1String("."))
-            << caso.ini;
-        EXPECT_FALSE(moneda.sCurrency().isEmpty()) << caso.ini;
+        EXPECT_EQ(moneda.sDecimal() + moneda.sCurrency(), decimal + simbolo) << ini;
     }
 }
 
@@ -132,8 +113,8 @@ TEST(Compactacion, ShrinksTheFileAndKeepsItsRows) {
     DatosPrueba datos;
     datos.Ejecutar("WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i+1 FROM n WHERE i<3000) "
                    "INSERT INTO Ventas(total) SELECT '$ '||i FROM n; DELETE FROM Ventas WHERE id>2");
-    const QString origen = QDir(datos.Carpeta()).filePath(QStringLiteral("ventas.mdb"));
-    const QString temporal = QDir(datos.Carpeta()).filePath(QStringLiteral("temporal.mdb"));
+    const QString origen = QDir(datos.Carpeta()).filePath(u"ventas.mdb"_qs);
+    const QString temporal = QDir(datos.Carpeta()).filePath(u"temporal.mdb"_qs);
     Escribir(temporal, "resto");
     const qint64 antes = QFileInfo(origen).size();
     FrmBases::CompactarBase(origen, temporal);
@@ -143,23 +124,18 @@ TEST(Compactacion, ShrinksTheFileAndKeepsItsRows) {
     EXPECT_EQ(b.datVentas.RecordCount(), 2);
     b.datVentas.AddNew();
     b.datVentas.Refresh();
-    EXPECT_EQ(b.datVentas.UltimoId(), QStringLiteral("3001")) << "the counter must go on where it was";
+    EXPECT_EQ(b.datVentas.UltimoId(), u"3001") << "the counter must go on where it was";
 }
 
 TEST(Compactacion, TellsAMissingFileAndLeavesADamagedOne) {
     QTemporaryDir carpeta;
-    const QString origen = carpeta.filePath(QStringLiteral("no.mdb"));
-    const QString temporal = carpeta.filePath(QStringLiteral("t.mdb"));
-    try {
-        FrmBases::CompactarBase(origen, temporal);
-        FAIL();
-    } catch (const ErrorDatos &error) {
-        EXPECT_EQ(error.Numero(), errores::kBaseNoEncontrada);
-        EXPECT_EQ(error.Descripcion(),
-                  QStringLiteral("No se pudo encontrar la base de datos '%1'.").arg(origen));
-    }
+    const QString origen = carpeta.filePath(u"no.mdb"_qs);
+    const QString temporal = carpeta.filePath(u"t.mdb"_qs);
+    const auto compactar = [&] { FrmBases::CompactarBase(origen, temporal); };
+    EXPECT_EQ(NumeroDe(compactar), errores::kBaseNoEncontrada);
+    EXPECT_EQ(TextoDe(compactar), "No se pudo encontrar la base de datos '" + origen.toStdString() + "'.");
     Escribir(origen, QByteArray(5000, 'x'));
-    EXPECT_THROW(FrmBases::CompactarBase(origen, temporal), ErrorDatos);
+    EXPECT_THROW(compactar(), ErrorDatos);
     EXPECT_EQ(QFileInfo(origen).size(), 5000);
 }
 

@@ -3,8 +3,6 @@
 #include "store/transaccion.h"
 #include "testkit/datosprueba.h"
 
-#include <gtest/gtest.h>
-
 namespace tarvo {
 namespace {
 
@@ -16,10 +14,10 @@ class PruebaTransaccion : public testing::Test {
     }
     void Escribir() {
         b.datVentas.AddNew();
-        b.camVentTotal = QStringLiteral("$ 1,00");
+        b.camVentTotal = u"$ 1,00"_qs;
         b.datVentas.Refresh();
         b.datArticulos.MoveFirst();
-        b.camArtStock = QStringLiteral("9");
+        b.camArtStock = u"9"_qs;
         b.datArticulos.MoveNext();
         b.datArticulos.Delete();
     }
@@ -57,18 +55,18 @@ TEST_F(PruebaTransaccion, ConfirmedWritesStayAndOthersGo) {
     transaccion.Confirmar();
     EXPECT_EQ(Consta(), "$ 1,00|9");
     EXPECT_EQ(EnMemoria(), "1|9,");
-    EXPECT_EQ(b.datVentas.UltimoId(), QStringLiteral("1"));
+    EXPECT_EQ(b.datVentas.UltimoId(), u"1");
     EXPECT_THROW(transaccion.Confirmar(), ErrorDatos);
 }
 
 TEST_F(PruebaTransaccion, ARollbackDropsPendingEditsToo) {
     {
         Transaccion transaccion(b);
-        b.camArtStock = QStringLiteral("1");
+        b.camArtStock = u"1"_qs;
         b.datClientes.AddNew();
-        b.camCliNombre = QStringLiteral("x");
+        b.camCliNombre = u"x"_qs;
     }
-    EXPECT_EQ(b.camArtStock.Texto(), QStringLiteral("10"));
+    EXPECT_EQ(b.camArtStock.Texto(), u"10");
     EXPECT_FALSE(b.datClientes.HayFila());
     b.Cerrar();
     EXPECT_EQ(Consta(), "|10,20");
@@ -78,7 +76,7 @@ TEST_F(PruebaTransaccion, TransactionsDoNotNestAndNeedOpenFiles) {
     {
         Transaccion transaccion(b);
         EXPECT_THROW(Transaccion otra(b), ErrorDatos);
-        b.camArtStock = QStringLiteral("1"); // a pending edit belongs to the action
+        b.camArtStock = u"1"_qs; // a pending edit belongs to the action
         transaccion.Confirmar();
     }
     EXPECT_EQ(Consta(), "|1,20");
@@ -94,16 +92,16 @@ TEST_F(PruebaTransaccion, AFailedWriteTakesBackTheWholeActionAndClosesItForMore)
     Transaccion transaccion(b);
     Escribir();
     b.datArticulos.MoveFirst();
-    b.camArtStock = QStringLiteral("malo");
+    b.camArtStock = u"malo"_qs;
     EXPECT_THROW(b.datArticulos.Refresh(), ErrorDatos);
     EXPECT_EQ(EnMemoria(), "0|10,20,");
     b.datArticulos.MoveFirst();
-    b.camArtStock = QStringLiteral("5");
+    b.camArtStock = u"5"_qs;
     EXPECT_THROW(b.datArticulos.Refresh(), ErrorDatos);
     EXPECT_THROW(transaccion.Confirmar(), ErrorDatos);
     EXPECT_EQ(Consta(), "|10,20");
     b.datArticulos.MoveFirst();
-    b.camArtStock = QStringLiteral("5");
+    b.camArtStock = u"5"_qs;
     b.datArticulos.Refresh();
     EXPECT_EQ(Consta(), "|5,20");
 }

@@ -3,18 +3,13 @@
 #include "store/conexion.h"
 #include "store/plantillas.h"
 
-#include <QDir>
-#include <QFile>
-
-#include <gtest/gtest.h>
-
 namespace tarvo {
 
 namespace {
 
 SQLite::Database AbrirCrudo(const QString &carpeta) {
     const QDir dir(carpeta);
-    SQLite::Database base(dir.filePath(QStringLiteral("config.mdb")).toStdString(), SQLite::OPEN_READWRITE);
+    SQLite::Database base(dir.filePath(u"config.mdb"_qs).toStdString(), SQLite::OPEN_READWRITE);
     for (const char *nombre : {"clientes", "proveedores", "articulos", "ventas"}) {
         SQLite::Statement adjuntar(base, std::string("ATTACH ? AS ") + nombre);
         adjuntar.bind(1, dir.filePath(QString::fromUtf8(nombre) + QLatin1String(".mdb")).toStdString());
@@ -33,7 +28,7 @@ QString Plantillas() {
     return carpeta.path();
 }
 
-std::vector<std::vector<QString>> Leer(SQLite::Database &base, const char *sql) {
+std::vector<std::vector<QString>> Leer(SQLite::Database &base, const std::string &sql) {
     std::vector<std::vector<QString>> filas;
     SQLite::Statement consulta(base, sql);
     while (consulta.executeStep()) {
@@ -53,7 +48,7 @@ DatosPrueba::DatosPrueba(Moneda moneda)
     Ejecutar("DELETE FROM Iva; DELETE FROM Categorias; DELETE FROM Vendedores; DELETE FROM sqlite_sequence;");
 }
 
-void DatosPrueba::Ejecutar(const char *sql) {
+void DatosPrueba::Ejecutar(const std::string &sql) {
     ASSERT_FALSE(bases_->conexion_) << "raw SQL needs the files closed";
     SQLite::Database base = AbrirCrudo(carpeta_.path());
     base.exec("BEGIN");
@@ -61,11 +56,18 @@ void DatosPrueba::Ejecutar(const char *sql) {
     base.exec("COMMIT");
 }
 
-std::vector<std::vector<QString>> DatosPrueba::Filas(const char *sql) {
+std::vector<std::vector<QString>> DatosPrueba::Filas(const std::string &sql) {
     if (bases_->conexion_)
         return Leer(bases_->conexion_->Base(), sql);
     SQLite::Database base = AbrirCrudo(carpeta_.path());
     return Leer(base, sql);
+}
+
+QString DatosPrueba::Tabla(const std::string &sql) {
+    QStringList filas;
+    for (const auto &fila : Filas(sql))
+        filas << QStringList(fila.begin(), fila.end()).join(u'|');
+    return filas.join(u"; "_qs);
 }
 
 FrmBases &DatosPrueba::Abrir() {

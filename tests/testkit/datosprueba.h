@@ -2,8 +2,12 @@
 #pragma once
 
 #include "store/store.h"
+#include "testkit/imprimir.h"
 
+#include <QDir>
 #include <QTemporaryDir>
+
+#include <gtest/gtest.h>
 
 #include <memory>
 #include <vector>
@@ -15,9 +19,11 @@ class DatosPrueba {
     explicit DatosPrueba(Moneda moneda = Moneda());
 
     // Runs SQL on the closed files; the schemas are main, clientes, proveedores, articulos and ventas.
-    void Ejecutar(const char *sql);
+    void Ejecutar(const std::string &sql);
     // Rows of a query, on the closed files or, while they are open, through the connection of the data layer.
-    std::vector<std::vector<QString>> Filas(const char *sql);
+    std::vector<std::vector<QString>> Filas(const std::string &sql);
+    // The same as one text: "a|b; c|d".
+    QString Tabla(const std::string &sql);
     // The data layer, opened when it isn't yet; a test that needs another result of opening calls
     // Bases().Abrir().
     FrmBases &Abrir();

@@ -5,6 +5,8 @@
 #include "store/errordatos.h"
 #include "testkit/papelprueba.h"
 
+#include <gtest/gtest.h>
+
 #include <memory>
 #include <utility>
 #include <vector>
@@ -13,11 +15,16 @@ namespace tarvo {
 
 class ImpresorasPrueba final : public Impresoras {
   public:
-    QStringList nombres{QStringLiteral("Tickets"), QStringLiteral("Láser"),
-                        QString::fromLatin1(kImpresoraPdf)};
-    QString actual = QStringLiteral("Láser");
+    QStringList nombres{u"Tickets"_qs, u"Láser"_qs, QString::fromLatin1(kImpresoraPdf)};
+    QString actual = u"Láser"_qs;
     std::vector<std::shared_ptr<PapelPrueba>> documentos;
     bool fallar = false; // the next documents fail as with a printer that is gone
+
+    // The text of a document that came out whole; throws when there is none.
+    QString Papel(std::size_t cual = 0) const {
+        EXPECT_TRUE(documentos.at(cual)->Terminado());
+        return documentos.at(cual)->Lineas().join(u'\n');
+    }
 
     QStringList Nombres() const override { return nombres; }
     QString Actual() const override { return actual; }
@@ -27,7 +34,7 @@ class ImpresorasPrueba final : public Impresoras {
     }
     std::unique_ptr<Superficie> NuevoDocumento(ClasePapel, const QString &) override {
         if (fallar)
-            throw ErrorDatos(errores::kImpresora, QStringLiteral("No hay impresora."));
+            throw ErrorDatos(errores::kImpresora, u"No hay impresora."_qs);
         documentos.push_back(std::make_shared<PapelPrueba>());
         return std::make_unique<Hoja>(documentos.back());
     }

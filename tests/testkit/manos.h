@@ -1,10 +1,23 @@
-// The operator's hands: a shown window, keys and clicks on controls that are found by their names.
+// The operator's hands: a shown window, keys and clicks on controls that are found by their names. The usual
+// controls come with it.
 #pragma once
 
-#include <QAbstractButton>
+#include "testkit/imprimir.h"
+
+#include <QAction>
 #include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSignalSpy>
 #include <QTest>
+#include <QTimer>
+#include <QToolBar>
 #include <QWheelEvent>
+
+#include <gtest/gtest.h>
 
 #include <stdexcept>
 #include <string>

@@ -4,11 +4,10 @@
 
 #include "desktop/servicios.h"
 #include "testkit/datosprueba.h"
-#include "testkit/escritorioprueba.h"
+#include "testkit/dobles.h"
 #include "testkit/impresorasprueba.h"
 #include "testkit/manos.h"
 #include "testkit/preguntasguion.h"
-#include "testkit/relojfijo.h"
 
 #include <QSettings>
 
@@ -21,10 +20,12 @@ struct MundoPrueba {
     RelojFijo reloj;
     ImpresorasPrueba impresoras;
     EscritorioPrueba escritorio;
-    QSettings ajustes{datos.Carpeta() + QStringLiteral("/ajustes.ini"), QSettings::IniFormat};
+    QSettings ajustes{datos.Carpeta() + u"/ajustes.ini"_qs, QSettings::IniFormat};
 
     FrmBases &frmBases() { return datos.Abrir(); }
-    Servicios servicios() { return {frmBases(), preguntas, reloj, impresoras, ajustes, escritorio}; }
+    Servicios servicios() { return Con(frmBases()); }
+    // The same with other data, or with these as they are: closed, or open in part.
+    Servicios Con(FrmBases &bases) { return {bases, preguntas, reloj, impresoras, ajustes, escritorio}; }
 };
 
 } // namespace tarvo

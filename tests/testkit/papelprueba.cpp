@@ -13,7 +13,7 @@ constexpr int kTwipsPorLinea = 240;
 constexpr double kTwipsPorPunto = 12;
 
 QString MarcaTamano(double puntos) {
-    return QStringLiteral("[%1]").arg(puntos);
+    return u"[%1]"_qs.arg(puntos);
 }
 
 } // namespace
@@ -53,7 +53,7 @@ void PapelPrueba::Posicion(int xTwips, int yTwips) {
 
 void PapelPrueba::Imagen(const QImage &, int xTwips, int yTwips, int anchoTwips, int altoTwips) {
     const Lugar lugar = LugarDe(xTwips, yTwips);
-    const QString texto = QStringLiteral("[imagen %1x%2]").arg(anchoTwips).arg(altoTwips);
+    const QString texto = u"[imagen %1x%2]"_qs.arg(anchoTwips).arg(altoTwips);
     trozos_.push_back({pagina_, lugar.linea, lugar.columna, texto, letra_, {xTwips, yTwips}});
     int &lineas = lineasDePagina_.back();
     lineas = std::max(lineas, lugar.linea + 1);
@@ -79,13 +79,13 @@ QStringList PapelPrueba::Componer(const Escribir &escribir) const {
     for (const Trozo &trozo : orden) {
         const auto pagina = static_cast<std::size_t>(trozo.pagina);
         int &ancho = anchos[pagina][static_cast<std::size_t>(trozo.linea)];
-        const QString blancos(std::max(trozo.columna - ancho, 0), QLatin1Char(' '));
+        const QString blancos(std::max(trozo.columna - ancho, 0), u' ');
         paginas[pagina][trozo.linea] += blancos + escribir(trozo);
         ancho = std::max(ancho, trozo.columna) + static_cast<int>(trozo.texto.size());
     }
     QStringList todas = paginas.front();
     for (std::size_t pagina = 1; pagina < paginas.size(); ++pagina)
-        todas << QStringLiteral("\f") << paginas[pagina];
+        todas << u"\f"_qs << paginas[pagina];
     return todas;
 }
 
@@ -99,12 +99,12 @@ QString PapelPrueba::Volcado() const {
     const auto conMarcas = [&](const Trozo &trozo) {
         QString texto = trozo.texto;
         if (std::exchange(negrita, trozo.letra.negrita) != trozo.letra.negrita)
-            texto.prepend(trozo.letra.negrita ? QStringLiteral("[n]") : QStringLiteral("[/n]"));
+            texto.prepend(trozo.letra.negrita ? u"[n]"_qs : u"[/n]"_qs);
         if (std::exchange(puntos, trozo.letra.puntos) != trozo.letra.puntos)
             texto.prepend(MarcaTamano(trozo.letra.puntos));
         return texto;
     };
-    return Componer(conMarcas).join(QLatin1Char('\n')) + QLatin1Char('\n');
+    return Componer(conMarcas).join(u'\n') + u'\n';
 }
 
 } // namespace tarvo

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "desktop/preguntas.h"
+#include "testkit/imprimir.h"
 
 #include <gtest/gtest.h>
 
@@ -9,6 +10,8 @@
 #include <utility>
 
 namespace tarvo {
+
+using enum Respuesta; // answers are so often said that they go by their bare names: Si, No
 
 class PreguntasGuion final : public Preguntas {
   public:
@@ -25,7 +28,10 @@ class PreguntasGuion final : public Preguntas {
     void EsperaRuta(const PedidoRuta &pedido, const QString &contestar) {
         rutas_.push_back({pedido, contestar});
     }
-    void EsperaMensaje(const QString &texto, Icono icono) { guion_.push_back({texto, icono, {}, {}}); }
+    void EsperaMensaje(const QString &texto, Icono icono = Icono::Informacion) {
+        guion_.push_back({texto, icono, {}, {}});
+    }
+    void EsperaFalla(const QString &texto) { EsperaMensaje(texto, Icono::Critico); }
     bool Terminado() const { return guion_.empty() && rutas_.empty(); }
 
     Respuesta Preguntar(const QString &texto, Respuesta preseleccionada) override {
