@@ -65,6 +65,7 @@ void EstadosLogica::QuitarCliente() {
 // and leaves sum and buttons as they were.
 bool EstadosLogica::Llenar(const std::function<ContenidoLista(FrmBases &)> &leer) {
     FrmBases &bases = servicios_.frmBases;
+    pantalla_.ocultas = false;
     QString error;
     try {
         if (bases.datVentas.Abierto()) {
@@ -218,7 +219,7 @@ void EstadosLogica::OcultarContado() {
         pantalla_.entrada = pantalla_.conRecibo = false;
         pantalla_.conImprimir = pantalla_.conEliminar = pantalla_.conDevolucion = false;
     }
-    pantalla_.contadoOculto = true;
+    pantalla_.contadoOculto = pantalla_.ocultas = true;
     Mostrar();
     SeleccionarPrimera();
 }

@@ -6,11 +6,6 @@ namespace {
 
 constexpr int kColumnaPie = 74;
 
-void TextoEn(Superficie &papel, int columna, const QString &texto) {
-    Tabular(papel, columna);
-    papel.Texto(texto);
-}
-
 void FilaContado(Superficie &papel, const ListaTexto &lista, int fila) {
     TextoEn(papel, 2, lista.Celda(fila, contado::Fecha));
     TextoEn(papel, 15, lista.Celda(fila, contado::Hora));

@@ -18,6 +18,7 @@ struct PantallaEstados {
     bool conCliente = false;                 // lblCliente1 is visible
     QString saldo;                           // lblSaldo
     bool contadoOculto = false; // the caption of cmdEliminar offers to show the cash documents again
+    bool ocultas = false;       // cash documents were taken out of the list since it was filled
     bool exportable = false;    // a list has been filled
     bool panelCaja = false;     // frCaja is visible in place of frCont1
     bool devolucion = false; // return mode: its two buttons are visible, what chooses a view and frCont1 are

@@ -7,6 +7,7 @@
 
 #include <QFileInfo>
 #include <QSaveFile>
+#include <QVarLengthArray>
 
 #include <algorithm>
 #include <charconv>
@@ -115,17 +116,20 @@ class Cola {
         return fichas_[frente_ + lugar];
     }
     float Numero(std::size_t lugar) const {
-        const QByteArray texto = Texto(lugar).trimmed().toLatin1();
-        const char *desde = texto.cbegin();
-        if (texto.startsWith('+') && !texto.startsWith("+-"))
-            ++desde;
+        QStringView texto = Texto(lugar).trimmed();
+        if (texto.startsWith(u'+') && !texto.startsWith(u"+-"))
+            texto = texto.sliced(1);
+        QVarLengthArray<char, 32> letras(texto.size());
+        std::ranges::transform(texto, letras.begin(), [](QChar c) { return c.toLatin1(); });
         float numero = 0;
-        const auto leido = std::from_chars(desde, texto.cend(), numero);
-        if (leido.ec != std::errc() || leido.ptr != texto.cend() || !std::isfinite(numero))
+        const auto leido = std::from_chars(letras.cbegin(), letras.cend(), numero);
+        if (leido.ec != std::errc() || leido.ptr != letras.cend() || !std::isfinite(numero))
             NoSeReconoce();
         return numero;
     }
     bool Bandera(std::size_t lugar) const {
+        if (const QStringView tal = Texto(lugar); tal == u"1" || tal == u"0") // nearly always
+            return tal == u"1";
         const QStringView texto = Texto(lugar).trimmed();
         if (texto.compare(u"true", Qt::CaseInsensitive) == 0)
             return true;
@@ -214,7 +218,8 @@ void GuardarDiseno(const QString &ruta, const DisenoFactura &diseno, const QStri
     if (!archivo.open(QIODevice::WriteOnly))
         FallarGuardado(ruta, archivo.errorString());
     EscribirDiseno(archivo, diseno, rutaLogo, momento);
-    if (!archivo.commit())
+    // The commit forgets what the flush could not write.
+    if (!archivo.flush() || !archivo.commit())
         throw ErrorDatos(errores::kEscritura,
                          QStringLiteral("No se pudo escribir \"%1\": %2").arg(ruta, archivo.errorString()),
                          archivo.errorString());

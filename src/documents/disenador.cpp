@@ -173,6 +173,8 @@ void Disenador::Soltar(int numero) {
 }
 
 void Disenador::Mover(int numero, const QPoint &pixeles) {
+    if (Arrastrando())
+        return;
     const auto mover = [&] {
         Pieza &de = Editar(numero);
         Limitar(numero); // a piece from beyond the canvas starts where it is shown
@@ -184,6 +186,8 @@ void Disenador::Mover(int numero, const QPoint &pixeles) {
 }
 
 void Disenador::Ocultar(int numero) {
+    if (Arrastrando())
+        return;
     QString pregunta = QStringLiteral("Desea ocultar el campo seleccionado?");
     if (numero == pieza::kLogo)
         pregunta = QStringLiteral("Desea ocultar el logotipo de la empresa?");
@@ -191,6 +195,16 @@ void Disenador::Ocultar(int numero) {
         pregunta = QStringLiteral("Desea eliminar la etiqueta?");
     if (servicios_.preguntas.Confirma(pregunta, Respuesta::No))
         Hacer(QStringLiteral("Ocultar"), [&] { Editar(numero).visible = false; });
+}
+
+void Disenador::Deshacer() {
+    if (!Arrastrando())
+        historia_.undo();
+}
+
+void Disenador::Rehacer() {
+    if (!Arrastrando())
+        historia_.redo();
 }
 
 Disenador::Pedido Disenador::AgregarEtiqueta(const EtiquetaPedida &pedida) {

@@ -62,7 +62,7 @@ class Disenador : public QObject {
     // "lblCliNombre", "imgLogo", "lblPers(0)".
     static QString Nombre(int numero);
 
-    // --- the mouse and the keys
+    // --- the mouse and the keys; while the mouse drags a piece the keys do nothing
     // The corner of the piece goes to this place, in twips; it may leave the canvas until it is let go.
     void Arrastrar(int numero, const QPointF &lugar);
     void Soltar(int numero);
@@ -70,7 +70,8 @@ class Disenador : public QObject {
     void Mover(int numero, const QPoint &pixeles);
     // Asks, then hides.
     void Ocultar(int numero);
-    QUndoStack &Historia() { return historia_; }
+    void Deshacer();
+    void Rehacer();
 
     // --- the commands
     void Abrir();
@@ -103,6 +104,7 @@ class Disenador : public QObject {
     };
     class Paso;
 
+    bool Arrastrando() const { return antesDeArrastrar_.has_value(); }
     Pieza &Editar(int numero);
     void Limitar(int numero);
     // Runs `cambio` on the layout as one step.

@@ -17,10 +17,10 @@ void Titulo(Superficie &papel, const Listado &listado) {
     papel.Tamano(kPuntosTitulo);
     papel.Negrita(true);
     papel.FinLinea();
-    Tabular(papel, listado.columnaTitulo);
-    papel.Linea(listado.titulo);
-    Tabular(papel, listado.columnaTitulo);
-    papel.Linea(listado.subrayado);
+    for (const QString &linea : {listado.titulo, listado.subrayado}) {
+        TextoEn(papel, listado.columnaTitulo, linea);
+        papel.FinLinea();
+    }
     papel.Negrita(false);
     papel.FinLinea();
 }
@@ -69,13 +69,13 @@ void Filas(Superficie &papel, const Listado &listado, int &contador, int hasta) 
 
 } // namespace
 
-void Tabular(Superficie &papel, int columna) {
+void TextoEn(Superficie &papel, int columna, const QString &texto) {
     papel.Columna(columna - 1);
+    papel.Texto(texto);
 }
 
 void TextoHasta(Superficie &papel, int columna, const QString &texto) {
-    Tabular(papel, columna - static_cast<int>(texto.size()));
-    papel.Texto(texto);
+    TextoEn(papel, columna - static_cast<int>(texto.size()), texto);
 }
 
 void ImprimirListado(Superficie &papel, const Listado &listado, int filas) {

@@ -33,8 +33,8 @@ struct Listado {
     int columnaPie = 71; // the text at the end ends before this column
 };
 
-// Moves the head to a column counted from 1.
-void Tabular(Superficie &papel, int columna);
+// Writes `texto` at a column counted from 1.
+void TextoEn(Superficie &papel, int columna, const QString &texto);
 // Writes `texto` so that it ends before `columna`.
 void TextoHasta(Superficie &papel, int columna, const QString &texto);
 

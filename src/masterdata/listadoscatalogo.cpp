@@ -4,11 +4,6 @@ namespace tarvo {
 
 namespace {
 
-void TextoEn(Superficie &papel, int columna, const QString &texto) {
-    Tabular(papel, columna);
-    papel.Texto(texto);
-}
-
 void FilaPersona(Superficie &papel, const ListaTexto &lista, int fila) {
     TextoEn(papel, 3, lista.Celda(fila, 0));
     TextoEn(papel, 12, Cortar(lista.Celda(fila, 1), 25));

@@ -26,7 +26,7 @@ class VentanaEstados : public ConVentana<FrmEstados> {
     void ElegirCliente(const char *parte) {
         TabHasta("cmdCliente");
         Entrar();
-        TabHasta("txtBuscarClientes");
+        EXPECT_EQ(ConFoco(), u"LVClientes"); // what is typed there is searched
         Teclas(QString::fromUtf8(parte));
         Entrar();
         TabHasta("LVClientes");

@@ -145,6 +145,10 @@ TEST(ArchivoFactura, SavesWholeOrNotAtAll) {
     QFile lleno(u"/dev/full"_qs);
     ASSERT_TRUE(lleno.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
     EXPECT_EQ(NumeroDe([&] { EscribirDiseno(lleno, {}, {}, kMomento); }), errores::kEscritura);
+    {
+        const DiscoLleno sinLugar(1000);
+        EXPECT_EQ(NumeroDe([&] { GuardarDiseno(ruta, {}, {}, kMomento); }), errores::kEscritura);
+    }
     EXPECT_EQ(QDir(carpeta.path()).entryList(QDir::Files), QStringList{u"a.kzd"_qs});
     DisenoFactura leido;
     EXPECT_TRUE(CargarDiseno(ruta, leido).isEmpty());

@@ -88,6 +88,8 @@ TEST_F(DisenadorPrueba, DragsByTheMouseAndClampsAtTheDrop) {
     EXPECT_EQ(Posicion(), u"Nombre Cliente · 26,5 mm · 52,9 mm");
     QTest::mousePress(nombre, Qt::LeftButton);
     Mover(nombre, {-50, 1000});
+    Tecla(nombre, Qt::Key_Delete); // no key comes between
+    Tecla(frmFactura.get(), Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(nombre->pos(), QPoint(-50, 1000));
     QTest::mouseRelease(nombre, Qt::LeftButton);
     EXPECT_EQ(nombre->pos(), QPoint(0, (6260 - 240) / 15));

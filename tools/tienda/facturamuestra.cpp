@@ -18,6 +18,8 @@ struct Rotulo {
     bool negrita;
 };
 
+constexpr int kCliente = 4080; // where the customer's fields begin
+
 // Shapes alone: the sample is made without a screen, and so without fonts.
 QImage Logo() {
     QImage imagen(160, 90, QImage::Format_RGB32);
@@ -33,25 +35,26 @@ QImage Logo() {
     return imagen;
 }
 
+// A label stands 30 twips above the value beside it, whose type is smaller: so they share their base line.
 void PonerRotulos(DisenoFactura &diseno) {
     constexpr Rotulo rotulos[] = {
-        {"LA ESQUINA DE ÑANDÚ", 3840, 60, true},
-        {"Cliente", 2940, 720, false},
-        {"Código", 3060, 360, false},
-        {"Id. Fiscal", 2640, 1080, false},
-        {"CF", 5430, 1080, false},
-        {"Nº", 8160, 240, false},
+        {"LA ESQUINA DE ÑANDÚ", kCliente, 60, true},
+        {"Código", 3240, 330, false},
+        {"Cliente", 3120, 690, false},
+        {"Id. Fiscal", 2760, 1050, false},
+        {"CF", 5760, 1050, false},
+        {"Nº", 8160, 210, false},
         {"Código", 240, 1680, true},
         {"Artículo", 1500, 1680, true},
         {"P. Unit.", 6285, 1680, true},
         {"Cantidad", 7725, 1680, true},
         {"Subtotal", 9180, 1680, true},
-        {"Subtotal", 7560, 4560, false},
-        {"IVA", 7560, 4845, false},
-        {"Percepción", 7560, 5130, false},
-        {"Total", 7560, 5415, false},
-        {"A pagar", 7560, 5700, true},
-        {"Descuento", 4740, 5700, false},
+        {"Subtotal", 7560, 4530, false},
+        {"IVA", 7560, 4815, false},
+        {"Percepción", 7560, 5100, false},
+        {"Total", 7560, 5385, false},
+        {"A pagar", 7560, 5670, true},
+        {"Descuento", 4440, 5670, false},
         {"Gracias por su compra", 240, 5940, false},
     };
     auto etiqueta = diseno.etiquetas.begin();
@@ -71,6 +74,11 @@ DisenoFactura Diseno() {
     for (auto campo = static_cast<std::size_t>(CampoFactura::DetCodigo);
          campo <= static_cast<std::size_t>(CampoFactura::DetSubtotal); ++campo)
         diseno.campos[campo].top = 1980;
+    constexpr float kCorrida = kCliente - 3840;
+    for (auto campo = static_cast<std::size_t>(CampoFactura::CliCodigo);
+         campo <= static_cast<std::size_t>(CampoFactura::CliCFinal); ++campo)
+        diseno.campos[campo].left += kCorrida;
+    diseno.campos[static_cast<std::size_t>(CampoFactura::Descuento)].left = 5640;
     PonerRotulos(diseno);
     return diseno;
 }

@@ -9,29 +9,26 @@
 #include "masterdata/ventanas/picclientes.h"
 #include "ui_frmestados.h"
 
+#include <QApplication>
+
 #include <algorithm>
 
 namespace tarvo {
 
 namespace {
 
-constexpr int kNombreMayor = 100;  // characters; no window shows more of a name
-constexpr int kHolgura = 6;        // pixels, for what the measure of a text leaves out
 constexpr int kDetalleMenor = 600; // twips, on the narrowest screens
 
 QString TextoMovimientos(int filas) {
     return filas == 1 ? QStringLiteral("1 movimiento") : QStringLiteral("%1 movimientos").arg(filas);
 }
 
-// Pixels that show the text of the label whole.
-int AnchoNombre(const QLabel &etiqueta) {
-    return etiqueta.fontMetrics().horizontalAdvance(etiqueta.text().left(kNombreMayor)) + kHolgura;
-}
-
 // What the visible list says while it has no rows.
 QString TextoVacio(const PantallaEstados &pantalla) {
     if (pantalla.devolucion)
         return QStringLiteral("No hay documentos para devolver.");
+    if (pantalla.ocultas)
+        return QStringLiteral("Las ventas contado de este cliente están ocultas.");
     switch (pantalla.lista) {
     case ListaCuenta::Contado:
         return QStringLiteral("Todavía no hay ventas contado.");
@@ -81,11 +78,13 @@ void FrmEstados::PrepararClientes() {
     connect(picClientes_, &PicClientes::Elegido, this, [this] { aceptado_ = true; });
     connect(picClientes_, &PicClientes::Cerrado, this, &FrmEstados::ClientesCerrado);
     filtro_->AlEscapar([this] { return picClientes_->Escapar(); });
+    filtro_->AlEscribir(picClientes_, [this](const QString &letra) { picClientes_->Buscar(letra); });
 }
 
 void FrmEstados::FiltrarCampos() {
     SoloCaracteres(ui_->txtCantidad, QStringLiteral("0123456789.,"));
     filtro_->AlFoco(ui_->txtCantidad, [this](bool entra) { logica_.FocoCantidad(entra); });
+    filtro_->AlEntrar(ui_->txtCantidad, [this] { EntrarCantidad(); });
 }
 
 void FrmEstados::Conectar() {
@@ -116,7 +115,6 @@ ListaVista *FrmEstados::Vista(ListaCuenta cual) const {
 void FrmEstados::Mostrar(const PantallaEstados &pantalla) {
     ui_->lblTitulo->setText(ReglasDe(pantalla.lista).titulo);
     ui_->lblCliente->setText(pantalla.cliente);
-    ui_->lblCliente->PonerAncho(AnchoNombre(*ui_->lblCliente));
     ui_->lblIdCliente->setText(pantalla.idCliente);
     ui_->lblCliente1->setVisible(pantalla.conCliente);
     ui_->lblSaldo1->setText(ReglasDe(pantalla.lista).rotulo);
@@ -229,6 +227,19 @@ void FrmEstados::PonerCantidad(const QString &texto) {
 
 void FrmEstados::EnfocarCantidad() {
     ui_->txtCantidad->setFocus();
+}
+
+// A code that a scanner typed is no amount: the field gives it up and stays.
+void FrmEstados::EntrarCantidad() {
+    constexpr int kCodigoMenor = 7;
+    const int leidas = filtro_->Leidas();
+    if (leidas < kCodigoMenor) {
+        ui_->cmdAgregar->setFocus();
+        return;
+    }
+    QApplication::beep();
+    ui_->txtCantidad->setText(
+        ui_->txtCantidad->text().chopped(std::min<qsizetype>(leidas, ui_->txtCantidad->text().size())));
 }
 
 void FrmEstados::AlternarCaja() {

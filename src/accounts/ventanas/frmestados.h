@@ -58,8 +58,8 @@ class FrmEstados : public VentanaModulo, private VistaEstados {
 
     void MostrarLista(const PantallaEstados &pantalla);
     void MostrarBotones(const PantallaEstados &pantalla);
-    void Alternar(bool seleccionando);
     void ClientesCerrado();
+    void EntrarCantidad();
     void AlternarCaja();
     void AjustarColumnas();
     ListaVista *Vista(ListaCuenta cual) const;

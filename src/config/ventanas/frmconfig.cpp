@@ -10,23 +10,17 @@
 #include "desktop/ventanas/filtrocampos.h"
 #include "desktop/ventanas/iconos.h"
 #include "desktop/ventanas/paneles.h"
+#include "desktop/ventanas/tamano.h"
 #include "documents/ventanas/frmfactura.h"
 #include "ui_frmconfig.h"
 
 #include <QKeyEvent>
-#include <QScreen>
 #include <QStandardItemModel>
 #include <QTimer>
 
 namespace tarvo {
 
-namespace {
-
-// What the desktop puts around a window, in pixels: on a small screen the dialog leaves it that room.
-constexpr int kMarcoVentana = 8;
-constexpr int kTituloVentana = 36;
-
-} // namespace
+namespace {} // namespace
 
 FrmConfig::FrmConfig(const Servicios &servicios, bool abrirDisenador, QWidget *padre)
     : QDialog(padre), ui_(std::make_unique<Ui::FrmConfig>()), arbol_(new QStandardItemModel(this)) {
@@ -36,8 +30,7 @@ FrmConfig::FrmConfig(const Servicios &servicios, bool abrirDisenador, QWidget *p
     Llenar();
     ConectarTeclas();
     SeleccionarNodo(abrirDisenador ? kNodoImpresion : 0);
-    const QSize cabe = screen()->availableSize() - QSize(kMarcoVentana, kTituloVentana);
-    resize(size().expandedTo(sizeHint()).boundedTo(cabe));
+    resize(LoQueCabe(*this, size().expandedTo(sizeHint())));
     const auto disenar = [this, servicios] { FrmFactura(servicios, this).exec(); };
     connect(frImpresion, &PanelImpresion::DisenadorPedido, this, disenar);
     if (abrirDisenador) // behind the showing of this window

@@ -37,9 +37,15 @@ void EtiquetaElidida::PonerAncho(int pixeles) {
 }
 
 QSize EtiquetaElidida::sizeHint() const {
+    return {ancho_ >= 0 ? ancho_ : AnchoPedido(), AltoDeUnaLinea()};
+}
+
+int EtiquetaElidida::AnchoPedido() const {
     constexpr int kSuficiente = 160;
-    const QSize medida = QLabel::sizeHint();
-    return {ancho_ >= 0 ? ancho_ : std::min(medida.width(), kSuficiente), AltoDeUnaLinea()};
+    constexpr int kHolgura = 6; // for what the measure of a text leaves out
+    if (letras_ == 0)
+        return std::min(QLabel::sizeHint().width(), kSuficiente);
+    return fontMetrics().horizontalAdvance(EnUnaLinea(text().left(letras_))) + kHolgura;
 }
 
 // Whatever the text holds, it is one line: the label never grows with it.

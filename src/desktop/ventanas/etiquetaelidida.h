@@ -9,6 +9,8 @@ namespace tarvo {
 class EtiquetaElidida : public QLabel {
     Q_OBJECT
     Q_PROPERTY(QString sugerencia MEMBER sugerencia_)
+    // Asks for the room of its first `letras` characters, instead of a modest one.
+    Q_PROPERTY(int letras MEMBER letras_)
   public:
     using QLabel::QLabel;
     // The width to ask for, in pixels, instead of what the text needs.
@@ -21,7 +23,9 @@ class EtiquetaElidida : public QLabel {
 
   private:
     int AltoDeUnaLinea() const;
+    int AnchoPedido() const;
     QString sugerencia_;
+    int letras_ = 0;
     int ancho_ = -1;
 };
 

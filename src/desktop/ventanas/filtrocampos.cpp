@@ -7,6 +7,7 @@
 #include <QCheckBox>
 #include <QChildEvent>
 #include <QComboBox>
+#include <QDateTimeEdit>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMouseEvent>
@@ -69,6 +70,13 @@ void Anotar(QObject *filtro, QHash<QObject *, Accion> &tabla, QWidget *control, 
 
 } // namespace
 
+QString CaracterDe(const QKeyEvent &evento) {
+    const bool conOrden =
+        (evento.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) != 0;
+    const QString texto = evento.text();
+    return conOrden || texto.isEmpty() || !texto.front().isPrint() ? QString() : texto;
+}
+
 FiltroCampos::FiltroCampos(QWidget *ventana) : QObject(ventana), ventana_(ventana) {
     Vigilar(ventana);
     connect(qApp, &QApplication::focusChanged, this,
@@ -89,6 +97,10 @@ void FiltroCampos::AlFoco(QWidget *control, std::function<void(bool)> accion) {
 
 void FiltroCampos::AlFlecha(QWidget *control, std::function<void(int)> accion) {
     Anotar(this, alFlecha_, control, std::move(accion));
+}
+
+void FiltroCampos::AlEscribir(QWidget *marco, std::function<void(const QString &)> accion) {
+    Anotar(this, alEscribir_, marco, std::move(accion));
 }
 
 void FiltroCampos::AlEscapar(std::function<bool()> accion) {
@@ -138,7 +150,7 @@ bool FiltroCampos::eventFilter(QObject *objeto, QEvent *evento) {
         return false;
     case QEvent::KeyPress: {
         auto *const tecla = static_cast<QKeyEvent *>(evento);
-        anterior_ = std::exchange(ultima_, {tecla->key(), tecla->timestamp(), tecla->isAutoRepeat()});
+        Apuntar(*tecla);
         return recibe->window() == ventana_->window() && Tecla(recibe, tecla);
     }
     case QEvent::FocusIn:
@@ -151,11 +163,27 @@ bool FiltroCampos::eventFilter(QObject *objeto, QEvent *evento) {
         if (auto *campo = qobject_cast<QLineEdit *>(recibe);
             campo != nullptr && campo == porRaton_ && !campo->hasSelectedText())
             campo->selectAll();
+        // Of a date or an hour the part that was clicked.
+        if (auto *momento = qobject_cast<QDateTimeEdit *>(ControlDe(recibe)); momento != nullptr)
+            momento->setSelectedSection(momento->currentSection());
         porRaton_ = nullptr;
         return false;
     default:
         return false;
     }
+}
+
+void FiltroCampos::Apuntar(const QKeyEvent &evento) {
+    anterior_ = ultima_;
+    ultima_ = {evento.key(), evento.timestamp(), evento.isAutoRepeat(), 0};
+    if (!CaracterDe(evento).isEmpty())
+        ultima_.leidas = Leidas() + 1;
+}
+
+int FiltroCampos::Leidas() const {
+    constexpr quint64 kRitmo = 100; // ms
+    const bool seguida = ultima_.momento != 0 && ultima_.momento - anterior_.momento < kRitmo;
+    return seguida ? anterior_.leidas : 0;
 }
 
 // A choice is never wheeled; a number or a date is while it is being edited.
@@ -172,9 +200,13 @@ bool FiltroCampos::Tecla(QWidget *recibe, QKeyEvent *evento) {
         escapeVisto_ = !hecho && recibe != ventana_;
         return hecho;
     }
-    if (recibe == ventana_ || !SinModificador(*evento))
+    if (recibe == ventana_)
         return false;
     QWidget *const control = ControlDe(recibe);
+    if (Escribir(control, *evento))
+        return true;
+    if (!SinModificador(*evento))
+        return false;
     if (EsEntrar(*evento))
         return Entrar(control, *evento);
     if (evento->key() == Qt::Key_Delete && alSuprimir_.contains(control)) {
@@ -183,6 +215,20 @@ bool FiltroCampos::Tecla(QWidget *recibe, QKeyEvent *evento) {
     }
     if ((evento->key() == Qt::Key_Up || evento->key() == Qt::Key_Down) && alFlecha_.contains(control)) {
         alFlecha_.value(control)(evento->key() == Qt::Key_Up ? 1 : -1);
+        return true;
+    }
+    return false;
+}
+
+// The blank presses the button and marks the row.
+bool FiltroCampos::Escribir(QWidget *control, const QKeyEvent &evento) {
+    const QString caracter = evento.key() == Qt::Key_Space ? QString() : CaracterDe(evento);
+    if (caracter.isEmpty() || EsCampo(control))
+        return false;
+    for (auto una = alEscribir_.cbegin(); una != alEscribir_.cend(); ++una) {
+        if (!static_cast<const QWidget *>(una.key())->isAncestorOf(control))
+            continue;
+        una.value()(caracter);
         return true;
     }
     return false;
@@ -204,7 +250,7 @@ bool FiltroCampos::Entrar(QWidget *control, const QKeyEvent &evento) {
         return true;
     }
     if (auto *boton = qobject_cast<QAbstractButton *>(control); boton != nullptr && !boton->isCheckable()) {
-        if (!Sostenida(evento))
+        if (!Sostenida(evento) && Leidas() == 0)
             boton->click();
         return true;
     }

@@ -18,6 +18,9 @@ class QWidget;
 
 namespace tarvo {
 
+// The character that this key types, empty when it types none.
+QString CaracterDe(const QKeyEvent &evento);
+
 class FiltroCampos : public QObject {
     Q_OBJECT
   public:
@@ -33,6 +36,12 @@ class FiltroCampos : public QObject {
     void AlFoco(QWidget *control, std::function<void(bool entra)> accion);
     // The up (+1) and down (-1) arrows in `control`.
     void AlFlecha(QWidget *control, std::function<void(int paso)> accion);
+    // A character (not the blank) that is typed on a control of `marco` without text of its own, as on a
+    // list.
+    void AlEscribir(QWidget *marco, std::function<void(const QString &caracter)> accion);
+    // How many characters came before the Enter that is being handled at the pace of a scanner, which ends
+    // its codes so. Such an Enter presses no button.
+    int Leidas() const;
     // Escape anywhere in the window; the action returns false when it had nothing to do.
     void AlEscapar(std::function<bool()> accion);
 
@@ -44,12 +53,15 @@ class FiltroCampos : public QObject {
         int tecla = 0;
         quint64 momento = 0; // ms
         bool repetida = false;
+        int leidas = 0; // characters at the pace of a scanner, of which it is the last
     };
+    void Apuntar(const QKeyEvent &evento);
 
     void Vigilar(QWidget *control);
     QWidget *ControlDe(QWidget *recibe) const;
     bool AdmiteRueda(QWidget *recibe) const;
     bool Tecla(QWidget *recibe, QKeyEvent *evento);
+    bool Escribir(QWidget *control, const QKeyEvent &evento);
     bool Entrar(QWidget *control, const QKeyEvent &evento);
     bool Sostenida(const QKeyEvent &evento) const;
     bool Escapar();
@@ -61,6 +73,7 @@ class FiltroCampos : public QObject {
     QHash<QObject *, std::function<void()>> alSuprimir_;
     QHash<QObject *, std::function<void(bool)>> alFoco_;
     QHash<QObject *, std::function<void(int)>> alFlecha_;
+    QHash<QObject *, std::function<void(const QString &)>> alEscribir_;
     std::function<bool()> alEscapar_;
     QPointer<QWidget> enfocado_; // control whose entering was told; stays it while another window is active
     QPointer<QWidget> porRaton_; // field that a mouse button, still down, gave the focus

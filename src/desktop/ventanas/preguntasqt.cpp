@@ -1,5 +1,7 @@
 #include "desktop/ventanas/preguntasqt.h"
 
+#include "desktop/ventanas/filtrocampos.h"
+
 #include <QApplication>
 #include <QFileDialog>
 #include <QMessageBox>
@@ -24,6 +26,7 @@ QMessageBox::Icon IconoDeCaja(Icono icono) {
 }
 
 void Preparar(QMessageBox &caja, const QString &texto, Icono icono) {
+    new FiltroCampos(&caja); // no scan answers it
     caja.setWindowTitle(QStringLiteral("Tarvo"));
     caja.setTextFormat(Qt::PlainText);
     caja.setText(texto);

@@ -6,6 +6,7 @@
 #include <QGridLayout>
 #include <QMainWindow>
 #include <QRegularExpression>
+#include <QScreen>
 
 #include <utility>
 
@@ -51,6 +52,11 @@ QFont LetraDelPrograma(double puntos) {
 }
 
 } // namespace
+
+QSize LoQueCabe(const QWidget &ventana, const QSize &medida) {
+    const QSize marco(16, 40);
+    return medida.boundedTo(ventana.screen()->availableSize() - marco);
+}
 
 Tamano::Tamano(QApplication &aplicacion, QString hoja)
     : QObject(&aplicacion), aplicacion_(aplicacion), hoja_(std::move(hoja)) {

@@ -3,12 +3,16 @@
 #pragma once
 
 #include <QObject>
+#include <QSize>
 
 class QApplication;
 class QLayout;
 class QWidget;
 
 namespace tarvo {
+
+// As much of `medida` as the screen of `ventana` has room for, beside what the desktop puts around a window.
+QSize LoQueCabe(const QWidget &ventana, const QSize &medida);
 
 class Tamano final : public QObject {
     Q_OBJECT

@@ -2,13 +2,13 @@
 
 #include "desktop/ventanas/estilo.h"
 #include "desktop/ventanas/filtrocampos.h"
+#include "desktop/ventanas/tamano.h"
 #include "documents/ventanas/frmfacturaadmin.h"
 #include "documents/ventanas/frmfacturaetiqueta.h"
 #include "store/store.h"
 #include "ui_frmfactura.h"
 
 #include <QFileInfo>
-#include <QScreen>
 #include <QShortcut>
 
 namespace tarvo {
@@ -71,11 +71,10 @@ void FrmFactura::ConectarOrdenes() {
 }
 
 void FrmFactura::CrearTeclas() {
-    QUndoStack &historia = disenador_.Historia();
     const auto *deshacer = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_Z), this);
     const auto *rehacer = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_Y), this);
-    connect(deshacer, &QShortcut::activated, &historia, &QUndoStack::undo);
-    connect(rehacer, &QShortcut::activated, &historia, &QUndoStack::redo);
+    connect(deshacer, &QShortcut::activated, &disenador_, &Disenador::Deshacer);
+    connect(rehacer, &QShortcut::activated, &disenador_, &Disenador::Rehacer);
 }
 
 void FrmFactura::Presentar() {
@@ -83,8 +82,7 @@ void FrmFactura::Presentar() {
     mesa.setColor(QPalette::Window, colores::kEncabezado);
     ui_->mesa->setPalette(mesa);
     ui_->mesa->setAutoFillBackground(true);
-    const QSize borde(16, 40); // of the window's own frame, which isn't known before it shows
-    resize(kTamano.boundedTo(screen()->availableSize() - borde));
+    resize(LoQueCabe(*this, kTamano));
 }
 
 void FrmFactura::MostrarPosicion() {

@@ -1,6 +1,7 @@
 #include "documents/ventanas/frmfacturaadmin.h"
 
 #include "desktop/ventanas/filtrocampos.h"
+#include "desktop/ventanas/tamano.h"
 #include "documents/disenador.h"
 #include "ui_frmfacturaadmin.h"
 
@@ -14,6 +15,7 @@ FrmFacturaAdmin::FrmFacturaAdmin(Disenador &disenador, QWidget *padre)
       ui_(std::make_unique<Ui::FrmFacturaAdmin>()),
       campos_({{.titulo = QStringLiteral("Campo"), .ancho = 6000}}) {
     ui_->setupUi(this);
+    resize(LoQueCabe(*this, size()));
     auto *filtro = new FiltroCampos(this);
     filtro->AlEscapar([this] {
         reject();

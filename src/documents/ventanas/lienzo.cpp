@@ -14,9 +14,20 @@ namespace tarvo {
 namespace {
 
 constexpr int kLetra = 11; // pixels: a field is 16 high
+constexpr int kLetraMenor = 8;
 constexpr int kSangria = 2;
 const QColor kColorEtiqueta(192, 192, 255);
 const QColor kColorGuia(200, 24, 48);
+
+// The caption of a field stands in it whole, if need be in smaller type.
+int Letra(QFont letra, const QString &rotulo, int ancho) {
+    for (int pixeles = kLetra; pixeles > kLetraMenor; --pixeles) {
+        letra.setPixelSize(pixeles);
+        if (QFontMetrics(letra).horizontalAdvance(rotulo) <= ancho)
+            return pixeles;
+    }
+    return kLetraMenor;
+}
 
 Qt::Alignment Alineacion(int valor) {
     const Qt::AlignmentFlag lado = valor == 1   ? Qt::AlignRight
@@ -131,10 +142,13 @@ void Lienzo::Vestir(PiezaLienzo &pieza) {
     const int numero = pieza.Numero();
     QFont letra = font();
     letra.setPixelSize(kLetra);
-    if (numero == pieza::kLogo) {
+    if (numero < pieza::kLogo) {
+        const int ancho = disenador_->EnLienzo(numero).width() - 2 * kSangria;
+        letra.setPixelSize(Letra(letra, pieza.text(), ancho));
+    } else if (numero == pieza::kLogo) {
         if (std::exchange(logo_, disenador_->Logo().cacheKey()) != disenador_->Logo().cacheKey())
             pieza.setPixmap(QPixmap::fromImage(disenador_->Logo()));
-    } else if (numero > pieza::kLogo) {
+    } else {
         const auto lugar = static_cast<std::size_t>(numero - pieza::kEtiquetas);
         const EtiquetaLibre &etiqueta = disenador_->Diseno().etiquetas[lugar];
         letra.setBold(etiqueta.negrita);

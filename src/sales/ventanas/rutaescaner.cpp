@@ -1,5 +1,7 @@
 #include "sales/ventanas/rutaescaner.h"
 
+#include "desktop/ventanas/filtrocampos.h"
+
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
@@ -23,14 +25,6 @@ constexpr qsizetype kCodigoMenor = 3; // characters that come in the rhythm of a
 bool EsEntrar(const QKeyEvent &evento) {
     return (evento.modifiers() & ~Qt::KeypadModifier) == 0 &&
            (evento.key() == Qt::Key_Return || evento.key() == Qt::Key_Enter);
-}
-
-// The character that this key types, empty when it types none.
-QString CaracterDe(const QKeyEvent &evento) {
-    const bool conOrden =
-        (evento.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) != 0;
-    const QString texto = evento.text();
-    return conOrden || texto.isEmpty() || !texto.front().isPrint() ? QString() : texto;
 }
 
 bool EsModificador(int tecla) {

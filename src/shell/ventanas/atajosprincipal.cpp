@@ -41,7 +41,7 @@ void AtajosPrincipal::Guardar() {
     archivo.setDirectWriteFallback(true);
     const QByteArray contenido = atajos_.Archivo();
     if (!archivo.open(QIODevice::WriteOnly) || archivo.write(contenido) != contenido.size() ||
-        !archivo.commit())
+        !archivo.flush() || !archivo.commit())
         preguntas_.Informar(
             QStringLiteral(
                 "No se pudieron guardar las teclas en \"%1\": %2\nValen hasta que cierre el programa.")

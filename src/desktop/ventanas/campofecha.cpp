@@ -1,0 +1,178 @@
+#include "desktop/ventanas/campofecha.h"
+
+#include "desktop/ventanas/filtrocampos.h"
+
+#include <QApplication>
+#include <QCalendarWidget>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QSignalBlocker>
+#include <QTextCharFormat>
+#include <QToolTip>
+
+#include <algorithm>
+#include <utility>
+
+namespace tarvo {
+
+namespace {
+
+const QString kForma = QStringLiteral("dd/MM/yyyy");
+constexpr int kCifrasAnio = 4;
+
+bool EsSeparador(const QString &texto) {
+    return texto == QLatin1String("/") || texto == QLatin1String("-") || texto == QLatin1String(".");
+}
+
+bool PideCalendario(const QKeyEvent &evento) {
+    const auto teclas = evento.modifiers() & ~Qt::KeypadModifier;
+    return (evento.key() == Qt::Key_Down && teclas == Qt::AltModifier) ||
+           (evento.key() == Qt::Key_F4 && teclas == Qt::NoModifier);
+}
+
+} // namespace
+
+CampoFecha::CampoFecha(QWidget *padre) : QDateEdit(padre) {
+    const QLocale espanol(QLocale::Spanish);
+    setLocale(espanol);
+    setDisplayFormat(kForma);
+    setCalendarPopup(true);
+    lineEdit()->installEventFilter(this);
+    QCalendarWidget &calendario = *calendarWidget();
+    calendario.setLocale(espanol);
+    calendario.setFirstDayOfWeek(Qt::Monday);
+    calendario.setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
+    for (const Qt::DayOfWeek dia : {Qt::Saturday, Qt::Sunday})
+        calendario.setWeekdayTextFormat(dia, {});
+    // The names of the days and six weeks, whole: the calendar by itself asks for less.
+    calendario.setMinimumSize(fontMetrics().height() * QSize(18, 14));
+}
+
+void CampoFecha::keyPressEvent(QKeyEvent *evento) {
+    const QString caracter = CaracterDe(*evento);
+    if (caracter.size() == 1 && caracter.front().isDigit()) {
+        Cifra(caracter.front().digitValue());
+    } else if (EsSeparador(caracter)) {
+        Separar();
+    } else if (PideCalendario(*evento)) {
+        Terminar();
+        AbrirCalendario();
+    } else {
+        DejarParte();
+        QDateEdit::keyPressEvent(evento);
+    }
+}
+
+// The Tab key, which walks the parts.
+bool CampoFecha::focusNextPrevChild(bool siguiente) {
+    DejarParte();
+    return QDateEdit::focusNextPrevChild(siguiente);
+}
+
+void CampoFecha::stepBy(int pasos) {
+    Terminar();
+    QDateEdit::stepBy(pasos);
+}
+
+bool CampoFecha::eventFilter(QObject *objeto, QEvent *evento) {
+    if (evento->type() == QEvent::MouseButtonPress)
+        Terminar();
+    return QDateEdit::eventFilter(objeto, evento);
+}
+
+void CampoFecha::mousePressEvent(QMouseEvent *evento) {
+    Terminar();
+    QDateEdit::mousePressEvent(evento);
+}
+
+void CampoFecha::focusOutEvent(QFocusEvent *evento) {
+    Terminar();
+    QDateEdit::focusOutEvent(evento);
+}
+
+void CampoFecha::Cifra(int cifra) {
+    if (date() != puesta_)
+        dia_ = valor_ = cifras_ = 0;
+    pasada_ = false;
+    const bool dia = currentSection() == DaySection;
+    const bool anio = currentSection() == YearSection;
+    const int mayor = dia ? 31 : anio ? 9999 : 12;
+    const int valor = valor_ * 10 + cifra;
+    const int cifras = cifras_ + 1;
+    if (valor > mayor || (valor == 0 && cifras == 2 && !anio)) {
+        QApplication::beep();
+        return;
+    }
+    valor_ = valor;
+    cifras_ = cifras;
+    if (anio)
+        return cifras == kCifrasAnio ? Terminar() : MostrarAnio();
+    if (dia && valor > 0)
+        dia_ = valor;
+    Poner(dia || valor == 0 ? date().month() : valor, date().year());
+    setSelectedSection(currentSection());
+    if (cifras == 2 || valor * 10 > mayor) {
+        Pasar();
+        pasada_ = true;
+    }
+}
+
+// The separator behind a part that has passed on by itself is only written, and passes nothing.
+void CampoFecha::Separar() {
+    if (!std::exchange(pasada_, false) && currentSection() != YearSection)
+        Pasar();
+}
+
+void CampoFecha::Pasar() {
+    valor_ = cifras_ = 0;
+    setSelectedSection(currentSection() == DaySection ? MonthSection : YearSection);
+}
+
+// The day that was typed waits on for its month.
+void CampoFecha::DejarParte() {
+    if (currentSection() == YearSection)
+        Terminar();
+    valor_ = cifras_ = 0;
+    pasada_ = false;
+}
+
+void CampoFecha::Poner(int mes, int anio) {
+    const QDate primero(anio, mes, 1);
+    const int dia = dia_ > 0 ? dia_ : date().day();
+    setDate(primero.addDays(std::min(dia, primero.daysInMonth()) - 1));
+    puesta_ = date();
+}
+
+// A year that isn't whole yet is no date: it stands in the field alone.
+void CampoFecha::MostrarAnio() {
+    const QSignalBlocker callado(lineEdit());
+    lineEdit()->setText(date().toString(QStringLiteral("dd/MM/")) + QString::number(valor_));
+}
+
+// What was typed becomes a date. A year of three figures is none, and the old one stays.
+void CampoFecha::Terminar() {
+    const int anio = cifras_ <= 2 ? 2000 + valor_ : valor_;
+    if (currentSection() == YearSection && cifras_ > 0) {
+        const bool esAnio = cifras_ <= 2 || QDate(anio, 1, 1) >= minimumDate();
+        Poner(date().month(), esAnio ? anio : date().year());
+        setSelectedSection(YearSection);
+    }
+    if (dia_ > date().day() && date() == puesta_) {
+        QApplication::beep();
+        QToolTip::showText(mapToGlobal(QPoint(0, height())),
+                           QStringLiteral("Ese mes tiene %1 días.").arg(date().daysInMonth()), this);
+    }
+    dia_ = valor_ = cifras_ = 0;
+    pasada_ = false;
+}
+
+// As a click on the arrow does, which is all that opens it.
+void CampoFecha::AbrirCalendario() {
+    const QPointF flecha(width() - height() / 2.0, height() / 2.0);
+    for (const QEvent::Type tipo : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+        QMouseEvent clic(tipo, flecha, mapToGlobal(flecha), Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(this, &clic);
+    }
+}
+
+} // namespace tarvo
