@@ -52,8 +52,9 @@ void AplicarEstilo(QApplication &aplicacion) {
     QApplication::setPalette(PaletaClara());
     QFile hoja(QStringLiteral(":/estilo.qss"));
     hoja.open(QIODevice::ReadOnly); // compiled in
-    new Tamano(aplicacion, QString::fromUtf8(hoja.readAll()));
-    new MarcoFoco(aplicacion);
+    const auto *tamano = new Tamano(aplicacion, QString::fromUtf8(hoja.readAll()));
+    auto *marco = new MarcoFoco(aplicacion);
+    QObject::connect(tamano, &Tamano::Cambiado, marco, &MarcoFoco::Retomar, Qt::QueuedConnection);
     PrepararAcceso();
 }
 

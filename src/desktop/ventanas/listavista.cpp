@@ -182,6 +182,7 @@ void ListaVista::changeEvent(QEvent *evento) {
 
 void ListaVista::paintEvent(QPaintEvent *evento) {
     QTreeView::paintEvent(evento);
+    actualVista_ = viewport()->rect().intersects(visualRect(currentIndex()));
     if (MotivoVacia().isEmpty() || lista_.isNull() || lista_->Filas() > 0)
         return;
     constexpr int kAire = 16;
@@ -201,6 +202,8 @@ void ListaVista::doItemsLayout() {
 void ListaVista::resizeEvent(QResizeEvent *evento) {
     QTreeView::resizeEvent(evento);
     RepartirAnchos();
+    if (actualVista_)
+        scrollTo(currentIndex());
 }
 
 void ListaVista::keyPressEvent(QKeyEvent *evento) {

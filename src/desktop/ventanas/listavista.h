@@ -73,6 +73,7 @@ class ListaVista : public QTreeView {
     QPointer<ListaTexto> lista_;
     std::vector<int> anchos_;     // twips, by column
     std::vector<int> necesarios_; // pixels that the texts of each column need; empty: to be measured
+    bool actualVista_ = false;    // the current row was in sight when the list was last painted
     QString textoVacio_;
     bool ilegible_ = false;
     bool repartiendo_ = false;

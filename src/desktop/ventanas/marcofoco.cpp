@@ -66,6 +66,11 @@ MarcoFoco::MarcoFoco(QApplication &aplicacion) : QObject(&aplicacion) {
             [this](const QWidget *, QWidget *ahora) { Seguir(ahora); });
 }
 
+void MarcoFoco::Retomar() {
+    Seguir(nullptr);
+    Seguir(QApplication::focusWidget());
+}
+
 void MarcoFoco::Seguir(QWidget *control) {
     if (marco_ == nullptr && control != nullptr && !control->isWindow())
         marco_ = new QFocusFrame(control);

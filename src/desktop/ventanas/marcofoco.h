@@ -31,6 +31,8 @@ class MarcoFoco final : public QObject {
     Q_OBJECT
   public:
     explicit MarcoFoco(QApplication &aplicacion);
+    // Draws the ring anew around what has the focus: a change of the whole style loses it.
+    void Retomar();
 
   private:
     void Seguir(QWidget *control);

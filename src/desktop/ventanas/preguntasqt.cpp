@@ -4,8 +4,10 @@
 
 #include <QApplication>
 #include <QFileDialog>
+#include <QHeaderView>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QTreeView>
 
 namespace tarvo {
 
@@ -53,6 +55,8 @@ void PrepararArchivo(QFileDialog &dialogo, const PedidoRuta &pedido) {
     const QStringList filtros = FiltrosDeDialogo(pedido.filtro);
     dialogo.setFileMode(QFileDialog::AnyFile);
     dialogo.setNameFilters(filtros);
+    if (auto *lista = dialogo.findChild<QTreeView *>(QStringLiteral("treeView")))
+        lista->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     if (pedido.para != PedidoRuta::Para::Guardar)
         return;
     dialogo.setAcceptMode(QFileDialog::AcceptSave);

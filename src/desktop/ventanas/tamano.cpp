@@ -84,6 +84,7 @@ void Tamano::Poner(bool grande) {
     aplicacion_.setStyleSheet(Hoja());
     for (QWidget *control : QApplication::allWidgets())
         EspaciarVentana(control);
+    emit Cambiado();
 }
 
 void Tamano::EspaciarVentana(QWidget *control) const {

@@ -26,6 +26,9 @@ class Tamano final : public QObject {
 
     bool Grande() const { return grande_; }
 
+  signals:
+    void Cambiado();
+
   protected:
     bool eventFilter(QObject *objeto, QEvent *evento) override;
 

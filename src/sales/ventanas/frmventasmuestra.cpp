@@ -116,9 +116,11 @@ void FrmVentas::AjustarColumnas() {
 
 void FrmVentas::resizeEvent(QResizeEvent *evento) {
     VentanaModulo::resizeEvent(evento);
-    constexpr int kAltoHolgado = 640; // pixels; below it the card takes no line of its own
+    constexpr int kAltoHolgado = 640; // pixels; below it the card is one line
+    constexpr int kAltoJusto = 480;   // below it that line is shared
     const bool plegada = height() < kAltoHolgado;
-    pie_->setDirection(plegada ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+    const bool compartida = height() < kAltoJusto;
+    pie_->setDirection(compartida ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
     ui_->cmdNuevo->setProperty("compacto", plegada);
     ui_->cmdNuevo->style()->polish(ui_->cmdNuevo);
     frUltimo->Plegar(plegada);
