@@ -145,6 +145,7 @@ void CampoFecha::Poner(int mes, int anio) {
 
 // A year that isn't whole yet is no date: it stands in the field alone.
 void CampoFecha::MostrarAnio() {
+    puesta_ = date();
     const QSignalBlocker callado(lineEdit());
     lineEdit()->setText(date().toString(QStringLiteral("dd/MM/")) + QString::number(valor_));
 }
