@@ -97,6 +97,10 @@ TEST_F(VentanaEstados, ReturnModeDisablesWhatChoosesAViewAndChecksRowsThatItSele
     lista->SeleccionarFila(-1);
     lista->Lista()->setData(lista->Lista()->index(0, 0), Qt::Checked, Qt::CheckStateRole);
     EXPECT_EQ(lista->FilaActual(), 0);
+    const QRect celda = lista->visualRect(lista->Lista()->index(0, contado::Detalle));
+    QTest::mouseClick(lista->viewport(), Qt::LeftButton, {}, celda.center());
+    Pulsa(Qt::Key_Space);
+    EXPECT_FALSE(lista->Lista()->Marcada(0));
     Clic("cmdCancelarDevolver");
     EXPECT_EQ(lista->Lista()->Filas(), 2);
     EXPECT_TRUE(Habilitado("frCont1"));

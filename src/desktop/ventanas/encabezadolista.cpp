@@ -54,6 +54,12 @@ bool EncabezadoLista::viewportEvent(QEvent *evento) {
     return true;
 }
 
+// Two quick clicks are two clicks.
+void EncabezadoLista::mouseDoubleClickEvent(QMouseEvent *evento) {
+    QHeaderView::mouseDoubleClickEvent(evento);
+    mousePressEvent(evento);
+}
+
 // The picture brings its own margins along.
 int EncabezadoLista::LadoIcono() const {
     return fontMetrics().ascent() * 3 / 4;

@@ -16,6 +16,7 @@ class EncabezadoLista final : public QHeaderView {
     void paintSection(QPainter *pintor, const QRect &zona, int seccion) const override;
     QSize sectionSizeFromContents(int seccion) const override;
     bool viewportEvent(QEvent *evento) override;
+    void mouseDoubleClickEvent(QMouseEvent *evento) override;
 
   private:
     int LadoIcono() const;

@@ -207,7 +207,7 @@ void ListaVista::resizeEvent(QResizeEvent *evento) {
 }
 
 void ListaVista::keyPressEvent(QKeyEvent *evento) {
-    if (OrdenarPorTecla(*evento))
+    if (OrdenarPorTecla(*evento) || MarcarPorTecla(*evento))
         return;
     const int antes = FilaActual();
     QTreeView::keyPressEvent(evento);
@@ -246,6 +246,15 @@ bool ListaVista::OrdenarPorTecla(const QKeyEvent &evento) {
         if (!isColumnHidden(columna) && visibles-- == 0)
             emit header()->sectionClicked(columna);
     return true;
+}
+
+// The check mark of the row, whichever of its cells was clicked.
+bool ListaVista::MarcarPorTecla(const QKeyEvent &evento) {
+    const QModelIndex marca = currentIndex().siblingAtColumn(0);
+    if (evento.key() != Qt::Key_Space || !marca.flags().testFlag(Qt::ItemIsUserCheckable))
+        return false;
+    const bool marcada = marca.data(Qt::CheckStateRole).toInt() == Qt::Checked;
+    return model()->setData(marca, marcada ? Qt::Unchecked : Qt::Checked, Qt::CheckStateRole);
 }
 
 // --- widths

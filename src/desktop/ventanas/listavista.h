@@ -67,6 +67,7 @@ class ListaVista : public QTreeView {
     int Medir(int columna, const QStringList &textos) const;
     void Ensanchar(int desde, int hasta);
     bool OrdenarPorTecla(const QKeyEvent &evento);
+    bool MarcarPorTecla(const QKeyEvent &evento);
     QString MotivoVacia() const;
     void DecirVacia();
     void Arrastrado();
