@@ -139,6 +139,7 @@ void SuperficiePintada::Posicion(int xTwips, int yTwips) {
 
 void SuperficiePintada::Imagen(const QImage &imagen, int xTwips, int yTwips, int anchoTwips, int altoTwips) {
     const QPoint lugar = EnPapel(xTwips, yTwips);
+    pintor_.setRenderHint(QPainter::LosslessImageRendering); // a logo has few colours and sharp edges
     pintor_.drawImage(QRectF(PuntosDispositivo(lugar.x()), PuntosDispositivo(lugar.y()),
                              PuntosDispositivo(anchoTwips), PuntosDispositivo(altoTwips)),
                       imagen);

@@ -49,11 +49,11 @@ void PonerRotulos(DisenoFactura &diseno) {
         {"P. Unit.", 6285, 1680, true},
         {"Cantidad", 7725, 1680, true},
         {"Subtotal", 9180, 1680, true},
-        {"Subtotal", 7560, 4530, false},
-        {"IVA", 7560, 4815, false},
-        {"Percepción", 7560, 5100, false},
-        {"Total", 7560, 5385, false},
-        {"A pagar", 7560, 5670, true},
+        {"Subtotal", 7440, 4530, false},
+        {"IVA", 7440, 4815, false},
+        {"Percepción", 7440, 5100, false},
+        {"Total", 7440, 5385, false},
+        {"A pagar", 7440, 5670, true},
         {"Descuento", 4440, 5670, false},
         {"Gracias por su compra", 240, 5940, false},
     };
@@ -76,8 +76,9 @@ DisenoFactura Diseno() {
         diseno.campos[campo].top = 1980;
     constexpr float kCorrida = kCliente - 3840;
     for (auto campo = static_cast<std::size_t>(CampoFactura::CliCodigo);
-         campo <= static_cast<std::size_t>(CampoFactura::CliCFinal); ++campo)
+         campo <= static_cast<std::size_t>(CampoFactura::CliIdFiscal); ++campo)
         diseno.campos[campo].left += kCorrida;
+    diseno.campos[static_cast<std::size_t>(CampoFactura::CliCFinal)].left = 6120;
     diseno.campos[static_cast<std::size_t>(CampoFactura::Descuento)].left = 5640;
     PonerRotulos(diseno);
     return diseno;
