@@ -20,7 +20,7 @@ const QColor kColorEtiqueta(192, 192, 255);
 const QColor kColorGuia(200, 24, 48);
 
 // The caption of a field stands in it whole, if need be in smaller type.
-int Letra(QFont letra, const QString &rotulo, int ancho) {
+int AltoDeLetra(QFont letra, const QString &rotulo, int ancho) {
     for (int pixeles = kLetra; pixeles > kLetraMenor; --pixeles) {
         letra.setPixelSize(pixeles);
         if (QFontMetrics(letra).horizontalAdvance(rotulo) <= ancho)
@@ -144,7 +144,7 @@ void Lienzo::Vestir(PiezaLienzo &pieza) {
     letra.setPixelSize(kLetra);
     if (numero < pieza::kLogo) {
         const int ancho = disenador_->EnLienzo(numero).width() - 2 * kSangria;
-        letra.setPixelSize(Letra(letra, pieza.text(), ancho));
+        letra.setPixelSize(AltoDeLetra(letra, pieza.text(), ancho));
     } else if (numero == pieza::kLogo) {
         if (std::exchange(logo_, disenador_->Logo().cacheKey()) != disenador_->Logo().cacheKey())
             pieza.setPixmap(QPixmap::fromImage(disenador_->Logo()));
