@@ -17,10 +17,10 @@ namespace tarvo {
 
 namespace {
 
-const QString kForma = QStringLiteral("dd/MM/yyyy");
+const QString kFormaFecha = QStringLiteral("dd/MM/yyyy");
 constexpr int kCifrasAnio = 4;
 
-bool EsSeparador(const QString &texto) {
+bool SeparaPartes(const QString &texto) {
     return texto == QLatin1String("/") || texto == QLatin1String("-") || texto == QLatin1String(".");
 }
 
@@ -35,7 +35,7 @@ bool PideCalendario(const QKeyEvent &evento) {
 CampoFecha::CampoFecha(QWidget *padre) : QDateEdit(padre) {
     const QLocale espanol(QLocale::Spanish);
     setLocale(espanol);
-    setDisplayFormat(kForma);
+    setDisplayFormat(kFormaFecha);
     setCalendarPopup(true);
     lineEdit()->installEventFilter(this);
     QCalendarWidget &calendario = *calendarWidget();
@@ -52,7 +52,7 @@ void CampoFecha::keyPressEvent(QKeyEvent *evento) {
     const QString caracter = CaracterDe(*evento);
     if (caracter.size() == 1 && caracter.front().isDigit()) {
         Cifra(caracter.front().digitValue());
-    } else if (EsSeparador(caracter)) {
+    } else if (SeparaPartes(caracter)) {
         Separar();
     } else if (PideCalendario(*evento)) {
         Terminar();
