@@ -8,11 +8,15 @@
 
 #include <QIODevice>
 
+#include <algorithm>
+#include <optional>
+#include <string>
+
 namespace tarvo {
 
 namespace {
 
-constexpr std::size_t kTanda = std::size_t{64} * 1024; // bytes that are encoded and written at a time
+constexpr std::size_t kTanda = std::size_t{64} * 1024; // bytes that are written at a time
 
 void EscribirCabecera(ExcelFile &hoja, const TablaExportacion &tabla, const Exportable &lo) {
     hoja.EWriteString(3, 3, tabla.titulo);
@@ -42,26 +46,37 @@ void EscribirPie(ExcelFile &hoja, const TablaExportacion &tabla, const Exportabl
     hoja.EWriteString(fila, tabla.columnaPie + 1, lo.saldo);
 }
 
-// The cell has something that is shown as a blank: a control character, a line or paragraph separator.
-bool CortaLinea(std::string_view utf8) {
-    for (std::size_t i = 0; i < utf8.size(); ++i) {
-        const auto byte = static_cast<unsigned char>(utf8[i]);
-        const auto sigue = [&](std::size_t n) {
-            return i + n < utf8.size() ? static_cast<unsigned char>(utf8[i + n]) : 0U;
-        };
-        if (byte < 0x20 || byte == 0x7F || (byte == 0xC2 && sigue(1) < 0xA0) ||
-            (byte == 0xE2 && sigue(1) == 0x80 && (sigue(2) == 0xA8 || sigue(2) == 0xA9)))
-            return true;
-    }
-    return false;
+bool EsLlana(char letra) {
+    return letra >= 0x20 && letra < 0x7F;
 }
 
-void AgregarCelda(std::string &linea, std::string_view utf8) {
-    if (CortaLinea(utf8))
-        linea +=
-            EnUnaLinea(QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()))).toStdString();
-    else
-        linea += utf8;
+// The letter that the text begins with, when it is one of U+00A0 to U+00FF: the code page numbers these
+// alike.
+std::optional<char> Acentuada(std::string_view utf8) {
+    const auto byte = [utf8](std::size_t i) { return static_cast<unsigned char>(utf8[i]); };
+    if (utf8.size() < 2 || (byte(1) & 0xC0) != 0x80)
+        return std::nullopt;
+    if (byte(0) != 0xC3 && (byte(0) != 0xC2 || byte(1) < 0xA0))
+        return std::nullopt;
+    return static_cast<char>((byte(0) & 3) << 6 | (byte(1) & 0x3F));
+}
+
+// One cell in Windows-1252. Plain letters are copied and accents computed, which is nearly every text; a rest
+// with anything else is converted.
+void AgregarCelda(std::string &tanda, std::string_view utf8) {
+    while (true) {
+        const auto llanas = static_cast<std::size_t>(std::ranges::find_if_not(utf8, EsLlana) - utf8.begin());
+        tanda.append(utf8.data(), llanas);
+        utf8.remove_prefix(llanas);
+        const std::optional<char> letra = Acentuada(utf8);
+        if (!letra)
+            break;
+        tanda += *letra;
+        utf8.remove_prefix(2);
+    }
+    if (!utf8.empty())
+        tanda += AWindows1252(EnUnaLinea(QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()))))
+                     .toStdString();
 }
 
 } // namespace
@@ -84,7 +99,7 @@ void EscribirTexto(QIODevice &salida, const TablaExportacion &tabla, const Lista
     const int campos = static_cast<int>(tabla.columnas.size());
     std::string tanda;
     const auto escribir = [&] {
-        salida.write(AWindows1252(QString::fromStdString(tanda)));
+        salida.write(tanda.data(), static_cast<qint64>(tanda.size()));
         tanda.clear();
     };
     for (int fila = 0; fila < lista.Filas(); ++fila) {
