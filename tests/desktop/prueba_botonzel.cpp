@@ -149,9 +149,10 @@ TEST(PintorBoton, DrawsGradientAndFrame) {
     boton.conRaton = true;
     EXPECT_EQ(fila(pintado(), 2), QColor(Qt::white));
     boton.presionado = true;
-    EXPECT_EQ(fila(pintado(), 28), Desplazado(boton.fondo, -48));
-    EXPECT_EQ(fila(pintado(), 1), Desplazado(boton.fondo, 16));
-    EXPECT_EQ(pintado().pixelColor(58, 15), Desplazado(boton.fondo, -36));
+    EXPECT_EQ(fila(pintado(), 1), boton.enfocado) << "the frame of the pressed one";
+    EXPECT_EQ(fila(pintado(), 27), Desplazado(boton.fondo, -48));
+    EXPECT_EQ(fila(pintado(), 2), Desplazado(boton.fondo, 16));
+    EXPECT_EQ(pintado().pixelColor(57, 15), Desplazado(boton.fondo, -36));
 }
 
 } // namespace

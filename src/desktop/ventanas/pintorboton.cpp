@@ -29,9 +29,10 @@ constexpr Linea kBajoRaton[] = {{Qt::TopEdge, 1, -40},
                                 {Qt::BottomEdge, 1, 35},
                                 {Qt::LeftEdge, 2, 20},
                                 {Qt::RightEdge, 2, 20}};
-constexpr Linea kPresionado[] = {{Qt::BottomEdge, 1, -48}, {Qt::BottomEdge, 2, -32}, {Qt::RightEdge, 1, -36},
-                                 {Qt::RightEdge, 2, -24},  {Qt::TopEdge, 1, 16},     {Qt::TopEdge, 2, 10},
-                                 {Qt::LeftEdge, 1, -5},    {Qt::LeftEdge, 2, -10}};
+// Inside the rectangle of the pressed frame.
+constexpr Linea kPresionado[] = {{Qt::BottomEdge, 2, -48}, {Qt::BottomEdge, 3, -32}, {Qt::RightEdge, 2, -36},
+                                 {Qt::RightEdge, 3, -24},  {Qt::TopEdge, 2, 16},     {Qt::TopEdge, 3, 10},
+                                 {Qt::LeftEdge, 2, -5},    {Qt::LeftEdge, 3, -10}};
 
 class Pintor {
   public:
@@ -71,17 +72,22 @@ class Pintor {
         for (const QPoint esquina :
              {esquinas.topLeft(), esquinas.topRight(), esquinas.bottomLeft(), esquinas.bottomRight()})
             p_.drawPoint(esquina);
-        if (b_.presionado)
+        if (b_.presionado) {
             Trazar(kPresionado, b_.fondo);
-        else if (b_.conRaton)
+            MarcoInterior(b_.enfocado);
+        } else if (b_.conRaton) {
             Luces(kBajoRaton, b_.bajoRaton);
-        else if (b_.conFoco)
+        } else if (b_.conFoco) {
             Luces(kEnfocado, b_.enfocado);
+        }
     }
     template <std::size_t N> void Luces(const Linea (&lineas)[N], const QColor &color) {
+        MarcoInterior(color);
+        Trazar(lineas, color);
+    }
+    void MarcoInterior(const QColor &color) {
         p_.setPen(color);
         p_.drawRect(b_.zona.adjusted(1, 1, -2, -2));
-        Trazar(lineas, color);
     }
     template <std::size_t N> void Trazar(const Linea (&lineas)[N], const QColor &color) {
         for (const Linea &linea : lineas)
