@@ -1,5 +1,7 @@
 #include "desktop/ventanas/filtrocampos.h"
 
+#include "desktop/ventanas/botonzel.h"
+
 #include <QAbstractButton>
 #include <QAbstractSpinBox>
 #include <QAction>
@@ -58,6 +60,14 @@ void PasarAlSiguiente(QWidget *control) {
     for (int i = 0; i == 0 || (i < partes && control->hasFocus()); ++i) {
         QKeyEvent tabulador(QEvent::KeyPress, Qt::Key_Tab, Qt::NoModifier);
         QCoreApplication::sendEvent(control, &tabulador);
+    }
+}
+
+// A stroke that came as the repeat of another one: the key went up and down.
+void PulsarDeNuevo(QObject &boton, const QKeyEvent &evento) {
+    for (const QEvent::Type tipo : {QEvent::KeyRelease, QEvent::KeyPress}) {
+        QKeyEvent una(tipo, evento.key(), evento.modifiers(), evento.text());
+        boton.event(&una);
     }
 }
 
@@ -248,6 +258,12 @@ bool FiltroCampos::Entrar(QWidget *control, const QKeyEvent &evento) {
     if (alEntrar_.contains(control)) {
         alEntrar_.value(control)();
         return true;
+    }
+    if (qobject_cast<BotonZel *>(control) != nullptr) {
+        const bool otra = evento.isAutoRepeat() && !Sostenida(evento);
+        if (otra)
+            PulsarDeNuevo(*control, evento);
+        return otra; // else the button takes the key itself
     }
     if (auto *boton = qobject_cast<QAbstractButton *>(control); boton != nullptr && !boton->isCheckable()) {
         if (!Sostenida(evento) && Leidas() == 0)
