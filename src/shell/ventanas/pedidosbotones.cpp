@@ -39,7 +39,18 @@ QUrl PedidosBotones::Sonido(const QString &ruta) const {
     return QFileInfo::exists(incluido) ? QUrl(QStringLiteral("qrc") + incluido) : QUrl();
 }
 
+// Sounds stay with the device that was there when they were made.
+void PedidosBotones::OlvidarAudio() {
+    hayAudio_.reset();
+    sonidos_.clear();
+}
+
 void PedidosBotones::Tocar(const QString &ruta) {
+    if (!dispositivos_) {
+        dispositivos_ = std::make_unique<QMediaDevices>();
+        connect(dispositivos_.get(), &QMediaDevices::audioOutputsChanged, this,
+                &PedidosBotones::OlvidarAudio);
+    }
     if (!hayAudio_)
         hayAudio_ = !QMediaDevices::defaultAudioOutput().isNull();
     if (!*hayAudio_)

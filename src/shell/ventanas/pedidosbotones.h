@@ -11,6 +11,8 @@
 #include <memory>
 #include <optional>
 
+class QMediaDevices;
+
 namespace tarvo {
 
 class Escritorio;
@@ -29,11 +31,13 @@ class PedidosBotones : public QObject {
     bool eventFilter(QObject *objeto, QEvent *evento) override;
 
   private:
+    void OlvidarAudio();
     void Tocar(const QString &ruta);
 
     Escritorio &escritorio_;
     QString carpeta_;
-    std::optional<bool> hayAudio_; // known from the first sound on
+    std::unique_ptr<QMediaDevices> dispositivos_; // from the first sound on
+    std::optional<bool> hayAudio_;                // until a device comes or goes
     QHash<QString, std::shared_ptr<QSoundEffect>> sonidos_;
 };
 
