@@ -27,11 +27,32 @@ QMessageBox::Icon IconoDeCaja(Icono icono) {
     return QMessageBox::NoIcon;
 }
 
+// A long path must not make the box larger than the screen: the middle of a long text is left out, and a word
+// that is too long for a line can be broken.
+QString ParaCaja(const QString &texto) {
+    constexpr qsizetype kComienzo = 250;
+    constexpr qsizetype kFinal = 350; // what is asked stands there
+    constexpr int kPalabra = 40;
+    constexpr char16_t kCorte = 0x200B;
+    const bool cabe = texto.size() <= kComienzo + kFinal;
+    QString cortado;
+    int seguidas = 0;
+    for (const QChar letra : cabe ? texto : texto.left(kComienzo) + QChar(u'…') + texto.right(kFinal)) {
+        seguidas = letra.isSpace() ? 0 : seguidas + 1;
+        if (seguidas > kPalabra && !letra.isLowSurrogate()) {
+            cortado += QChar(kCorte);
+            seguidas = 1;
+        }
+        cortado += letra;
+    }
+    return cortado;
+}
+
 void Preparar(QMessageBox &caja, const QString &texto, Icono icono) {
     new FiltroCampos(&caja); // no scan answers it
     caja.setWindowTitle(QStringLiteral("Tarvo"));
     caja.setTextFormat(Qt::PlainText);
-    caja.setText(texto);
+    caja.setText(ParaCaja(texto));
     caja.setIcon(IconoDeCaja(icono));
 }
 
