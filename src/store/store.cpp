@@ -79,6 +79,10 @@ FrmBases::~FrmBases() {
     }
 }
 
+void FrmBases::AlAbrirse(std::function<void(const ResultadoApertura &)> avisar) {
+    alAbrirse_ = std::move(avisar);
+}
+
 void FrmBases::AlDanarse(std::function<void(const QString &, const QString &)> avisar) {
     alDanarse_ = std::move(avisar);
 }
@@ -106,6 +110,13 @@ void FrmBases::AbrirUsuarios() {
 }
 
 ResultadoApertura FrmBases::Abrir() {
+    ResultadoApertura resultado = AbrirArchivos();
+    if (alAbrirse_)
+        alAbrirse_(resultado);
+    return resultado;
+}
+
+ResultadoApertura FrmBases::AbrirArchivos() {
     Cerrar();
     ResultadoApertura resultado;
     try {

@@ -58,6 +58,8 @@ class FrmBases {
     const QString &CarpetaDatos() const { return carpeta_; }
     // Another folder of five files, from the next opening on.
     void PonerCarpetaDatos(const QString &carpeta) { carpeta_ = carpeta; }
+    // `avisar` is called with what each opening comes to; nothing that was known of the files holds then.
+    void AlAbrirse(std::function<void(const ResultadoApertura &)> avisar);
     // `avisar` is called with a file ("articulos.mdb") and a reason when a read finds it damaged; once for
     // each file and opening. Writes to that file are refused from then on.
     void AlDanarse(std::function<void(const QString &archivo, const QString &motivo)> avisar);
@@ -68,10 +70,12 @@ class FrmBases {
   private:
     friend class Transaccion;
     friend class DatosPrueba; // tests read the open files through the connection that holds them
+    ResultadoApertura AbrirArchivos();
     void AbrirTablas(ResultadoApertura &resultado);
 
     QString carpeta_;
     Moneda moneda_;
+    std::function<void(const ResultadoApertura &)> alAbrirse_;
     std::function<void(const QString &, const QString &)> alDanarse_;
     std::unique_ptr<Conexion> conexion_;
 

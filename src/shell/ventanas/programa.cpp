@@ -57,7 +57,7 @@ void Programa::Arrancar() {
         if (resultado.estado == EstadoApertura::Bloqueada)
             Abandonar(MensajeBloqueada(), Icono::Informacion);
         else
-            MostrarPrincipal(resultado);
+            MostrarPrincipal();
     } catch (const std::exception &error) {
         Abandonar(QString::fromUtf8(error.what()), Icono::Critico);
     }
@@ -69,17 +69,17 @@ ResultadoApertura Programa::AbrirDatos() {
     impresoras_ =
         std::make_unique<ImpresorasSistema>(reloj_, QFileInfo(datos).path() + QStringLiteral("/Impresos"));
     frmBases_ = std::make_unique<FrmBases>(datos, LeerRegional(ajustes_));
+    frmBases_->AlAbrirse([this](const ResultadoApertura &resultado) { AnotarApertura(resultado); });
     frmBases_->AlDanarse(
-        [this](const QString &archivo, const QString &motivo) { Avisar(AvisoDano(archivo, motivo)); });
+        [this](const QString &archivo, const QString &motivo) { AnotarDano(archivo, motivo); });
     return AbrirBases(*frmBases_);
 }
 
-void Programa::MostrarPrincipal(const ResultadoApertura &resultado) {
+void Programa::MostrarPrincipal() {
     const Servicios servicios{*frmBases_, preguntas_, reloj_, *impresoras_, ajustes_, escritorio_};
     pedidos_ = std::make_unique<PedidosBotones>(escritorio_, carpetaPrograma_);
     frmPrincipal_ = std::make_unique<FrmPrincipal>(servicios, Componer(servicios), carpetaPrograma_);
-    Avisar(AvisoLugar(frmBases_->CarpetaDatos(), carpetaPrograma_));
-    Avisar(AvisoApertura(resultado));
+    MostrarAvisos();
     QGuiApplication::setQuitOnLastWindowClosed(true);
     frmPrincipal_->Presentar(ATwips(frmPrincipal_->screen()->size().width()));
     if (opciones_.usuarios)
@@ -87,10 +87,21 @@ void Programa::MostrarPrincipal(const ResultadoApertura &resultado) {
                            [this, servicios] { MostrarUsuarios(servicios, frmPrincipal_.get()); });
 }
 
-void Programa::Avisar(const QString &aviso) {
-    avisos_.prepend(aviso);
+// A restore may have mended what an earlier opening told.
+void Programa::AnotarApertura(const ResultadoApertura &resultado) {
+    avisosDatos_ = {AvisoApertura(resultado)};
+    MostrarAvisos();
+}
+
+void Programa::AnotarDano(const QString &archivo, const QString &motivo) {
+    avisosDatos_.prepend(AvisoDano(archivo, motivo));
+    MostrarAvisos();
+}
+
+void Programa::MostrarAvisos() {
     if (frmPrincipal_)
-        frmPrincipal_->PonerAviso(UnirAvisos(avisos_));
+        frmPrincipal_->PonerAviso(
+            UnirAvisos(avisosDatos_ + QStringList{AvisoLugar(frmBases_->CarpetaDatos(), carpetaPrograma_)}));
 }
 
 void Programa::Abandonar(const QString &mensaje, Icono icono) {

@@ -40,9 +40,12 @@ class Programa : public QObject {
     void Presentar();
     void Arrancar();
     ResultadoApertura AbrirDatos();
-    void MostrarPrincipal(const ResultadoApertura &resultado);
-    // One more notice for the status bar, before the ones that stand there; nothing when it is empty.
-    void Avisar(const QString &aviso);
+    void MostrarPrincipal();
+    // What the status bar tells of the data: where they are, what an opening came to, what was found damaged
+    // since then.
+    void AnotarApertura(const ResultadoApertura &resultado);
+    void AnotarDano(const QString &archivo, const QString &motivo);
+    void MostrarAvisos();
     void Abandonar(const QString &mensaje, Icono icono);
     void Cerrar();
 
@@ -50,7 +53,7 @@ class Programa : public QObject {
     QString carpetaPrograma_;
     QString carpetaUsuario_;
     OpcionesInicio opciones_;
-    QStringList avisos_;
+    QStringList avisosDatos_; // the newest first
     QSettings ajustes_;
     RelojSistema reloj_;
     EscritorioQt escritorio_;
