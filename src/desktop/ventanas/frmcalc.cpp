@@ -17,6 +17,7 @@ namespace tarvo {
 namespace {
 
 constexpr QSize kTamano(260, 360);
+constexpr int kAnchoMenor = 200;
 constexpr int kAltoDisplay = 56;
 constexpr int kBordesDisplay = 24;    // pixels beside the text
 constexpr double kLetraDisplay = 2.4; // times the program's type
@@ -48,7 +49,6 @@ FrmCalc::FrmCalc(const QString &sDecimal, QWidget *principal)
     installEventFilter(this);
     for (QWidget *control : findChildren<QWidget *>())
         control->installEventFilter(this);
-    resize(kTamano);
     Alinear(*principal);
     Mostrar();
     cmdEquals->setFocus();
@@ -115,10 +115,12 @@ void FrmCalc::CrearBotones(QGridLayout &rejilla) {
     cmdEquals->setProperty("principal", true);
 }
 
-// The right edges of both windows stand one below the other, as far as the screen reaches.
+// The right edges of both windows stand one below the other, as far as the screen reaches. Over a small main
+// window it takes a third of its width, so that most of the module stays in sight.
 void FrmCalc::Alinear(const QWidget &principal) {
     const QRect ventana = principal.geometry();
-    QRect lugar({0, 0}, kTamano);
+    const int ancho = std::clamp(ventana.width() / 3, kAnchoMenor, kTamano.width());
+    QRect lugar(0, 0, ancho, kTamano.height() * ancho / kTamano.width());
     lugar.moveTopRight({ventana.right(), ventana.top() + kBajoBarra});
     const QRect pantalla = principal.screen()->availableGeometry();
     lugar.moveBottom(qMin(lugar.bottom(), pantalla.bottom()));

@@ -43,6 +43,7 @@ FrmUsuarios::FrmUsuarios(const Servicios &servicios, QWidget *padre)
     });
     connect(ui_->txtUsuClave, &QLineEdit::textChanged, this, [this] { logica_->VigilarClave(); });
     connect(controles_, &ControlesDetalle::FilasCambiadas, this, &FrmUsuarios::AjustarColumnas);
+    connect(ui_->cmdCerrar, &QPushButton::clicked, this, &QDialog::reject);
     ConectarTeclas();
     logica_->LlenarLista();
     controles_->EnfocarLista();

@@ -97,6 +97,9 @@ void FrmAtajos::cmdRestablecer_Click() {
 }
 
 void FrmAtajos::cmdRestablecerTodo_Click() {
+    if (!preguntas_.Confirma(QStringLiteral("Está seguro de querer restablecer todas las teclas?"),
+                             Respuesta::No))
+        return;
     atajos_.RestablecerTodos();
     Cambiados();
 }
