@@ -36,6 +36,14 @@ std::string_view ListaTexto::CeldaUtf8(int fila, int columna) const {
     return d_->Celda(fila, columna);
 }
 
+const ColumnaTexto &ListaTexto::ColumnaGuardada(int columna) const {
+    return d_->Columna(columna);
+}
+
+std::int64_t ListaTexto::FilaGuardada(int fila) const {
+    return d_->Guardada(fila);
+}
+
 QStringList ListaTexto::MasLargos(int columna, int cuantos) const {
     const ColumnaTexto &celdas = d_->Columna(columna);
     QStringList textos;

@@ -43,6 +43,10 @@ class ListaTexto : public QAbstractTableModel {
     QString Celda(int fila, int columna) const;
     std::string_view CeldaUtf8(int fila, int columna) const; // valid until the list is next changed
 
+    // For walks over very many cells: a whole column, and the row of it that stands in that row of the list.
+    const ColumnaTexto &ColumnaGuardada(int columna) const;
+    std::int64_t FilaGuardada(int fila) const;
+
     // The longest texts of a column, at most `cuantos` of them.
     QStringList MasLargos(int columna, int cuantos) const;
 

@@ -119,6 +119,10 @@ Cerrojo::~Cerrojo() {
     ::close(fd_);
 }
 
+void AnunciarEscritura(int fd) {
+    ::sync_file_range(fd, 0, 0, SYNC_FILE_RANGE_WRITE);
+}
+
 Archivo::Archivo(const QString &ruta, Modo modo) : ruta_(ruta), fd_(Abrir(ruta, modo)) {
     if (fd_ >= 0) {
         ::posix_fadvise(fd_, 0, 0, POSIX_FADV_SEQUENTIAL);
@@ -160,6 +164,11 @@ void Archivo::Rebobinar() {
         Fallar("leer", ruta_);
 }
 
+// A file system that can't do it does as well without.
+void Archivo::Reservar(qint64 bytes) const {
+    ::fallocate(fd_, FALLOC_FL_KEEP_SIZE, 0, bytes);
+}
+
 void Archivo::Escribir(const char *datos, qint64 bytes) {
     for (qint64 escritos = 0; escritos < bytes;) {
         const ssize_t n = ::write(fd_, datos + escritos, static_cast<std::size_t>(bytes - escritos));
@@ -170,8 +179,8 @@ void Archivo::Escribir(const char *datos, qint64 bytes) {
     }
 }
 
-void Archivo::AnunciarEscritura(qint64 desde, qint64 bytes) const {
-    ::sync_file_range(fd_, desde, bytes, SYNC_FILE_RANGE_WRITE);
+void Archivo::AnunciarEscritura() const {
+    tarvo::AnunciarEscritura(fd_);
 }
 
 void Archivo::EsperarEscritura(qint64 desde, qint64 bytes) const {

@@ -27,9 +27,12 @@ class Archivo {
     // The next bytes, as many as there are up to `bytes`; 0 at the end.
     qint64 Leer(char *datos, qint64 bytes);
     void Rebobinar();
+    // Has the disk set aside the room for so many bytes at once, which makes writing them faster.
+    void Reservar(qint64 bytes) const;
     void Escribir(const char *datos, qint64 bytes);
-    // Lets the disk begin to write these bytes; waits until it has taken them. Neither is a promise.
-    void AnunciarEscritura(qint64 desde, qint64 bytes) const;
+    // Lets the disk begin to write what it has not yet; waits until it has taken these bytes. Neither is a
+    // promise.
+    void AnunciarEscritura() const;
     void EsperarEscritura(qint64 desde, qint64 bytes) const;
     // Brings the file to the disk, and has it read from there, not from memory, the next time.
     void Sincronizar() const;
@@ -38,6 +41,9 @@ class Archivo {
     QString ruta_;
     int fd_;
 };
+
+// Lets the disk begin to write what that open file has and it has not yet. No promise.
+void AnunciarEscritura(int fd);
 
 // While it lives no other process gets the lock of that folder. Throws ErrorDatos(kBaseBloqueada) when
 // another has it.

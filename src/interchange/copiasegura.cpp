@@ -39,10 +39,11 @@ class Copia {
   private:
     void Escribir(Archivo &copia) {
         avance_.Empieza(nombre_, total_);
+        copia.Reservar(total_);
         qint64 hechos = 0;
         while (const qint64 bytes = origen_.Leer(bloque_.data(), kBloque)) {
             copia.Escribir(bloque_.data(), bytes);
-            copia.AnunciarEscritura(hechos, bytes);
+            copia.AnunciarEscritura();
             hechos += bytes;
             avance_.Hecho(hechos / 3);
         }

@@ -58,8 +58,21 @@ bool SePuedeReemplazar(const QString &ruta) {
            !EnUso(ruta) && SeRenombra(ruta);
 }
 
+// Has the disk begin with each piece at once, so that there is less to wait for at the end.
+class ArchivoNuevo final : public QSaveFile {
+  public:
+    using QSaveFile::QSaveFile;
+
+  protected:
+    qint64 writeData(const char *datos, qint64 bytes) override {
+        const qint64 escritos = QSaveFile::writeData(datos, bytes);
+        AnunciarEscritura(handle());
+        return escritos;
+    }
+};
+
 template <typename Escritor> void Guardar(Preguntas &preguntas, const QString &ruta, Escritor escribir) {
-    QSaveFile archivo(ruta);
+    ArchivoNuevo archivo(ruta);
     if (!archivo.open(QIODevice::WriteOnly)) {
         preguntas.Mostrar(NoEsPosible(), Icono::Critico);
         return;

@@ -9,6 +9,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPointer>
+#include <QShortcutEvent>
 #include <QStyleOptionButton>
 
 #include <memory>
@@ -238,6 +239,8 @@ bool BotonZel::event(QEvent *evento) {
         PonerBajoRaton(true);
     else if (evento->type() == QEvent::Leave || evento->type() == QEvent::Hide)
         PonerBajoRaton(false);
+    else if (evento->type() == QEvent::Shortcut)
+        return PulsarPorLetra(*static_cast<QShortcutEvent *>(evento));
     return QPushButton::event(evento);
 }
 
@@ -303,6 +306,15 @@ void BotonZel::PulsarPorTecla(int tecla) {
     repaint();
     nextCheckState();
     emit clicked(isChecked());
+}
+
+// At once, where a push button waits a moment: the next keys may be there already, meant for what it opens.
+bool BotonZel::PulsarPorLetra(QShortcutEvent &letra) {
+    if (letra.isAmbiguous())
+        return QPushButton::event(&letra);
+    setShortcutAutoRepeat(letra.shortcutId(), false);
+    click();
+    return true;
 }
 
 void BotonZel::keyReleaseEvent(QKeyEvent *evento) {

@@ -13,6 +13,8 @@
 #include <QPushButton>
 #include <QVariantMap>
 
+class QShortcutEvent;
+
 namespace tarvo {
 
 // What a button asks of the application object: a sound file to be played, or a link to be opened.
@@ -121,6 +123,7 @@ class BotonZel : public QPushButton {
     void RecortarEsquinas();
     void PonerBajoRaton(bool encima);
     void PulsarPorTecla(int tecla);
+    bool PulsarPorLetra(QShortcutEvent &letra);
     QIcon ImagenVisible() const;
     struct AspectoBoton Aspecto() const;
 

@@ -36,7 +36,8 @@ struct FrmCalc::Boton {
 };
 
 FrmCalc::FrmCalc(const QString &sDecimal, QWidget *principal)
-    : QWidget(principal, Qt::Dialog | Qt::WindowStaysOnTopHint),
+    : QWidget(principal, Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint |
+                             Qt::WindowStaysOnTopHint), // its title has no room for more buttons
       calculadora_(sDecimal),
       txtDisplay(new QLineEdit(this)) {
     setObjectName(QStringLiteral("frmCalc"));

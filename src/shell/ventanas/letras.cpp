@@ -39,7 +39,7 @@ bool PulsarLetra(const QWidget &raiz, const QKeySequence &letra) {
     if (boton == nullptr || boton->shortcut() != letra)
         control->setFocus(Qt::ShortcutFocusReason);
     if (boton != nullptr)
-        boton->animateClick();
+        boton->click();
     return true;
 }
 
