@@ -149,7 +149,7 @@ int main(int argc, char **argv) {
         const Medidas vacia = Medir({0, 0, 0});
         const Medidas medida = Medir(grande);
         tabla.Linea("start behind the splash, large shop / empty", medida.trasSplash.ms, vacia.trasSplash.ms,
-                    "ms", 1.5);
+                    "ms", 1.1);
         tabla.Linea("start without the splash, large shop / limit", medida.directo.ms, kLimiteDirecto, "ms",
                     1.0);
         tabla.Linea("memory of the started program, large / empty", medida.trasSplash.megas,

@@ -1,8 +1,9 @@
 #!/usr/bin/env bash
 # The shop's invoice form and one sale with its invoice in the real program, by real keys on a screen of its own, on a
 # fresh sample shop; then its customer's statement, a receipt, the return of the sale, the cash list and the cash sheet of
-# the day; exports, a backup that empties the sales, and their restore. Leaves the pictures of each stage, everything
-# printed or exported and the new rows in salida/, and fails when anything is not as it must be.
+# the day; exports, calculator, statistics, keys, a backup that empties the sales, their restore, and a user. Leaves the
+# pictures of each stage, everything printed or exported and the new rows in salida/, and fails when anything is not as it
+# must be.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 source tools/pantalla.sh
@@ -49,7 +50,8 @@ readonly ANTES VENTAS
 
 echo "Recorrido (${CLIENTE#*|}, artículos $IDS):"
 AbrirPantalla 1280x900 "$CARPETA/registros"
-XDG_CONFIG_HOME="$CARPETA/ajustes" QT_QPA_PLATFORM=xcb Iniciar "$CARPETA/tarvo"
+Arrancar() { XDG_CONFIG_HOME="$CARPETA/ajustes" QT_QPA_PLATFORM=xcb Iniciar "$CARPETA/tarvo" "$@"; }
+Arrancar
 HaySplash() { [ -n "$(VentanasVisibles)" ]; }
 Esperar 20 "el splash" HaySplash
 Retrato splash
@@ -167,6 +169,24 @@ Retrato opciones
 Tecla Escape
 EsperarPrincipal
 
+# The calculator beside a module, the statistics of both kinds, the keys.
+Tecla F2 F5
+EsperarCuadro "la calculadora"
+Escribir '12*3.5'
+Tecla Return
+Retrato calculadora
+Tecla F5 F2
+EsperarPrincipal
+Tecla F12
+Retrato estadisticas
+Tecla Tab space Tab Return
+Retrato estadisticas-ventas
+Tecla F12 ctrl+k
+EsperarCuadro "los atajos"
+Retrato atajos
+Tecla Escape
+EsperarPrincipal
+
 # Backup of everything, emptying the sales; then the sales come back from it.
 Seleccionada() { [ "$(xdotool getactivewindow)" = "$RESPALDO" ]; }
 Aceptar() {
@@ -198,10 +218,31 @@ Aceptar "el éxito de la recuperación" recuperado Return
 Tecla Escape
 EsperarPrincipal
 
-Tecla alt+F4
 Terminado() { ! kill -0 "$PROGRAMA"; }
-Esperar 15 "el fin del programa" Terminado
-wait "$PROGRAMA" || Fallar "el programa terminó con error"
+Salir() {
+    Tecla alt+F4
+    Esperar 15 "el fin del programa" Terminado
+    wait "$PROGRAMA" || Fallar "el programa terminó con error"
+}
+Salir
+
+# The users, whose window only this start shows: one is added.
+Arrancar --directo --usuarios
+Esperar 30 "la ventana principal" VentanaPrincipal
+EsperarCuadro "los usuarios"
+Tecla alt+n
+Escribir Ana
+Tecla Return Down Return
+Escribir clave
+Tecla Return
+Escribir clave
+Tecla Return
+Retrato usuarios
+Tecla alt+r
+EsperarPrincipal
+Salir
+[ "$(Consultar config "SELECT codigo || articulo || precio FROM Usuarios")" = Anaclavek917 ] ||
+    Fallar "el usuario no quedó guardado"
 
 # What the files hold now.
 [ "$(Consultar ventas 'SELECT count(*) FROM Ventas')" -eq $((VENTAS + 3)) ] || Fallar "no hay tres filas más"

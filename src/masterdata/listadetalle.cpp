@@ -57,7 +57,7 @@ void ListaDetalle::Llenar() {
     Senalar(-1);
     AlLlenar();
     CargarColumnas();
-    legible_ = true;
+    legible_ = reglas_.cursor.Abierto();
     if (reglas_.cursor.RecordCount() == 0) {
         lista_.Limpiar();
         QuedarSinFila(EstadoDetalle::Vacia);

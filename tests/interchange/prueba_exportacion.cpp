@@ -1,11 +1,13 @@
 // The export: what is written, byte for byte, its layouts and limits; the file that is picked, replaced, or
 // left alone.
 #include "desktop/listatexto.h"
+#include "desktop/unalinea.h"
 #include "desktop/windows1252.h"
 #include "interchange/excelfile.h"
 #include "interchange/exportacion.h"
 #include "interchange/mnuexportar.h"
 #include "interchange/tablaexportacion.h"
+#include "interchange/tandatexto.h"
 #include "testkit/archivos.h"
 #include "testkit/preguntasguion.h"
 
@@ -191,6 +193,22 @@ TEST(Texto, HasALineForEachRowInTheOrderOnScreenAndNothingElse) {
         EXPECT_EQ(datos.Texto(control), seis + "\r\n") << control;
     EXPECT_EQ(ListaExportada().Texto("LVClientes"), QByteArray());
     EXPECT_EQ(ListaExportada(20'000).Texto("LVArticulos").count("\r\n"), 20'000);
+}
+
+// Letters are copied eight by eight: wherever in a cell one stands, it comes out the same.
+TEST(Texto, ALetterIsTheSameAtAnyPlaceOfItsCell) {
+    for (const char *letra : {"", "é", "ÿ", "€", "\t", "\x7F", "\u0085", "\u2028", "\u4e00"})
+        for (const int antes : {0, 1, 3, 4, 6, 7, 8, 9, 15})
+            for (const int despues : {0, 1, 2, 7, 8, 70}) {
+                const QString texto =
+                    QString(antes, u'a') + QString::fromUtf8(letra) + QString(despues, u'z');
+                QBuffer salida;
+                salida.open(QIODevice::WriteOnly);
+                TandaTexto tanda(salida);
+                tanda.Celda(texto.toStdString());
+                tanda.Terminar();
+                ASSERT_EQ(salida.data(), AWindows1252(EnUnaLinea(texto))) << letra << antes << ' ' << despues;
+            }
 }
 
 // By a reader in Python, where it is installed; it insists on the document type of a worksheet.

@@ -26,6 +26,7 @@ class PruebaFallasCambio : public ConFallas {
             const Corrida corrida = Correr(orden, modo, n);
             if (!corrida.fallo) {
                 EXPECT_TRUE(corrida.Hecho()) << corrida.Texto();
+                RecordProperty(std::string(orden) + '-' + modo, n - 1);
                 return n - 1;
             }
             mirar(corrida);

@@ -172,6 +172,16 @@ TEST_F(PruebaRespaldo, FilesThatOthersHoldOrTookAwayAreTold) {
     }
 }
 
+TEST_F(PruebaRespaldo, ATargetThatGoesAwayIsToldAndNothingMoreIsEmptied) {
+    avance.antes = [this] {
+        return !QFile::exists(tienda.Ruta("copia/config.mdb")) ||
+               QDir(tienda.Ruta("copia")).removeRecursively();
+    };
+    EXPECT_EQ(Falla([&] { Respalda(kTodas, kTodas); }),
+              "No se pudo escribir \"ventas.mdb\": no se encuentra la ruta o el archivo.");
+    EXPECT_EQ(tienda.Marcas("Datos"), " viejo viejo viejo viejo");
+}
+
 TEST_F(PruebaRespaldo, TargetsThatCanNotBeMadeAreTold) {
     const QString larga = tienda.Carpeta() + u"/a"_qs.repeated(2100) + u'/';
     const char *const kNoHay = "No se pudo crear la carpeta \"x\": no se encuentra la ruta o el archivo.";

@@ -70,7 +70,7 @@ TEST(Atajos, ReadsUpToWhatIsWrong) {
 TEST(Atajos, AnyBytesLeaveOneKeyForEachEntry) {
     const QByteArray entero = Atajos().Archivo();
     std::mt19937 azar(20261122);
-    for (int vuelta = 0; vuelta < 20000; ++vuelta) {
+    for (int vuelta = 0; vuelta < 100'000; ++vuelta) {
         const Atajos leidos = Leidos(Estropeado(entero, azar));
         QSet<QString> teclas;
         for (const Entrada entrada : Atajos::Asignables()) {
@@ -119,6 +119,13 @@ TEST(FrmAtajos, AssignsTellsAndRestores) {
     EXPECT_EQ(lista->Lista()->Celda(lista->FilaActual(), 1), u"Ctrl+1");
     asignar("factura", "Ctrl+M"); // it starts without a key
     EXPECT_EQ(atajos.De(Entrada::Factura), Tecla("Ctrl+M"));
+    for (const Respuesta respuesta : {Respuesta::No, Respuesta::Si}) {
+        atajos.Poner(Entrada::Factura, Tecla("Ctrl+M"));
+        preguntas.Espera(QStringLiteral("Está seguro de querer restablecer todas las teclas?"), Respuesta::No,
+                         respuesta);
+        Pulsar(Control<QWidget>(frm, "cmdRestablecerTodo"));
+        EXPECT_EQ(atajos == Atajos(), respuesta == Respuesta::Si);
+    }
     tecla->setFocus();
     QTest::keyClick(tecla, Qt::Key_F2, Qt::ShiftModifier);
     QTest::keyClick(tecla, Qt::Key_Return); // assigns, and is no second stroke
@@ -128,7 +135,7 @@ TEST(FrmAtajos, AssignsTellsAndRestores) {
         Pulsar(Control<QWidget>(frm, "cmdRestablecer"));
     }
     EXPECT_EQ(atajos, Atajos());
-    EXPECT_EQ(cambios, 5);
+    EXPECT_EQ(cambios, 6);
 }
 
 } // namespace

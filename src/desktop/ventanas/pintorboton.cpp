@@ -59,8 +59,9 @@ class Pintor {
             return;
         const int filas = std::min(b_.hondura, b_.zona.height());
         for (int i = 0; i < filas; ++i) {
-            const Linea linea{b_.bisel == 1 ? Qt::TopEdge : Qt::BottomEdge, i, 0};
-            Trazar(linea, Desplazado(b_.fondo, kLuzBisel - kLuzBisel * i / b_.hondura));
+            const int y = b_.bisel == 1 ? b_.zona.top() + i : b_.zona.bottom() - i;
+            p_.fillRect(QRect(b_.zona.left(), y, b_.zona.width(), 1),
+                        Desplazado(b_.fondo, kLuzBisel - kLuzBisel * i / b_.hondura));
         }
     }
     void Marco() {

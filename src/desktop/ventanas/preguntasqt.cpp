@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QFileDialog>
 #include <QHeaderView>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTreeView>
@@ -76,14 +77,39 @@ void PrepararArchivo(QFileDialog &dialogo, const PedidoRuta &pedido) {
     const QStringList filtros = FiltrosDeDialogo(pedido.filtro);
     dialogo.setFileMode(QFileDialog::AnyFile);
     dialogo.setNameFilters(filtros);
-    if (auto *lista = dialogo.findChild<QTreeView *>(QStringLiteral("treeView")))
-        lista->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     if (pedido.para != PedidoRuta::Para::Guardar)
         return;
     dialogo.setAcceptMode(QFileDialog::AcceptSave);
     dialogo.setDefaultSuffix(Terminacion(filtros.value(0)));
     QObject::connect(&dialogo, &QFileDialog::filterSelected, &dialogo,
-                     [&dialogo](const QString &filtro) { dialogo.setDefaultSuffix(Terminacion(filtro)); });
+                     [&dialogo, filtros](const QString &elegido) { // it may come without its pattern
+                         for (const QString &filtro : filtros)
+                             if (filtro.startsWith(elegido))
+                                 dialogo.setDefaultSuffix(Terminacion(filtro));
+                     });
+}
+
+// Names as wide as there is room, sizes and dates whole; the kind is told by the picture.
+void AjustarColumnas(const QFileDialog &dialogo) {
+    constexpr int kTipo = 2;
+    const auto *const arbol = dialogo.findChild<QTreeView *>(QStringLiteral("treeView"));
+    if (arbol == nullptr)
+        return;
+    arbol->header()->setSectionHidden(kTipo, true);
+    arbol->header()->setStretchLastSection(false);
+    arbol->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    arbol->header()->setSectionResizeMode(0, QHeaderView::Stretch);
+}
+
+// The dialog takes double quotes for the ends of several names; here they are letters of one.
+QString Elegida(const QFileDialog &dialogo) {
+    const auto *const nombre = dialogo.findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
+    if (nombre == nullptr || !nombre->text().contains(u'"'))
+        return dialogo.selectedFiles().value(0);
+    const QString ruta = dialogo.directory().absoluteFilePath(nombre->text());
+    const QString terminacion = dialogo.defaultSuffix();
+    const bool completa = terminacion.isEmpty() || QFileInfo(ruta).fileName().contains(u'.');
+    return completa ? ruta : ruta + u'.' + terminacion;
 }
 
 } // namespace
@@ -118,7 +144,8 @@ QString PreguntasQt::ElegirRuta(const PedidoRuta &pedido) {
     } else {
         PrepararArchivo(dialogo, pedido);
     }
-    return dialogo.exec() == QDialog::Accepted ? dialogo.selectedFiles().value(0) : QString();
+    AjustarColumnas(dialogo);
+    return dialogo.exec() == QDialog::Accepted ? Elegida(dialogo) : QString();
 }
 
 } // namespace tarvo

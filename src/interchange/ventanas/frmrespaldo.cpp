@@ -47,15 +47,21 @@ FrmRespaldo::FrmRespaldo(const Servicios &servicios, QWidget *padre)
     ui_->txtRuta->setText(logica_.RutaInicial());
     ui_->txtRutaRecuperar->setText(logica_.RutaInicial());
     for (const Marcha *marcha : {&respaldo_, &recuperacion_}) {
-        QSizePolicy politica = marcha->tarjeta->sizePolicy();
-        politica.setRetainSizeWhenHidden(true);
-        marcha->tarjeta->setSizePolicy(politica);
+        for (QWidget *parte : marcha->Partes()) {
+            QSizePolicy politica = parte->sizePolicy();
+            politica.setRetainSizeWhenHidden(true);
+            parte->setSizePolicy(politica);
+        }
         MostrarMarcha(*marcha, false);
     }
     MostrarPanel(false);
 }
 
 FrmRespaldo::~FrmRespaldo() = default;
+
+std::array<QWidget *, 4> FrmRespaldo::Marcha::Partes() const {
+    return {tarjeta, barra, aguarde, detalle};
+}
 
 QCheckBox *FrmRespaldo::NuevaCasilla(const char *nombre, std::size_t base, const QString &titulo) {
     auto *casilla = new QCheckBox(titulo, this);
@@ -266,8 +272,7 @@ void FrmRespaldo::Timer_Timer() {
 }
 
 void FrmRespaldo::MostrarMarcha(const Marcha &marcha, bool visible) {
-    for (QWidget *parte : {marcha.tarjeta, static_cast<QWidget *>(marcha.barra),
-                           static_cast<QWidget *>(marcha.aguarde), static_cast<QWidget *>(marcha.detalle)})
+    for (QWidget *parte : marcha.Partes())
         parte->setVisible(visible);
     marcha.iniciar->setEnabled(!visible);
 }

@@ -46,6 +46,7 @@ class FrmRespaldo : public QDialog, private Avance {
         QLabel *aguarde;
         QLabel *detalle;
         QWidget *iniciar;
+        std::array<QWidget *, 4> Partes() const; // those that are seen meanwhile only
     };
 
     void CrearCasillas();
