@@ -211,6 +211,17 @@ TEST(Texto, ALetterIsTheSameAtAnyPlaceOfItsCell) {
             }
 }
 
+TEST(Texto, ACellMayBeLargerThanAPieceOfTheFile) {
+    QBuffer salida;
+    salida.open(QIODevice::WriteOnly);
+    TandaTexto tanda(salida);
+    const std::string enorme(5'000'000, 'x');
+    for (const std::string &celda : {std::string("a"), enorme, std::string("b")})
+        tanda.Celda(celda);
+    tanda.Terminar();
+    EXPECT_TRUE(salida.data() == "a" + QByteArray::fromStdString(enorme) + "b");
+}
+
 // By a reader in Python, where it is installed; it insists on the document type of a worksheet.
 TEST(OtroLector, ReadsTheCellsOfTheSpreadsheet) {
     const char *const programa = R"(
