@@ -89,7 +89,7 @@ TEST_F(DisenadorPrueba, DragsByTheMouseAndClampsAtTheDrop) {
     QTest::mousePress(nombre, Qt::LeftButton);
     Mover(nombre, {-50, 1000});
     Tecla(nombre, Qt::Key_Delete); // no key comes between
-    Tecla(frmFactura.get(), Qt::Key_Z, Qt::ControlModifier);
+    Ctrl(Qt::Key_Z);
     EXPECT_EQ(nombre->pos(), QPoint(-50, 1000));
     QTest::mouseRelease(nombre, Qt::LeftButton);
     EXPECT_EQ(nombre->pos(), QPoint(0, (6260 - 240) / 15));
