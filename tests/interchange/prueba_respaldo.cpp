@@ -177,7 +177,7 @@ TEST_F(PruebaRespaldo, ATargetThatGoesAwayIsToldAndNothingMoreIsEmptied) {
         return !QFile::exists(tienda.Ruta("copia/config.mdb")) ||
                QDir(tienda.Ruta("copia")).removeRecursively();
     };
-    EXPECT_EQ(Falla([&] { Respalda(kTodas, kTodas); }),
+    EXPECT_EQ(TextoDe([&] { Respalda(kTodas, kTodas); }),
               "No se pudo escribir \"ventas.mdb\": no se encuentra la ruta o el archivo.");
     EXPECT_EQ(tienda.Marcas("Datos"), " viejo viejo viejo viejo");
 }
