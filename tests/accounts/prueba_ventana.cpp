@@ -97,8 +97,7 @@ TEST_F(VentanaEstados, ReturnModeDisablesWhatChoosesAViewAndChecksRowsThatItSele
     lista->SeleccionarFila(-1);
     lista->Lista()->setData(lista->Lista()->index(0, 0), Qt::Checked, Qt::CheckStateRole);
     EXPECT_EQ(lista->FilaActual(), 0);
-    const QRect celda = lista->visualRect(lista->Lista()->index(0, contado::Detalle));
-    QTest::mouseClick(lista->viewport(), Qt::LeftButton, {}, celda.center());
+    ClicFila(lista, 0, lista->columnViewportPosition(contado::Detalle) + 5);
     Pulsa(Qt::Key_Space);
     EXPECT_FALSE(lista->Lista()->Marcada(0));
     Clic("cmdCancelarDevolver");

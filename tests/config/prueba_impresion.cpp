@@ -103,15 +103,11 @@ TEST_F(Impresion, OnePrinterIsCheckedPerPurposeAndStoredAtOnce) {
     EXPECT_EQ(ticket->FilaActual(), 0);
     EXPECT_FALSE(mundo.ajustes.contains(u"ImpList"_qs)); // filling chooses nothing
 
-    const auto clic = [](ListaVista *lista, int fila, int x) {
-        const QRect celda = lista->visualRect(lista->model()->index(fila, 0));
-        QTest::mouseClick(lista->viewport(), Qt::LeftButton, {}, QPoint(x, celda.center().y()));
-    };
-    clic(ticket, 0, 120);
+    ClicFila(ticket, 0, 120);
     EXPECT_EQ(marcas(ticket), u"x--");
-    clic(ticket, 0, 12); // the check box of the checked row: it can't be emptied
+    ClicFila(ticket, 0, 12); // the check box of the checked row: it can't be emptied
     EXPECT_EQ(marcas(ticket), u"x--");
-    clic(ticket, 2, 12);
+    ClicFila(ticket, 2, 12);
     EXPECT_EQ(marcas(ticket), u"--x");
     EXPECT_EQ(ticket->FilaActual(), 2);
     ASSERT_TRUE(listado->model()->setData(listado->model()->index(1, 0), Qt::Checked, Qt::CheckStateRole));

@@ -4,12 +4,10 @@
 #include "testkit/manos.h"
 
 #include <QCalendarWidget>
-#include <QLineEdit>
 #include <QVBoxLayout>
 
-#include <gtest/gtest.h>
-
-using namespace tarvo;
+namespace tarvo {
+namespace {
 
 TEST(CampoFecha, TakesADateAsItIsWritten) {
     QWidget ventana;
@@ -20,29 +18,27 @@ TEST(CampoFecha, TakesADateAsItIsWritten) {
     columna->addWidget(otro);
     const FiltroCampos filtro(&ventana);
     MostrarVentana(ventana);
-    const struct {
-        QDate antes;
-        const char *teclas;
-        QDate despues;
-    } casos[] = {
+    const std::tuple<QDate, const char *, QDate> casos[] = {
         {{2026, 11, 23}, "31122026", {2026, 12, 31}}, {{2026, 2, 15}, "30012026", {2026, 1, 30}},
         {{2026, 2, 15}, "29022024", {2024, 2, 29}},   {{2026, 8, 1}, "15/11/2026", {2026, 11, 15}},
         {{2026, 12, 1}, "01/05/2025", {2025, 5, 1}},  {{2026, 8, 1}, "5/3/26", {2026, 3, 5}},
         {{2026, 8, 1}, "1-12-2027", {2027, 12, 1}},   {{2026, 2, 15}, "31", {2026, 2, 28}},
         {{2026, 2, 15}, "00715", {2026, 1, 7}},       {{2026, 8, 9}, "1\t4", {2026, 4, 1}},
-        {{2026, 8, 1}, "//202", {2026, 8, 1}},
-    };
-    for (const auto &caso : casos) {
-        campo->setDate(caso.antes);
+        {{2026, 8, 1}, "//202", {2026, 8, 1}}};
+    for (const auto &[antes, teclas, despues] : casos) {
+        campo->setDate(antes);
         campo->setFocus(Qt::TabFocusReason);
-        for (const char tecla : QByteArray(caso.teclas))
+        for (const char tecla : QByteArray(teclas))
             tecla == '\t' ? Tecla(campo, Qt::Key_Tab) : QTest::keyClick(campo, tecla);
         otro->setFocus();
-        EXPECT_EQ(campo->date(), caso.despues) << caso.teclas << " " << campo->text().toStdString();
-        EXPECT_EQ(campo->text(), caso.despues.toString(QStringLiteral("dd/MM/yyyy")));
+        EXPECT_EQ(campo->date(), despues) << teclas << " " << campo->text().toStdString();
+        EXPECT_EQ(campo->text(), despues.toString(u"dd/MM/yyyy"_qs));
     }
     QTest::mouseClick(campo->findChild<QLineEdit *>(), Qt::LeftButton, {}, QPoint(4, 4));
-    EXPECT_EQ(campo->findChild<QLineEdit *>()->selectedText(), QStringLiteral("01"));
+    EXPECT_EQ(campo->findChild<QLineEdit *>()->selectedText(), u"01");
     Tecla(campo, Qt::Key_Down, Qt::AltModifier);
     EXPECT_TRUE(campo->calendarWidget()->isVisible());
 }
+
+} // namespace
+} // namespace tarvo

@@ -101,8 +101,7 @@ TEST_P(Catalogos, ShowsTheFirstRowInTextOrderAndFollowsClicksAndArrows) {
     LV()->setFocus();
     Pulsa(Qt::Key_Down);
     EXPECT_EQ(Texto("txtNombre"), u"Ana");
-    QTest::mouseClick(LV()->viewport(), Qt::LeftButton, {},
-                      LV()->visualRect(LV()->model()->index(2, 0)).center());
+    ClicFila(LV(), 2, 20);
     EXPECT_EQ(Texto("txtNombre"), u"Banana S.A.");
     LV()->Lista()->ClicEncabezado(1);
     Clic("cmdActualizar"); // the sort outlives a fill

@@ -46,8 +46,12 @@ class Emision : public ::testing::Test {
     ListaTexto clientes{ColumnasClientes()};
 };
 
-TEST_F(Emision, ACashSaleWritesOneRowAndTheStock) {
-    Abrir();
+class EmisionAbierta : public Emision {
+  protected:
+    void SetUp() override { Abrir(); }
+};
+
+TEST_F(EmisionAbierta, ACashSaleWritesOneRowAndTheStock) {
     venta->PonerDescuento(u"10"_qs);
     SeEmite();
     EXPECT_EQ(Ventas(),
@@ -56,8 +60,7 @@ TEST_F(Emision, ACashSaleWritesOneRowAndTheStock) {
     EXPECT_TRUE(mundo.impresoras.documentos.empty());
 }
 
-TEST_F(Emision, ACreditSaleCarriesItsCustomerAndAnEmptyNumber) {
-    Abrir();
+TEST_F(EmisionAbierta, ACreditSaleCarriesItsCustomerAndAnEmptyNumber) {
     venta->ElegirCliente(clientes, 1);
     venta->PonerPago(Pago::Credito);
     venta->PonerNumComp({});
@@ -65,8 +68,7 @@ TEST_F(Emision, ACreditSaleCarriesItsCustomerAndAnEmptyNumber) {
     EXPECT_EQ(Ventas(), u"22/11/2026|10:42|2|2|||Credito|Factura crédito|$ 437,50|$ 87,75|$ 525,25");
 }
 
-TEST_F(Emision, ANoLeavesEverything) {
-    Abrir();
+TEST_F(EmisionAbierta, ANoLeavesEverything) {
     mundo.preguntas.Espera(kConfirma, Si, No);
     EXPECT_EQ(EmitirVenta(), ResultadoEmision::NoConfirmada);
     EXPECT_EQ(venta->Detalle().Filas(), 2);
@@ -75,8 +77,7 @@ TEST_F(Emision, ANoLeavesEverything) {
 
 // The working stock is written and not a difference; a line whose article has gone writes nothing; a seller
 // that was renamed behind the window is left empty.
-TEST_F(Emision, WhatChangedBehindTheWindow) {
-    Abrir();
+TEST_F(EmisionAbierta, WhatChangedBehindTheWindow) {
     FrmBases &bases = mundo.frmBases();
     bases.datArticulos.MoveFirst();
     bases.camArtStock = u"500"_qs;
@@ -108,7 +109,8 @@ TEST_P(EmisionNegada, TakesTheWholeSaleBack) {
 INSTANTIATE_TEST_SUITE_P(
     Disco, EmisionNegada,
     testing::Values("CREATE TRIGGER ventas.negar BEFORE INSERT ON Ventas WHEN NEW.numcomp='malo' ",
-                    "CREATE TRIGGER articulos.negar BEFORE UPDATE ON Articulos WHEN NEW.stock='-2' "));
+                    "CREATE TRIGGER articulos.negar BEFORE UPDATE ON Articulos WHEN NEW.stock='-2' "),
+    [](const auto &caso) { return caso.index == 0 ? "venta" : "stock"; });
 
 TEST_F(Emision, ClosedTablesAreToldAndNothingIsWritten) {
     mundo.datos.Ejecutar("DROP TABLE ventas.Ventas");
@@ -150,8 +152,7 @@ TEST_F(Emision, ACustomTaxWithoutANamePrintsAllTheSame) {
     EXPECT_TRUE(ticket.consumidorFinal);
 }
 
-TEST_F(Emision, TheTicketPrintsAfterTheRowIsSafe) {
-    Abrir();
+TEST_F(EmisionAbierta, TheTicketPrintsAfterTheRowIsSafe) {
     SeEmite(Si);
     EXPECT_EQ(mundo.impresoras.actual, u"Tickets");
     EXPECT_TRUE(mundo.impresoras.Papel().contains(u"Yerba mate"));

@@ -176,16 +176,21 @@ TEST_F(VentaPrueba, WhatIsNoNumberIsRefusedAndNamed) {
 
 // --- totals
 
-// S = 4 x 100 + 3 x 12,50 = 437,50; I = 84 + 3,75 = 87,75; the rate is 3 %. Settings utilizar, sobreIva and
-// existeIFiscal; a customer with fiscal id, discount; tax, total, total with discount.
-const std::tuple<const char *, const char *, const char *, bool, int, QString, QString, QString> kTotales[] =
-    {
-        {"No", "Si", "No", true, 0, u"$ 0,00"_qs, u"$ 525,25"_qs, u"$ 525,25"_qs},
-        {"Si", "No", "No", false, 0, u"$ 13,13"_qs, u"$ 538,38"_qs, u"$ 538,38"_qs},
-        {"Si", "Si", "No", false, 0, u"$ 15,76"_qs, u"$ 541,01"_qs, u"$ 541,01"_qs},
-        {"Si", "Si", "Si", false, 0, u"$ 0,00"_qs, u"$ 525,25"_qs, u"$ 525,25"_qs},
-        {"Si", "Si", "Si", true, 10, u"$ 15,76"_qs, u"$ 541,01"_qs, u"$ 486,91"_qs},
-        {"Si", "Si", "", true, 0, u"$ 0,00"_qs, u"$ 525,25"_qs, u"$ 525,25"_qs}, // neither: never charged
+struct CasoTotales {
+    const char *utilizar, *sobreIva, *existeIFiscal; // of the tax
+    bool conIFiscal;                                 // a customer with fiscal id
+    int descuento;
+    QString impuesto, total, conDescuento;
+};
+
+// S = 4 x 100 + 3 x 12,50 = 437,50; I = 84 + 3,75 = 87,75; the rate is 3 %
+const CasoTotales kTotales[] = {
+    {"No", "Si", "No", true, 0, u"$ 0,00"_qs, u"$ 525,25"_qs, u"$ 525,25"_qs},
+    {"Si", "No", "No", false, 0, u"$ 13,13"_qs, u"$ 538,38"_qs, u"$ 538,38"_qs},
+    {"Si", "Si", "No", false, 0, u"$ 15,76"_qs, u"$ 541,01"_qs, u"$ 541,01"_qs},
+    {"Si", "Si", "Si", false, 0, u"$ 0,00"_qs, u"$ 525,25"_qs, u"$ 525,25"_qs},
+    {"Si", "Si", "Si", true, 10, u"$ 15,76"_qs, u"$ 541,01"_qs, u"$ 486,91"_qs},
+    {"Si", "Si", "", true, 0, u"$ 0,00"_qs, u"$ 525,25"_qs, u"$ 525,25"_qs}, // neither: never charged
 };
 
 TEST_F(VentaPrueba, TotalsByTaxSettingsAndDiscount) {
@@ -195,17 +200,16 @@ TEST_F(VentaPrueba, TotalsByTaxSettingsAndDiscount) {
     };
     agregar("$ 400,00", "$ 84,00");
     agregar("$ 37,50", "$ 3,75");
-    for (const auto &[utilizar, sobreIva, existeIFiscal, conIFiscal, descuento, impuesto, total,
-                      conDescuento] : kTotales) {
+    for (const CasoTotales &caso : kTotales) {
         DatosPrueba otros;
-        CobrarImpuesto(otros, sobreIva, existeIFiscal);
-        otros.Ejecutar(std::string("UPDATE main.Impuesto SET utilizar='") + utilizar + "'");
+        CobrarImpuesto(otros, caso.sobreIva, caso.existeIFiscal);
+        otros.Ejecutar(std::string("UPDATE main.Impuesto SET utilizar='") + caso.utilizar + "'");
         const Totales totales =
-            CalcularTotales(detalle, LeerImpuesto(otros.Abrir()), conIFiscal, descuento, Moneda());
+            CalcularTotales(detalle, LeerImpuesto(otros.Abrir()), caso.conIFiscal, caso.descuento, Moneda());
         EXPECT_EQ(totales.subtotal + totales.iva, u"$ 437,50$ 87,75");
-        EXPECT_EQ(totales.impuesto, impuesto);
-        EXPECT_EQ(totales.total, total);
-        EXPECT_EQ(totales.conDescuento, conDescuento);
+        EXPECT_EQ(totales.impuesto, caso.impuesto);
+        EXPECT_EQ(totales.total, caso.total);
+        EXPECT_EQ(totales.conDescuento, caso.conDescuento);
     }
 }
 

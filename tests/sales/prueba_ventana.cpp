@@ -149,9 +149,8 @@ TEST_F(VentaAbierta, TheQuantityTakesDigitsAndArrows) {
     EXPECT_EQ(Linea(0, linea::Cantidad), u"1");
 }
 
-TEST_F(VentanaVentas, RemovingALineAsks) {
+TEST_F(VentaAbierta, RemovingALineAsks) {
     const QString pregunta = u"Está seguro de querer quitar artículo de la lista?"_qs;
-    Abrir();
     Lista("LVDetalle")->setFocus();
     EXPECT_NE(ConFoco(), u"LVDetalle") << "an empty list passes the focus on";
     for (const char *codigo : {"000011", "000028", "000035"}) {
@@ -176,16 +175,14 @@ TEST_F(VentanaVentas, RemovingALineAsks) {
     EXPECT_EQ(Texto("lblTotal"), u"$ 0,00");
 }
 
-TEST_F(VentanaVentas, ANewSaleAsksAndKeepsNumberAndDiscount) {
-    const QString pregunta = u"Está seguro de querer comenzar una nueva venta?"_qs;
-    Abrir();
+TEST_F(VentaAbierta, ANewSaleAsksAndKeepsNumberAndDiscount) {
     Escanear("000028");
     Teclear(Campo("txtNumComp"), u"5"_qs);
     Teclear(Campo("txtDescuento"), u"150"_qs);
-    mundo.preguntas.Espera(pregunta, No, No);
+    EsperaNuevaVenta(No);
     Clic("cmdNuevo");
     EXPECT_EQ(Lineas(), 1);
-    mundo.preguntas.Espera(pregunta, No, Si);
+    EsperaNuevaVenta(Si);
     Clic("cmdNuevo");
     EXPECT_EQ(Lineas(), 0);
     EXPECT_EQ(Stock(1), u"1");

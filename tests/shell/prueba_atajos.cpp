@@ -70,7 +70,7 @@ TEST(Atajos, ReadsUpToWhatIsWrong) {
 TEST(Atajos, AnyBytesLeaveOneKeyForEachEntry) {
     const QByteArray entero = Atajos().Archivo();
     std::mt19937 azar(20261122);
-    for (int vuelta = 0; vuelta < 100'000; ++vuelta) {
+    for (int vuelta = 0; vuelta < kEstropeados; ++vuelta) {
         const Atajos leidos = Leidos(Estropeado(entero, azar));
         QSet<QString> teclas;
         for (const Entrada entrada : Atajos::Asignables()) {
@@ -119,12 +119,11 @@ TEST(FrmAtajos, AssignsTellsAndRestores) {
     EXPECT_EQ(lista->Lista()->Celda(lista->FilaActual(), 1), u"Ctrl+1");
     asignar("factura", "Ctrl+M"); // it starts without a key
     EXPECT_EQ(atajos.De(Entrada::Factura), Tecla("Ctrl+M"));
-    for (const Respuesta respuesta : {Respuesta::No, Respuesta::Si}) {
+    for (const Respuesta respuesta : {No, Si}) {
         atajos.Poner(Entrada::Factura, Tecla("Ctrl+M"));
-        preguntas.Espera(QStringLiteral("Está seguro de querer restablecer todas las teclas?"), Respuesta::No,
-                         respuesta);
+        preguntas.Espera(u"Está seguro de querer restablecer todas las teclas?"_qs, No, respuesta);
         Pulsar(Control<QWidget>(frm, "cmdRestablecerTodo"));
-        EXPECT_EQ(atajos == Atajos(), respuesta == Respuesta::Si);
+        EXPECT_EQ(atajos == Atajos(), respuesta == Si);
     }
     tecla->setFocus();
     QTest::keyClick(tecla, Qt::Key_F2, Qt::ShiftModifier);

@@ -28,7 +28,7 @@ TEST(ColumnaTexto, FollowsAVectorThroughRandomChanges) {
     ColumnaTexto columna = Llena(3 * 4096 + 7);
     std::vector<std::string> espejo = Celdas(columna);
     std::mt19937 azar(7);
-    for (int paso = 0; paso < 6000; ++paso) {
+    for (int paso = 0; paso < 3000; ++paso) {
         const auto fila = static_cast<std::int64_t>(azar() % espejo.size());
         const std::string texto(azar() % 40, static_cast<char>('a' + paso % 26));
         switch (azar() % 4) {

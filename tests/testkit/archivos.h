@@ -35,6 +35,13 @@ inline std::map<QString, QByteArray> Contenido(const QString &carpeta) {
     return contenido;
 }
 
+// How many damaged files a reader must stand.
+#ifdef __SANITIZE_ADDRESS__
+constexpr int kEstropeados = 100'000;
+#else
+constexpr int kEstropeados = 5'000;
+#endif
+
 // The bytes with one to four blows: cut off, cut out, doubled, or one byte replaced.
 inline QByteArray Estropeado(QByteArray bytes, std::mt19937 &azar) {
     const auto hasta = [&azar](qsizetype tope) {

@@ -24,6 +24,10 @@ template <typename Ventana> class ConVentana : public testing::Test {
         Pulsar(C(nombre));
         return ConFoco();
     }
+    void ClicFila(ListaVista *lista, int fila, int x) {
+        const QRect celda = lista->visualRect(lista->model()->index(fila, 0));
+        QTest::mouseClick(lista->viewport(), Qt::LeftButton, {}, QPoint(x, celda.center().y()));
+    }
     // Keys go to whatever has the focus, as from a keyboard.
     void Teclas(const QString &texto) {
         for (const QChar letra : texto)

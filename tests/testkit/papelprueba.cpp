@@ -12,10 +12,6 @@ constexpr int kTwipsPorLinea = 240;
 // A monospaced character is six tenths of its size wide, and a point has 20 twips.
 constexpr double kTwipsPorPunto = 12;
 
-QString MarcaTamano(double puntos) {
-    return u"[%1]"_qs.arg(puntos);
-}
-
 } // namespace
 
 void PapelPrueba::Texto(const QString &texto) {
@@ -101,7 +97,7 @@ QString PapelPrueba::Volcado() const {
         if (std::exchange(negrita, trozo.letra.negrita) != trozo.letra.negrita)
             texto.prepend(trozo.letra.negrita ? u"[n]"_qs : u"[/n]"_qs);
         if (std::exchange(puntos, trozo.letra.puntos) != trozo.letra.puntos)
-            texto.prepend(MarcaTamano(trozo.letra.puntos));
+            texto.prepend(u"[%1]"_qs.arg(trozo.letra.puntos));
         return texto;
     };
     return Componer(conMarcas).join(u'\n') + u'\n';
