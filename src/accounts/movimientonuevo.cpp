@@ -1,14 +1,12 @@
 #include "accounts/movimientonuevo.h"
 
 #include "desktop/reloj.h"
+#include "documents/comprobante.h"
 #include "store/store.h"
 
 namespace tarvo {
 
 namespace {
-
-constexpr std::string_view kFacturaContado = "Factura contado";
-constexpr std::string_view kFacturaCredito = "Factura crédito";
 
 // What taking back an invoice makes of it, and the columns that it reads.
 struct ReglaDevolucion {

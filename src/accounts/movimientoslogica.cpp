@@ -106,8 +106,9 @@ void EstadosLogica::OfrecerRecibo(const QString &total) {
     if (!servicios_.preguntas.Confirma(QStringLiteral("Desea imprimir el recibo?"), Respuesta::Si))
         return;
     try {
+        const Cabecera cabecera = LeerCabecera(servicios_.frmBases);
         const auto papel = servicios_.impresoras.NuevoDocumento(ClasePapel::Rollo, QStringLiteral("Recibo"));
-        ImprimirRecibo(*papel, LeerCabecera(servicios_.frmBases),
+        ImprimirRecibo(*papel, cabecera,
                        {.momento = servicios_.reloj.Ahora(), .cliente = pantalla_.cliente, .importe = total});
     } catch (const std::exception &error) {
         Critico(QStringLiteral("No se pudo imprimir el recibo. %1\n\nEl recibo quedó guardado.")
@@ -194,9 +195,10 @@ bool EstadosLogica::OfrecerComprobante(const DocumentoDevuelto &devuelto) {
         return true;
     ElegirImpresora(servicios_.impresoras, servicios_.ajustes, Proposito::Ticket);
     try {
+        const Cabecera cabecera = LeerCabecera(servicios_.frmBases);
         const auto papel = servicios_.impresoras.NuevoDocumento(ClasePapel::Rollo, devuelto.titulo);
         const bool conCliente = pantalla_.lista == ListaCuenta::Estado; // the cash list has none
-        ImprimirDevolucion(*papel, LeerCabecera(servicios_.frmBases),
+        ImprimirDevolucion(*papel, cabecera,
                            ComprobanteDe(devuelto, servicios_.reloj.Ahora(),
                                          conCliente ? std::optional(pantalla_.cliente) : std::nullopt));
         return true;

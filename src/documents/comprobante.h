@@ -5,9 +5,14 @@
 
 #include <QString>
 
+#include <string_view>
 #include <vector>
 
 namespace tarvo {
+
+// How Ventas describes an invoice, which its return is told by.
+inline constexpr std::string_view kFacturaContado = "Factura contado";
+inline constexpr std::string_view kFacturaCredito = "Factura crédito";
 
 // One line of a sale.
 struct LineaComprobante {
@@ -19,7 +24,7 @@ struct LineaComprobante {
 };
 
 struct Comprobante {
-    QString tipo;   // "Factura contado", "Factura crédito"
+    QString tipo;   // kFacturaContado or kFacturaCredito
     QString numero; // may be empty
     QString fecha;  // dd/mm/yyyy
     QString hora;   // HH:nn

@@ -1,8 +1,8 @@
 // The invoice layout under work: what the designer's window shows and does, without the window.
 //
 // The layout is tied to no file: nothing marks it as changed, and what isn't saved when the window closes is
-// lost. Every step can be undone. The path of the layout that was opened or saved last is stored in the data,
-// and that is all that is left behind for the rest of the program.
+// lost. Every step can be undone. The path of the layout that was opened or saved last is stored in the data;
+// that, and the ticket printer as the current one, is all that is left behind for the rest of the program.
 #pragma once
 
 #include "desktop/servicios.h"
@@ -49,8 +49,6 @@ class Disenador : public QObject {
     const DisenoFactura &Diseno() const { return estado_.formulario.diseno; }
     const QImage &Logo() const { return estado_.formulario.logo; }
     const QImage &Fondo() const { return fondo_; }
-    // Path of the logo picked since the window opened; a layout that is read brings none.
-    const QString &RutaLogo() const { return estado_.rutaLogo; }
     const Pieza &De(int numero) const;
     // Size in twips.
     QSizeF Tamano(int numero) const;
@@ -99,7 +97,7 @@ class Disenador : public QObject {
   private:
     struct Estado {
         FormularioFactura formulario;
-        QString rutaLogo;
+        QString rutaLogo; // of the logo picked since the window opened; a layout that is read brings none
         bool operator==(const Estado &otro) const;
     };
     class Paso;
@@ -114,6 +112,7 @@ class Disenador : public QObject {
     QString CarpetaFacturas() const;
     bool AceptaReemplazo();
     void Escribir();
+    void AvisarSinAcceso();
     void GuardarRuta(const QString &ruta);
     std::optional<QImage> PedirImagen(const QString &titulo, QString &ruta);
 

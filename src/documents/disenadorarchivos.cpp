@@ -3,12 +3,12 @@
 #include "documents/archivos.h"
 #include "documents/disenador.h"
 
+#include "desktop/almacenar.h"
 #include "desktop/reloj.h"
 #include "documents/impresoras.h"
 #include "documents/superficie.h"
 #include "store/errordatos.h"
 #include "store/store.h"
-#include "store/transaccion.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -102,15 +102,23 @@ void Disenador::Guardar() {
         Escribir();
 }
 
+void Disenador::AvisarSinAcceso() {
+    servicios_.preguntas.Mostrar(
+        QStringLiteral("Asegúrese de que el archivo no está abierto ni protegido contra escritura.\n"
+                       "No es posible continuar."),
+        Icono::Critico);
+}
+
 void Disenador::Escribir() {
+    if (servicios_.frmBases.EsDeLosDatos(nombreDialogo_)) {
+        AvisarSinAcceso();
+        return;
+    }
     try {
         GuardarDiseno(nombreDialogo_, Diseno(), estado_.rutaLogo, servicios_.reloj.Ahora());
     } catch (const ErrorDatos &error) {
         if (error.Numero() == errores::kAccesoRuta)
-            servicios_.preguntas.Mostrar(
-                QStringLiteral("Asegúrese de que el archivo no está abierto ni protegido contra escritura.\n"
-                               "No es posible continuar."),
-                Icono::Critico);
+            AvisarSinAcceso();
         else
             emit NoGuardado(error.Motivo());
         return;
@@ -120,15 +128,13 @@ void Disenador::Escribir() {
 
 void Disenador::GuardarRuta(const QString &ruta) {
     FrmBases &bases = servicios_.frmBases;
-    try {
+    const auto escribir = [&] {
         bases.datFactura.MoveFirst();
-        Transaccion transaccion(bases);
         bases.camFacRutaFactura = ruta;
         bases.datFactura.Refresh();
-        transaccion.Confirmar();
-    } catch (const ErrorDatos &error) {
-        servicios_.preguntas.Mostrar(error.Descripcion(), Icono::Critico);
-    }
+    };
+    Almacenar(bases, servicios_.preguntas, {QStringLiteral("Factura"), ruta}, escribir,
+              QStringLiteral("La factura \"%1\" no quedó en uso.").arg(ruta));
 }
 
 // Nothing when the operator cancels or picks what is no picture.

@@ -8,9 +8,10 @@
 
 #include <QBuffer>
 #include <QDir>
-#include <QFile>
+#include <QFileInfo>
 #include <QPdfWriter>
 #include <QRegularExpression>
+#include <QSaveFile>
 
 #include <utility>
 
@@ -40,24 +41,20 @@ struct Destino {
     QDateTime momento;
 
     void Guardar(const QByteArray &datos) const {
-        QFile archivo;
-        AbrirLibre(archivo);
-        if (archivo.write(datos) == datos.size() && archivo.flush())
-            return;
-        archivo.close();
-        QFile::remove(archivo.fileName());
-        FallarEscritura(archivo.fileName());
+        QSaveFile archivo(RutaLibre());
+        const bool escrito = archivo.open(QIODevice::WriteOnly) && archivo.write(datos) == datos.size() &&
+                             archivo.flush() && archivo.commit();
+        if (!escrito)
+            FallarEscritura(archivo.fileName());
     }
 
   private:
-    void AbrirLibre(QFile &archivo) const {
+    QString RutaLibre() const {
         const QString base = carpeta + QLatin1Char('/') + NombreBase(titulo, momento);
         for (int numero = 1;; ++numero) {
-            archivo.setFileName(QStringLiteral("%1%2.pdf").arg(base).arg(numero, 3, 10, QLatin1Char('0')));
-            if (archivo.open(QIODevice::WriteOnly | QIODevice::NewOnly))
-                return;
-            if (!QFile::exists(archivo.fileName()))
-                FallarEscritura(archivo.fileName());
+            const QString ruta = QStringLiteral("%1%2.pdf").arg(base).arg(numero, 3, 10, QLatin1Char('0'));
+            if (!QFileInfo::exists(ruta))
+                return ruta;
         }
     }
 };

@@ -22,14 +22,6 @@ void LineaNegrita(Superficie &papel, const QString &texto) {
 
 } // namespace
 
-QString TituloNotaCredito() {
-    return QStringLiteral("Nota de crédito");
-}
-
-QString TituloDevolucion() {
-    return QStringLiteral("Devolución Contado");
-}
-
 void ImprimirRecibo(Superficie &papel, const Cabecera &cabecera, const Recibo &recibo) {
     ImprimirCabecera(papel, cabecera, recibo.momento);
     LineaCliente(papel, recibo.cliente);

@@ -18,7 +18,7 @@ struct Recibo {
 
 // A returned document. A return from the cash list has no customer and no line for one.
 struct Devolucion {
-    QString titulo;    // TituloNotaCredito() or TituloDevolucion()
+    QString titulo;    // "Nota de crédito" or "Devolución Contado"
     QDateTime momento; // of printing
     std::optional<QString> cliente;
     // Of the sale that is returned, from its row on screen.
@@ -27,9 +27,6 @@ struct Devolucion {
     QString descripcion;
     QString importe;
 };
-
-QString TituloNotaCredito();
-QString TituloDevolucion();
 
 // Both to the end of the document.
 void ImprimirRecibo(Superficie &papel, const Cabecera &cabecera, const Recibo &recibo);

@@ -1,8 +1,9 @@
 // A printing surface: what all paper of the program is written on.
 //
 // It has a current font and a print head. Text goes to the right of the head; a column is counted in
-// characters of the current font and size from the left margin. SuperficieGrabada records a page dump that
-// tests compare; SuperficiePintada paints on any QPagedPaintDevice, so paper and PDF are the same code.
+// characters of the current font and size from the left margin. SuperficieGrabada records
+// and does it again on another one; SuperficiePintada paints on any QPagedPaintDevice, so paper and PDF are
+// the same code.
 #pragma once
 
 #include <QImage>

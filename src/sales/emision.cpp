@@ -68,8 +68,9 @@ void OfrecerTicket(const Servicios &servicios, const Comprobante &comprobante, c
         return;
     try {
         servicios.impresoras.HacerActual(impresora);
+        const Cabecera cabecera = LeerCabecera(servicios.frmBases);
         const auto papel = servicios.impresoras.NuevoDocumento(ClasePapel::Rollo, comprobante.tipo);
-        ImprimirTicket(*papel, LeerCabecera(servicios.frmBases), comprobante);
+        ImprimirTicket(*papel, cabecera, comprobante);
     } catch (const std::exception &error) { // whatever it is, a sale that is stored must not stay on screen
         servicios.preguntas.Mostrar(
             QStringLiteral("No se pudo imprimir el ticket. %1\n\nLa venta quedó guardada.")
@@ -81,7 +82,7 @@ void OfrecerTicket(const Servicios &servicios, const Comprobante &comprobante, c
 } // namespace
 
 QString DescripcionFactura(Pago pago) {
-    return pago == Pago::Contado ? QStringLiteral("Factura contado") : QStringLiteral("Factura crédito");
+    return QString::fromUtf8(pago == Pago::Contado ? kFacturaContado : kFacturaCredito);
 }
 
 void EscribirVenta(FrmBases &frmBases, const Venta &venta, const Comprobante &comprobante) {

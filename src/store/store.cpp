@@ -7,6 +7,7 @@
 #include <QDeadlineTimer>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QRandomGenerator>
 #include <QThread>
 
@@ -70,6 +71,15 @@ void QuitarRestos(const QString &carpeta) {
 
 FrmBases::FrmBases(QString carpetaDatos, Moneda moneda)
     : carpeta_(std::move(carpetaDatos)), moneda_(std::move(moneda)) {}
+
+bool FrmBases::EsDeLosDatos(const QString &ruta) const {
+    const QString datos = QFileInfo(carpeta_).canonicalFilePath();
+    const QFileInfo archivo(ruta);
+    // Through a link too; one that isn't there lies where its folder does.
+    const QString lugar = archivo.exists() ? archivo.canonicalFilePath()
+                                           : QFileInfo(archivo.absolutePath()).canonicalFilePath() + u'/';
+    return !datos.isEmpty() && lugar.startsWith(datos + u'/');
+}
 
 FrmBases::~FrmBases() {
     try {

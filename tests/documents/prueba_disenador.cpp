@@ -221,10 +221,12 @@ TEST_F(DisenadorPrueba, SavesOpensAndRemembersThePath) {
     EXPECT_EQ(Ruta(), ruta);
     GuardarArchivo(Facturas() + u"/no/hay.kzd"_qs); // ends without a word
     EXPECT_TRUE(Posicion().startsWith(u"No se guardó: "_qs)) << Posicion().toStdString();
-    mundo.preguntas.EsperaFalla(
-        u"Asegúrese de que el archivo no está abierto ni protegido contra escritura.\n"
-        "No es posible continuar."_qs);
-    GuardarArchivo(Facturas());
+    for (const QString &negada : {Facturas(), mundo.datos.Carpeta() + u"/ventas.mdb"_qs}) {
+        mundo.preguntas.EsperaFalla(
+            u"Asegúrese de que el archivo no está abierto ni protegido contra escritura.\n"
+            "No es posible continuar."_qs);
+        GuardarArchivo(negada);
+    }
     EXPECT_EQ(Ruta(), ruta);
 
     Abrir();

@@ -166,7 +166,7 @@ Cliente    Panadería La Espiga
 // to the next line.
 TEST(Recibos, CreditNoteAndCashReturn) {
     Cabecera cabecera = CabeceraTienda();
-    Devolucion nota{TituloNotaCredito(),   kMomento,      u"Ana"_qs, u"03/05/2026"_qs, u"14:07"_qs,
+    Devolucion nota{u"Nota de crédito"_qs, kMomento,      u"Ana"_qs, u"03/05/2026"_qs, u"14:07"_qs,
                     u"Factura crédito"_qs, u"$ 250,00"_qs};
     const auto hoja = [&] {
         return Hoja([&](Superficie &papel) { ImprimirDevolucion(papel, cabecera, nota); }).toStdString();
@@ -183,7 +183,7 @@ Fecha        Hora
 
 
 )");
-    nota.titulo = TituloDevolucion();
+    nota.titulo = u"Devolución Contado"_qs;
     nota.cliente = std::nullopt;
     nota.descripcion = QString(40, u'x');
     cabecera[4].negrita = false;

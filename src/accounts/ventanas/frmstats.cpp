@@ -1,9 +1,11 @@
 #include "accounts/ventanas/frmstats.h"
 
 #include "accounts/ventasdelmes.h"
+#include "desktop/preguntas.h"
 #include "desktop/reloj.h"
 #include "desktop/ventanas/estilo.h"
 #include "desktop/ventanas/filtrocampos.h"
+#include "store/errordatos.h"
 #include "ui_frmstats.h"
 
 #include <QBarCategoryAxis>
@@ -83,7 +85,12 @@ void FrmStats::cmdBuscar_Click() {
         ui_->lblRegla->setText(kMuestra);
         return;
     }
-    const VentasDelMes ventas = SumarVentasDelMes(servicios_.frmBases, mes.month(), mes.year());
+    VentasDelMes ventas{.porDia = std::vector<double>(std::size_t(dias))};
+    try {
+        ventas = SumarVentasDelMes(servicios_.frmBases, mes.month(), mes.year());
+    } catch (const ErrorDatos &error) {
+        servicios_.preguntas.Mostrar(error.Descripcion(), Icono::Critico);
+    }
     Mostrar(ventas.porDia, dias);
     ui_->lblRegla->setText(kRegla + AvisoIlegibles(ventas.ilegibles));
 }

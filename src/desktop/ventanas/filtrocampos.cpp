@@ -259,6 +259,8 @@ bool FiltroCampos::Entrar(QWidget *control, const QKeyEvent &evento) {
         alEntrar_.value(control)();
         return true;
     }
+    if (qobject_cast<QAbstractButton *>(control) != nullptr && Leidas() > 0)
+        return true; // the end of a scan
     if (qobject_cast<BotonZel *>(control) != nullptr) {
         const bool otra = evento.isAutoRepeat() && !Sostenida(evento);
         if (otra)
@@ -266,7 +268,7 @@ bool FiltroCampos::Entrar(QWidget *control, const QKeyEvent &evento) {
         return otra; // else the button takes the key itself
     }
     if (auto *boton = qobject_cast<QAbstractButton *>(control); boton != nullptr && !boton->isCheckable()) {
-        if (!Sostenida(evento) && Leidas() == 0)
+        if (!Sostenida(evento))
             boton->click();
         return true;
     }

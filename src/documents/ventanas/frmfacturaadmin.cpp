@@ -43,7 +43,7 @@ void FrmFacturaAdmin::Llenar() {
     for (int fila = 0; fila < pieza::kLogo; ++fila)
         campos_.AgregarFila({disenador_.Rotulo(fila)});
     for (int fila = 0; fila < pieza::kLogo; ++fila)
-        Marcar(fila, disenador_.De(fila).visible);
+        campos_.Marcar(fila, disenador_.De(fila).visible);
     ui_->lstCampos->Mostrar(&campos_);
     ui_->lstCampos->header()->setSectionsClickable(false); // rows are fields by their number
     ui_->lstCampos->SeleccionarFila(0);
@@ -54,10 +54,8 @@ void FrmFacturaAdmin::Marcar(int fila, bool marcada) {
     Cambio();
 }
 
-// The fill's own changes write nothing; each later one writes all marks.
+// Each change writes all marks.
 void FrmFacturaAdmin::Cambio() {
-    if (++cambios_ < pieza::kLogo)
-        return;
     for (int fila = 0; fila < pieza::kLogo; ++fila)
         disenador_.PonerVisible(fila, campos_.Marcada(fila));
 }

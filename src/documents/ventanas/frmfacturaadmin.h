@@ -28,7 +28,6 @@ class FrmFacturaAdmin : public QDialog {
     Disenador &disenador_;
     std::unique_ptr<Ui::FrmFacturaAdmin> ui_;
     ListaTexto campos_;
-    int cambios_ = 0; // of the list, the fill's own among them
 };
 
 } // namespace tarvo
