@@ -116,11 +116,9 @@ void FrmVentas::AjustarColumnas() {
 
 void FrmVentas::resizeEvent(QResizeEvent *evento) {
     VentanaModulo::resizeEvent(evento);
-    constexpr int kAltoHolgado = 640; // pixels; below it the card is one line
-    constexpr int kAltoJusto = 480;   // below it that line is shared
+    constexpr int kAltoHolgado = 640; // pixels; below it the card takes no line of its own
     const bool plegada = height() < kAltoHolgado;
-    const bool compartida = height() < kAltoJusto;
-    pie_->setDirection(compartida ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+    pie_->setDirection(plegada ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
     ui_->cmdNuevo->setProperty("compacto", plegada);
     ui_->cmdNuevo->style()->polish(ui_->cmdNuevo);
     frUltimo->Plegar(plegada);
