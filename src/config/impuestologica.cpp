@@ -8,41 +8,32 @@ namespace tarvo {
 
 namespace {
 
-constexpr std::string_view kSi = "Si";
-
 QString Marca(bool si) {
     return si ? QStringLiteral("Si") : QStringLiteral("No");
 }
 
 } // namespace
 
-DatosImpuesto ImpuestoLogica::Cargar() {
-    return LeerCallando([&bases = servicios_.frmBases]() -> DatosImpuesto {
-        if (!FilaUnica(bases.datImpuesto) || !bases.camImpUtilizar.Es(kSi))
-            return {};
-        return {.utilizar = true,
-                .nombre = bases.camImpNombre.Texto(),
-                .porcentaje = bases.camImpPorcentaje.Texto(),
-                .sobreIva = bases.camImpSobreIVA.Es(kSi),
-                .existeIFiscal = bases.camImpExisteIFiscal.Es(kSi)};
-    });
+ImpuestoPersonalizado ImpuestoLogica::Cargar() {
+    const ImpuestoPersonalizado impuesto = LeerImpuesto(servicios_.frmBases);
+    return impuesto.utilizar ? impuesto : ImpuestoPersonalizado();
 }
 
-ImpuestoLogica::Resultado ImpuestoLogica::Guardar(const DatosImpuesto &datos) {
-    if (datos.utilizar && datos.nombre.isEmpty()) {
+ImpuestoLogica::Resultado ImpuestoLogica::Guardar(const ImpuestoPersonalizado &impuesto) {
+    if (impuesto.utilizar && impuesto.nombre.isEmpty()) {
         servicios_.preguntas.Informar(
             QStringLiteral("Debe ingresar un nombre para el impuesto personalizado."));
         return Resultado::FaltaNombre;
     }
     FrmBases &bases = servicios_.frmBases;
-    const QStringList textos{Marca(datos.utilizar), datos.nombre, datos.porcentaje, Marca(datos.sobreIva),
-                             Marca(datos.existeIFiscal)};
+    const QStringList textos{Marca(impuesto.utilizar), impuesto.nombre, impuesto.porcentaje,
+                             Marca(impuesto.sobreIva), Marca(impuesto.exigeIFiscal)};
     const bool guardado = EscribirFilaUnica(servicios_, bases.datImpuesto, textos, [&] {
-        bases.camImpUtilizar = Marca(datos.utilizar);
-        bases.camImpNombre = datos.nombre;
-        bases.camImpPorcentaje = datos.porcentaje;
-        bases.camImpSobreIVA = Marca(datos.sobreIva);
-        bases.camImpExisteIFiscal = Marca(datos.existeIFiscal);
+        bases.camImpUtilizar = Marca(impuesto.utilizar);
+        bases.camImpNombre = impuesto.nombre;
+        bases.camImpPorcentaje = impuesto.porcentaje;
+        bases.camImpSobreIVA = Marca(impuesto.sobreIva);
+        bases.camImpExisteIFiscal = Marca(impuesto.exigeIFiscal);
     });
     return guardado ? Resultado::Guardado : Resultado::Rechazado;
 }

@@ -1,8 +1,7 @@
 #include "sales/totales.h"
 
 #include "sales/listasventa.h"
-#include "store/errordatos.h"
-#include "store/store.h"
+#include "store/moneda.h"
 
 namespace tarvo {
 
@@ -17,30 +16,14 @@ double SumarColumna(const ListaTexto &detalle, int columna, const Moneda &moneda
 
 } // namespace
 
-ImpuestoPersonalizado LeerImpuesto(FrmBases &frmBases) {
-    ImpuestoPersonalizado impuesto;
-    try {
-        if (!FilaUnica(frmBases.datImpuesto))
-            return impuesto;
-        impuesto.utilizar = frmBases.camImpUtilizar.Es(std::string_view("Si"));
-        impuesto.nombre = frmBases.camImpNombre.Texto();
-        impuesto.porcentaje = frmBases.moneda().Numero(frmBases.camImpPorcentaje.Utf8());
-        impuesto.sobreIva = frmBases.camImpSobreIVA.Es(std::string_view("Si"));
-        impuesto.exigeIFiscal = frmBases.camImpExisteIFiscal.Es(std::string_view("Si"));
-        impuesto.sinCondicion = frmBases.camImpExisteIFiscal.Es(std::string_view("No"));
-    } catch (const ErrorDatos &) {
-        return {};
-    }
-    return impuesto;
-}
-
 Totales CalcularTotales(const ListaTexto &detalle, const ImpuestoPersonalizado &impuesto, bool hayIFiscal,
                         int descuento, const Moneda &moneda) {
     const double subtotal = SumarColumna(detalle, linea::Subtotal, moneda);
     const double iva = SumarColumna(detalle, linea::Iva, moneda);
     double personalizado = 0;
     if (impuesto.Corresponde(hayIFiscal))
-        personalizado = (impuesto.sobreIva ? subtotal + iva : subtotal) * (impuesto.porcentaje / 100);
+        personalizado =
+            (impuesto.sobreIva ? subtotal + iva : subtotal) * (moneda.Numero(impuesto.porcentaje) / 100);
     const double total = subtotal + iva + personalizado;
     const double conDescuento = total - descuento / 100.0 * total;
     return {moneda.FormatoMoneda(subtotal, true), moneda.FormatoMoneda(iva, true),

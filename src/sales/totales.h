@@ -6,30 +6,12 @@
 // shown by itself.
 #pragma once
 
-#include <QString>
+#include "masterdata/impuesto.h"
 
 namespace tarvo {
 
-class FrmBases;
 class ListaTexto;
 class Moneda;
-
-// The custom tax as the one row of table Impuesto tells it.
-struct ImpuestoPersonalizado {
-    bool utilizar = false;
-    QString nombre;
-    double porcentaje = 0;
-    bool sobreIva = false;     // the base is subtotal plus IVA, else the subtotal
-    bool exigeIFiscal = false; // charged only on a customer with fiscal id
-    bool sinCondicion = false; // charged on every sale
-
-    bool Corresponde(bool hayIFiscal) const {
-        return utilizar && (sinCondicion || (exigeIFiscal && hayIFiscal));
-    }
-};
-
-// All off when the table is not open.
-ImpuestoPersonalizado LeerImpuesto(FrmBases &frmBases);
 
 // Money text, as the labels of the sale show it.
 struct Totales {

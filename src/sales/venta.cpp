@@ -58,11 +58,14 @@ QString Venta::Impedimento(int fila) const {
         return QStringLiteral("El precio del artículo \"%1\" no es un número: \"%2\".\n\n"
                               "Corríjalo en Artículos para poder venderlo.")
             .arg(nombre, NombreCorto(precio));
-    if (!StockMenos(fila, 1))
-        return QStringLiteral("El stock del artículo \"%1\" no es un número: \"%2\".\n\n"
-                              "Corríjalo en Artículos para poder venderlo.")
-            .arg(nombre, NombreCorto(articulos_.Celda(fila, articulo::Stock)));
-    return {};
+    const QString stock = articulos_.Celda(fila, articulo::Stock);
+    if (StockMenos(fila, 1))
+        return {};
+    const QString motivo = Moneda::EsNumero(stock) ? QStringLiteral("tiene demasiadas cifras")
+                                                   : QStringLiteral("no es un número");
+    return QStringLiteral("El stock del artículo \"%1\" %2: \"%3\".\n\n"
+                          "Corríjalo en Artículos para poder venderlo.")
+        .arg(nombre, motivo, NombreCorto(stock));
 }
 
 int Venta::Agregar(int fila, qint64 cantidad) {

@@ -155,7 +155,7 @@ TEST_F(VentaPrueba, WhatIsNoNumberIsRefusedAndNamed) {
         {"1", "0,00001", "-2,99999", nullptr},
         {"1", "muchos", "muchos", "\"muchos\""},
         {"1", "1.234,5", "1.234,5", "\"1.234,5\""},
-        {"1", "1234567890123", "1234567890123", "\"1234567890123\""},
+        {"1", "1234567890123", "1234567890123", "cifras: \"1234567890123\""},
     };
     for (const auto &[precio, stock, despues, nombra] : casos)
         datos.Ejecutar(("INSERT INTO articulos.Articulos(codigo,nombre,subtotal,stock) VALUES('X','Raro','" +
@@ -221,7 +221,7 @@ TEST_F(VentaPrueba, LineRoundingCountsAndTheTaxStaysUnrounded) {
         detalle.AgregarFila({{}, {}, {}, {}, u"$ 0,33"_qs, {}, u"$ 0,00"_qs});
     ImpuestoPersonalizado impuesto;
     impuesto.utilizar = impuesto.sinCondicion = true;
-    impuesto.porcentaje = 0.5;
+    impuesto.porcentaje = QStringLiteral("0,5");
     const Totales totales = CalcularTotales(detalle, impuesto, false, 0, Moneda());
     EXPECT_EQ(totales.subtotal, u"$ 0,99");
     EXPECT_EQ(totales.impuesto, u"$ 0,00");

@@ -39,13 +39,13 @@ void PanelImpuestos::ConectarTeclas(FiltroCampos &filtro) {
 }
 
 void PanelImpuestos::CargarPersonalizado() {
-    const DatosImpuesto datos = impuesto_.Cargar();
+    const ImpuestoPersonalizado datos = impuesto_.Cargar();
     ui_->chkUtilizar->setChecked(datos.utilizar);
     HabilitarPersonalizado(datos.utilizar);
     ui_->txtNomImp->setText(datos.nombre);
     ui_->txtPersPorcentaje->setText(datos.porcentaje);
     ui_->chkGravarSobre->setChecked(datos.sobreIva);
-    ui_->chkGravarIFiscal->setChecked(datos.existeIFiscal);
+    ui_->chkGravarIFiscal->setChecked(datos.exigeIFiscal);
 }
 
 void PanelImpuestos::HabilitarPersonalizado(bool utilizar) {
@@ -57,11 +57,11 @@ void PanelImpuestos::HabilitarPersonalizado(bool utilizar) {
 }
 
 void PanelImpuestos::GuardarPersonalizado() {
-    const DatosImpuesto datos{.utilizar = ui_->chkUtilizar->isChecked(),
-                              .nombre = ui_->txtNomImp->text(),
-                              .porcentaje = ui_->txtPersPorcentaje->text(),
-                              .sobreIva = ui_->chkGravarSobre->isChecked(),
-                              .existeIFiscal = ui_->chkGravarIFiscal->isChecked()};
+    const ImpuestoPersonalizado datos{.utilizar = ui_->chkUtilizar->isChecked(),
+                                      .nombre = ui_->txtNomImp->text(),
+                                      .porcentaje = ui_->txtPersPorcentaje->text(),
+                                      .sobreIva = ui_->chkGravarSobre->isChecked(),
+                                      .exigeIFiscal = ui_->chkGravarIFiscal->isChecked()};
     if (impuesto_.Guardar(datos) == ImpuestoLogica::Resultado::FaltaNombre)
         ui_->txtNomImp->setFocus();
 }
