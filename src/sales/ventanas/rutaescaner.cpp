@@ -210,7 +210,7 @@ bool RutaEscaner::Tecla(QWidget *recibe, const QKeyEvent &evento) {
     if (const QString caracter = CaracterDe(evento); !caracter.isEmpty()) {
         if (campo != nullptr) {
             const QString texto = campo->leer();
-            if (racha_.Agregar(campo->control, caracter, evento.timestamp()))
+            if (racha_.Agregar(campo->control, caracter, evento.timestamp(), evento.isAutoRepeat()))
                 antes_ = texto;
             return false;
         }
@@ -222,16 +222,16 @@ bool RutaEscaner::Tecla(QWidget *recibe, const QKeyEvent &evento) {
         return true;
     }
     if (EsEntrar(evento) && campo != nullptr)
-        return Entrar(*campo);
+        return Entrar(*campo, evento.timestamp());
     if (!EsModificador(evento.key()))
         racha_.Cortar();
     return false;
 }
 
-bool RutaEscaner::Entrar(CampoVenta &campo) {
-    const QString racha = racha_.En(campo.control);
+bool RutaEscaner::Entrar(CampoVenta &campo, quint64 ms) {
+    const QString lectura = racha_.Lectura(campo.control, ms);
     racha_.Cortar();
-    const QString codigo = campo.codigo(racha, campo.leer());
+    const QString codigo = campo.codigo(lectura, campo.leer());
     if (codigo.isEmpty())
         return false;
     campo.poner(antes_);
