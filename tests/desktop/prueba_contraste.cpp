@@ -3,6 +3,11 @@
 #include "desktop/ventanas/listavista.h"
 #include "testkit/manos.h"
 
+#include <QFocusFrame>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QToolBar>
+
 #include <functional>
 
 namespace tarvo {
@@ -138,6 +143,32 @@ TEST(Foco, OneMarkForAllControls) {
                 EXPECT_EQ(imagen.pixelColor(punto) == colores::kTitulo, otro == control)
                     << otro->metaObject()->className() << " " << (otro == control);
         }
+    }
+}
+
+// In a tool bar that its button fills, and with the control in what scrolls, where only its part in view has
+// it.
+TEST(Foco, TheRingIsWhereTheControlIsSeen) {
+    QScrollArea area;
+    area.resize(200, 100);
+    auto *contenido = new QWidget;
+    contenido->resize(180, 400);
+    QToolBar barra(contenido);
+    QWidget *const boton = barra.widgetForAction(barra.addAction(QStringLiteral("N")));
+    boton->setFocusPolicy(Qt::TabFocus);
+    barra.setGeometry(20, 300, 30, 30);
+    area.setWidget(contenido);
+    MostrarVentana(area);
+    boton->setFocus();
+    const auto anillo = [&] { return Control<QFocusFrame>(area, ""); };
+    EXPECT_FALSE(anillo()->isVisible()) << "scrolled out of view";
+    for (const QSize &tamano : {QSize(200, 100), QSize(200, 150)}) {
+        area.resize(tamano);
+        area.verticalScrollBar()->setValue(260);
+        const QRect sitio(boton->mapTo(&area, QPoint(-2, -2)), boton->size() + QSize(4, 4));
+        EXPECT_EQ(anillo()->geometry(), sitio & area.viewport()->geometry());
+        qApp->setStyleSheet(qApp->styleSheet() + QLatin1Char(' '));
+        EXPECT_TRUE(anillo()->isVisible());
     }
 }
 

@@ -2,10 +2,11 @@
 
 #include "desktop/ventanas/estilo.h"
 
+#include <QAbstractScrollArea>
 #include <QApplication>
+#include <QEvent>
 #include <QFocusFrame>
 #include <QPainter>
-#include <QStyleOption>
 
 namespace tarvo {
 
@@ -13,11 +14,43 @@ namespace {
 
 constexpr int kGrueso = 2; // pixels, outside of the control
 
-bool EsMarco(const QWidget *control) {
-    return qobject_cast<const QFocusFrame *>(control) != nullptr;
+// What a scrolling parent lets be seen of what lies in it; empty for a parent that cuts nothing.
+bool Recorta(const QWidget *parte) {
+    const auto *area = qobject_cast<const QAbstractScrollArea *>(parte->parentWidget());
+    return area != nullptr && area->viewport() == parte;
+}
+
+QRect EnVentana(const QWidget *parte) {
+    return {parte->mapTo(parte->window(), QPoint()), parte->size()};
 }
 
 } // namespace
+
+// A focus frame, so that neither the mouse nor a screen reader meets it.
+class Anillo final : public QFocusFrame {
+  public:
+    using QFocusFrame::QFocusFrame;
+    // The whole ring, and what can be seen of it, in the window.
+    void Poner(const QRect &entero, const QRect &visto) {
+        entero_ = entero.translated(-visto.topLeft());
+        setGeometry(visto);
+        setVisible(!visto.isEmpty());
+        raise();
+        update();
+    }
+
+  protected:
+    void paintEvent(QPaintEvent *) override {
+        constexpr double kMitad = kGrueso / 2.0;
+        QPainter pintor(this);
+        pintor.setRenderHint(QPainter::Antialiasing);
+        pintor.setPen(QPen(colores::kTitulo, kGrueso));
+        pintor.drawRoundedRect(QRectF(entero_).adjusted(kMitad, kMitad, -kMitad, -kMitad), 4, 4);
+    }
+
+  private:
+    QRect entero_;
+};
 
 void EstiloConMarco::drawPrimitive(PrimitiveElement elemento, const QStyleOption *opcion, QPainter *pintor,
                                    const QWidget *control) const {
@@ -25,34 +58,10 @@ void EstiloConMarco::drawPrimitive(PrimitiveElement elemento, const QStyleOption
         QProxyStyle::drawPrimitive(elemento, opcion, pintor, control);
 }
 
-void EstiloConMarco::drawControl(ControlElement elemento, const QStyleOption *opcion, QPainter *pintor,
-                                 const QWidget *control) const {
-    if (elemento != CE_FocusFrame) {
-        QProxyStyle::drawControl(elemento, opcion, pintor, control);
-        return;
-    }
-    constexpr double kMitad = kGrueso / 2.0;
-    pintor->save();
-    pintor->setRenderHint(QPainter::Antialiasing);
-    pintor->setPen(QPen(colores::kTitulo, kGrueso));
-    pintor->drawRoundedRect(QRectF(opcion->rect).adjusted(kMitad, kMitad, -kMitad, -kMitad), 4, 4);
-    pintor->restore();
-}
-
-int EstiloConMarco::pixelMetric(PixelMetric medida, const QStyleOption *opcion,
-                                const QWidget *control) const {
-    if (EsMarco(control) && (medida == PM_FocusFrameHMargin || medida == PM_FocusFrameVMargin))
-        return kGrueso;
-    return QProxyStyle::pixelMetric(medida, opcion, control);
-}
-
-// Above the control, in the window itself: the frame of a group would cut the ring. Alt alone leads to the
-// menu bar.
+// Alt alone leads to the menu bar.
 int EstiloConMarco::styleHint(StyleHint cual, const QStyleOption *opcion, const QWidget *control,
                               QStyleHintReturn *respuesta) const {
-    if (cual == SH_FocusFrame_AboveWidget || cual == SH_MenuBar_AltKeyNavigation)
-        return 1;
-    return QProxyStyle::styleHint(cual, opcion, control, respuesta);
+    return cual == SH_MenuBar_AltKeyNavigation ? 1 : QProxyStyle::styleHint(cual, opcion, control, respuesta);
 }
 
 // The picture of a chosen row stays as dark as those of the others.
@@ -72,10 +81,53 @@ void MarcoFoco::Retomar() {
 }
 
 void MarcoFoco::Seguir(QWidget *control) {
-    if (marco_ == nullptr && control != nullptr && !control->isWindow())
-        marco_ = new QFocusFrame(control);
-    if (marco_ != nullptr)
-        marco_->setWidget(control);
+    for (const QPointer<QWidget> &parte : std::as_const(camino_))
+        if (parte != nullptr)
+            parte->removeEventFilter(this);
+    camino_.clear();
+    control_ = control == nullptr || control->isWindow() ? nullptr : control;
+    for (QWidget *parte = control_; parte != nullptr;
+         parte = parte->isWindow() ? nullptr : parte->parentWidget()) {
+        parte->installEventFilter(this);
+        camino_.append(parte);
+    }
+    if (control_ != nullptr && (anillo_ == nullptr || anillo_->parentWidget() != control_->window())) {
+        delete anillo_;
+        anillo_ = new Anillo(control_->window());
+    }
+    Colocar();
+}
+
+bool MarcoFoco::eventFilter(QObject *objeto, QEvent *evento) {
+    switch (evento->type()) {
+    case QEvent::Move:
+    case QEvent::Resize:
+    case QEvent::Show:
+    case QEvent::Hide:
+    case QEvent::StyleChange:
+        Colocar();
+        break;
+    case QEvent::ParentChange:
+        Seguir(control_);
+        break;
+    default:
+        break;
+    }
+    return QObject::eventFilter(objeto, evento);
+}
+
+void MarcoFoco::Colocar() {
+    if (anillo_ == nullptr)
+        return;
+    if (control_ == nullptr || !control_->isVisible())
+        return anillo_->hide();
+    const int fuera = control_->property("enMarca").toBool() ? 2 * kGrueso + 1 : kGrueso;
+    const QRect entero = EnVentana(control_).adjusted(-fuera, -fuera, fuera, fuera);
+    QRect visto = entero;
+    for (const QPointer<QWidget> &parte : std::as_const(camino_))
+        if (Recorta(parte))
+            visto &= EnVentana(parte);
+    anillo_->Poner(entero, visto);
 }
 
 } // namespace tarvo

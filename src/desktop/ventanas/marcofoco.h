@@ -3,11 +3,11 @@
 // pale picture of a chosen row too.
 #pragma once
 
+#include <QList>
 #include <QPointer>
 #include <QProxyStyle>
 
 class QApplication;
-class QFocusFrame;
 
 namespace tarvo {
 
@@ -17,16 +17,17 @@ class EstiloConMarco final : public QProxyStyle {
     using QProxyStyle::QProxyStyle;
     void drawPrimitive(PrimitiveElement elemento, const QStyleOption *opcion, QPainter *pintor,
                        const QWidget *control) const override;
-    void drawControl(ControlElement elemento, const QStyleOption *opcion, QPainter *pintor,
-                     const QWidget *control) const override;
-    int pixelMetric(PixelMetric medida, const QStyleOption *opcion, const QWidget *control) const override;
     int styleHint(StyleHint cual, const QStyleOption *opcion, const QWidget *control,
                   QStyleHintReturn *respuesta) const override;
     QPixmap generatedIconPixmap(QIcon::Mode modo, const QPixmap &imagen,
                                 const QStyleOption *opcion) const override;
 };
 
-// Moves the ring along with the focus.
+class Anillo;
+
+// Moves the ring along with the focus. It stands in the window itself, above all else and outside of its
+// control, so that nothing but the edge of what scrolls cuts it. Around a button with the property "enMarca"
+// it leaves a gap to the frame behind the button, which looks like it (the current kind of payment).
 class MarcoFoco final : public QObject {
     Q_OBJECT
   public:
@@ -34,9 +35,15 @@ class MarcoFoco final : public QObject {
     // Draws the ring anew around what has the focus: a change of the whole style loses it.
     void Retomar();
 
+  protected:
+    bool eventFilter(QObject *objeto, QEvent *evento) override;
+
   private:
     void Seguir(QWidget *control);
-    QPointer<QFocusFrame> marco_; // goes with the window that it stands in
+    void Colocar();
+    QPointer<QWidget> control_;
+    QList<QPointer<QWidget>> camino_; // the control and what it stands in, its window last
+    QPointer<Anillo> anillo_;         // goes with the window that it stands in
 };
 
 } // namespace tarvo
