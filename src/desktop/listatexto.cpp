@@ -44,17 +44,22 @@ std::int64_t ListaTexto::FilaGuardada(int fila) const {
     return d_->Guardada(fila);
 }
 
-QStringList ListaTexto::MasLargos(int columna, int cuantos) const {
+QStringList ListaTexto::MasLargos(int columna, int cuantos, std::uint32_t bytes) const {
     const ColumnaTexto &celdas = d_->Columna(columna);
     QStringList textos;
-    for (const std::int64_t fila : celdas.MasLargas(static_cast<std::size_t>(cuantos)))
+    for (const std::int64_t fila : celdas.MasLargas(static_cast<std::size_t>(cuantos), bytes))
         textos.append(celdas.Texto(fila));
     return textos;
 }
 
 void ListaTexto::Asignar(ContenidoLista contenido) {
+    Reemplazar(std::move(contenido), false);
+}
+
+void ListaTexto::Reemplazar(ContenidoLista contenido, bool ilegible) {
     Q_ASSERT(contenido.celdas.size() == especificacion_.size());
     beginResetModel();
+    ilegible_ = ilegible;
     d_->Reemplazar(std::move(contenido.celdas));
     d_->tonos.assign(especificacion_.size(), {});
     for (TonosColumna &columna : contenido.tonos)
@@ -67,8 +72,16 @@ void ListaTexto::Asignar(ContenidoLista contenido) {
 }
 
 void ListaTexto::Limpiar() {
+    Vaciar(false);
+}
+
+void ListaTexto::QuedarIlegible() {
+    Vaciar(true);
+}
+
+void ListaTexto::Vaciar(bool ilegible) {
     const int flecha = columnaFlecha_;
-    Asignar({std::vector<ColumnaTexto>(especificacion_.size())});
+    Reemplazar({std::vector<ColumnaTexto>(especificacion_.size())}, ilegible);
     columnaFlecha_ = flecha;
     emit headerDataChanged(Qt::Horizontal, 0, columnCount() - 1);
 }

@@ -14,6 +14,7 @@
 
 #include <QAbstractTableModel>
 
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <vector>
@@ -30,6 +31,7 @@ struct ColumnaLista {
     int claveOrden = -1; // column by whose text a click on this header sorts; -1: its own
     int legibles = 0;    // so many characters can be read, however narrow the list
     int flecha = -1;     // header with the arrow while a fill or Ordenar sorts by this column; -1: its own
+    int cedeA = -1;      // left out while that column has no room for its texts; -1: always there
 };
 
 class ListaTexto : public QAbstractTableModel {
@@ -47,8 +49,8 @@ class ListaTexto : public QAbstractTableModel {
     const ColumnaTexto &ColumnaGuardada(int columna) const;
     std::int64_t FilaGuardada(int fila) const;
 
-    // The longest texts of a column, at most `cuantos` of them.
-    QStringList MasLargos(int columna, int cuantos) const;
+    // The longest texts of a column, at most `cuantos` of them; those of more than `bytes` are passed over.
+    QStringList MasLargos(int columna, int cuantos, std::uint32_t bytes) const;
 
     // A row as it is read aloud: caption and text of each column that is not hidden.
     QString FilaHablada(int fila) const;
@@ -57,6 +59,9 @@ class ListaTexto : public QAbstractTableModel {
     // where that column says. All check marks are off.
     void Asignar(ContenidoLista contenido);
     void Limpiar();
+    // Empties the list because its rows can't be read; it says so until it is filled again.
+    void QuedarIlegible();
+    bool Ilegible() const { return ilegible_; }
     // Adds a row, at its sorted place when the list has a sort column, else at the end; returns its number.
     int AgregarFila(const QStringList &celdas);
     void QuitarFila(int fila);
@@ -111,6 +116,8 @@ class ListaTexto : public QAbstractTableModel {
 
   private:
     void Ordenar(int columna, Qt::SortOrder orden, int flecha);
+    void Reemplazar(ContenidoLista contenido, bool ilegible);
+    void Vaciar(bool ilegible);
     void SeguirIndices(const QModelIndexList &antes, const std::vector<std::uint32_t> &guardadas);
     int FlechaDe(int columnaOrden) const;
 
@@ -118,6 +125,7 @@ class ListaTexto : public QAbstractTableModel {
     int columnaOrden_ = -1;
     int columnaFlecha_ = -1;
     bool ordenaVacia_ = true;
+    bool ilegible_ = false;
     Qt::SortOrder orden_ = Qt::AscendingOrder;
     std::unique_ptr<FilasLista> d_;
 };

@@ -1,5 +1,5 @@
-// The fill of a list whose window says nothing when it fails: a table that the store refuses, that is closed
-// or that has no row leaves its list empty.
+// The fill of a list whose window says nothing when it fails: a table without rows leaves its list empty, one
+// that the store refuses or that is closed leaves it unreadable.
 #pragma once
 
 #include "desktop/listatexto.h"
@@ -10,14 +10,14 @@ namespace tarvo {
 
 template <typename Relleno> void LlenarOVaciar(Cursor &cursor, ListaTexto &lista, Relleno llenar) {
     try {
-        if (cursor.RecordCount() > 0) {
-            llenar();
-            return;
-        }
+        if (cursor.RecordCount() > 0)
+            return llenar();
+        if (cursor.Abierto())
+            return lista.Limpiar();
     } catch (const ErrorDatos &) {
-        // The operator sees an empty list, as with a table that is not there.
+        // The list says it.
     }
-    lista.Limpiar();
+    lista.QuedarIlegible();
 }
 
 } // namespace tarvo

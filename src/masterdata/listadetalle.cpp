@@ -43,8 +43,7 @@ void ListaDetalle::LlenarLista() {
         Llenar();
         return;
     } catch (const ErrorDatos &error) {
-        legible_ = false;
-        lista_.Limpiar();
+        lista_.QuedarIlegible();
         QuedarSinFila(EstadoDetalle::Vacia);
         if (!reglas_.callarErrores)
             preguntas_.Mostrar(error.Descripcion(), Icono::Critico);
@@ -57,9 +56,8 @@ void ListaDetalle::Llenar() {
     Senalar(-1);
     AlLlenar();
     CargarColumnas();
-    legible_ = reglas_.cursor.Abierto();
     if (reglas_.cursor.RecordCount() == 0) {
-        lista_.Limpiar();
+        reglas_.cursor.Abierto() ? lista_.Limpiar() : lista_.QuedarIlegible();
         QuedarSinFila(EstadoDetalle::Vacia);
         return;
     }
@@ -164,7 +162,6 @@ void ListaDetalle::Habilitar() {
     habilitados.controles = panel_ == PanelDetalle::Ninguno;
     habilitados.lista = !nueva && panel_ != PanelDetalle::Categoria;
     habilitados.campos = nueva || !camposGrises_;
-    habilitados.legible = legible_;
     habilitados.botones = BotonesDelEstado();
     vista_.Habilitar(habilitados);
     AlCambiarEstado();

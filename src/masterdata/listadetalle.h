@@ -181,7 +181,6 @@ class ListaDetalle {
     Buscador buscador_;
     EstadoDetalle estado_ = EstadoDetalle::Vacia;
     bool desdeVacia_ = true;   // a new row was begun in the state Vacia
-    bool legible_ = true;      // the last fill could read its tables
     bool camposGrises_ = true; // no row is shown, in whatever state
     PanelDetalle panel_ = PanelDetalle::Ninguno;
     QString idMostrado_; // row whose columns the fields hold; empty when none

@@ -28,7 +28,6 @@ struct Habilitados {
     bool campos = false;   // white, else grey for lack of data
     bool lista = true;     // and whatever else would leave the row (the tree of the options window)
     bool controles = true; // fields and buttons as a whole: not below a panel
-    bool legible = true;   // the table could be read: a list without rows has none
 };
 
 class VistaDetalle {

@@ -85,14 +85,15 @@ QString EntradaVendedor(const FrmBases &bases) {
 } // namespace
 
 std::vector<ColumnaLista> ColumnasArticulos() {
-    return {{.titulo = QStringLiteral("Código"), .ancho = 800, .legibles = 7},
-            {.titulo = QStringLiteral("Cód. Barras"), .ancho = 1180, .legibles = 13},
-            {QStringLiteral("Artículo"), 1700},
-            {QStringLiteral("Stock"), 600, true},
-            {QStringLiteral("P. Unitario"), 945, true},
-            {QStringLiteral("IVA"), 560, true},
-            {QStringLiteral("id"), 0, false, true},
-            {QStringLiteral("TipoIVA"), 0, false, true}};
+    return {
+        {.titulo = QStringLiteral("Código"), .ancho = 800, .legibles = 7},
+        {.titulo = QStringLiteral("Cód. Barras"), .ancho = 1180, .legibles = 13, .cedeA = articulo::Nombre},
+        {QStringLiteral("Artículo"), 1700},
+        {QStringLiteral("Stock"), 600, true},
+        {QStringLiteral("P. Unitario"), 945, true},
+        {QStringLiteral("IVA"), 560, true},
+        {QStringLiteral("id"), 0, false, true},
+        {QStringLiteral("TipoIVA"), 0, false, true}};
 }
 
 std::vector<ColumnaLista> ColumnasDetalle() {

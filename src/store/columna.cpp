@@ -138,7 +138,7 @@ void ColumnaTexto::Limpiar() {
 
 // A pass over the ends alone, without the texts: lists ask for it at every fill. A chunk without anything
 // longer than what is kept is passed over as a whole.
-std::vector<std::int64_t> ColumnaTexto::MasLargas(std::size_t cuantas) const {
+std::vector<std::int64_t> ColumnaTexto::MasLargas(std::size_t cuantas, std::uint32_t bytes) const {
     using Larga = std::pair<std::uint32_t, std::int64_t>; // length, minus row: the least is the next to go
     std::vector<Larga> largas;
     for (const Tramo &tramo : tramos_) {
@@ -149,7 +149,7 @@ std::vector<std::int64_t> ColumnaTexto::MasLargas(std::size_t cuantas) const {
             const std::uint32_t fin = tramo.trozo->fin[i];
             const std::uint32_t largo = fin - inicio;
             inicio = fin;
-            if (largas.size() == cuantas && largo <= largas.front().first)
+            if (largo > bytes || (largas.size() == cuantas && largo <= largas.front().first))
                 continue;
             if (largas.size() == cuantas) {
                 std::pop_heap(largas.begin(), largas.end(), std::greater<>());

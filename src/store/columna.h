@@ -9,6 +9,7 @@
 #include <QString>
 
 #include <cstdint>
+#include <limits>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -40,8 +41,10 @@ class ColumnaTexto {
     // Gives back what the last chunk has reserved and not used; for the end of a load.
     void Ajustar();
 
-    // Rows of the longest cells, at most `cuantas` of them; of equally long ones those that came first.
-    std::vector<std::int64_t> MasLargas(std::size_t cuantas) const;
+    // Rows of the longest cells, at most `cuantas` of them; of equally long ones those that came first. Cells
+    // of more than `bytes` don't count.
+    std::vector<std::int64_t>
+    MasLargas(std::size_t cuantas, std::uint32_t bytes = std::numeric_limits<std::uint32_t>::max()) const;
 
     // Memory taken by the texts and their offsets, in bytes; shared chunks count in full.
     std::int64_t Bytes() const;

@@ -190,6 +190,26 @@ TEST(ListaVista, AmountsAreWholeAndTheNameGivesWay) {
     vista.resize(150, 200);
     EXPECT_GT(vista.columnWidth(2), letras(1, 2)) << "no room at all: the list is scrolled";
     EXPECT_GT(vista.horizontalScrollBar()->maximum(), 0);
+    const int antes = vista.columnWidth(3);
+    lista.PonerCelda(0, 3, QString(400, u'9'));
+    EXPECT_EQ(vista.columnWidth(3), antes) << "no amount";
+    lista.QuitarFila(1);
+    vista.Mostrar(&lista);
+    vista.grab();
+    EXPECT_LT(vista.columnWidth(3), antes);
+}
+
+TEST(ListaVista, AColumnIsLeftOutWhileAnotherOneHasNoRoom) {
+    ListaTexto lista{{{.titulo = u"Barras"_qs, .ancho = 1000, .legibles = 13, .cedeA = 1},
+                      {.titulo = u"Artículo"_qs, .ancho = 1000}}};
+    lista.AgregarFila({u"7"_qs, u"Polenta tradicional"_qs});
+    ListaVista vista;
+    vista.Mostrar(&lista);
+    MostrarVentana(vista);
+    for (const int ancho : {400, 150, 400}) {
+        vista.resize(ancho, 100);
+        EXPECT_EQ(vista.isColumnHidden(0), ancho < 200) << ancho;
+    }
 }
 
 TEST(ListaVista, SortsByKey) {
@@ -241,6 +261,10 @@ TEST(ListaVista, SaysWhatToDoWhileItIsEmpty) {
     EXPECT_TRUE(v.vista.accessibleDescription().isEmpty());
     v.lista.Limpiar();
     EXPECT_FALSE(v.vista.accessibleDescription().isEmpty());
+    v.lista.QuedarIlegible();
+    EXPECT_EQ(v.vista.accessibleDescription(), u"No se pudieron leer los datos.");
+    v.lista.Limpiar();
+    EXPECT_EQ(v.vista.accessibleDescription(), u"Todavía no hay filas.");
 }
 
 TEST(ListaVista, RowsOverflowJustWhenTheScrollBarTakesRoom) {

@@ -269,7 +269,7 @@ TEST_F(ArticulosAbiertos, ATableThatCannotBeReadLeavesTheWindowEmptyAndItsNewArt
     const auto vacia = [this] {
         return logica_->Estado() == EstadoDetalle::Vacia && logica_->Lista().Filas() == 0 &&
                vista.habilitados.botones == Botones{.nuevo = true, .actualizar = true} &&
-               !vista.habilitados.legible;
+               logica_->Lista().Ilegible();
     };
     logica_->Actualizar();
     EXPECT_TRUE(vacia());
@@ -279,7 +279,7 @@ TEST_F(ArticulosAbiertos, ATableThatCannotBeReadLeavesTheWindowEmptyAndItsNewArt
     EXPECT_TRUE(vacia());
     mundo_.datos.Filas("ALTER TABLE articulos.Otra RENAME TO Articulos");
     logica_->Actualizar();
-    EXPECT_TRUE(vista.habilitados.legible);
+    EXPECT_FALSE(logica_->Lista().Ilegible());
     EXPECT_EQ(logica_->Lista().Filas(), 4);
 }
 

@@ -36,6 +36,19 @@ class Selector : public ConVentana<QWidget> {
 // Key in the menu, null when it has none, caption and a text to search.
 using Modo = std::array<const char *, 3>;
 
+TEST_F(Selector, AListThatCannotBeReadSaysSo) {
+    FrmBases &bases = mundo.frmBases();
+    ListaTexto lista(ColumnasClientes());
+    mundo.datos.Filas("ALTER TABLE clientes.Clientes RENAME TO Otra");
+    for (const bool abierta : {true, false}) {
+        if (!abierta)
+            bases.Cerrar();
+        bases.datClientes.Invalidar();
+        CargarClientes(bases, lista);
+        EXPECT_TRUE(lista.Ilegible()) << abierta;
+    }
+}
+
 TEST_F(Selector, SearchModesOfTheSaleAndOfTheAccounts) {
     const QString final = u"La búsqueda ha finalizado."_qs;
     const std::vector<Modo> ventas{{"codigo", "Buscar por código", "c1"},

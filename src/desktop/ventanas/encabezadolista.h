@@ -10,11 +10,12 @@ class EncabezadoLista final : public QHeaderView {
     Q_OBJECT
   public:
     explicit EncabezadoLista(QWidget *padre = nullptr);
+    // What the caption and its sort icon need, also while the column is hidden.
+    QSize sectionSizeFromContents(int seccion) const override;
 
   protected:
     void initStyleOptionForIndex(QStyleOptionHeader *opcion, int seccion) const override;
     void paintSection(QPainter *pintor, const QRect &zona, int seccion) const override;
-    QSize sectionSizeFromContents(int seccion) const override;
     bool viewportEvent(QEvent *evento) override;
     void mouseDoubleClickEvent(QMouseEvent *evento) override;
 

@@ -11,14 +11,17 @@
 #include <QScopedValueRollback>
 #include <QScrollBar>
 
+#include <limits>
+
 namespace tarvo {
 
 namespace {
 
-constexpr int kMuestra = 8;          // so many of a column's longest texts are measured
-constexpr int kLetrasMedidas = 200;  // no column is given room for more
-constexpr int kCifrasDeImporte = 24; // what is longer is no amount, and may be cut
-constexpr int kFilasSueltas = 50;    // more new rows than this are measured as a new list
+constexpr int kMuestra = 8;         // so many of a column's longest texts are measured
+constexpr int kLetrasMedidas = 200; // no column is given room for more
+constexpr int kLetrasEnteras = 40;  // of a text for which another column is left out
+constexpr int kImporteMayor = 32;   // letters; what is longer is no amount, and may be cut
+constexpr int kFilasSueltas = 50;   // more new rows than this are measured as a new list
 
 // Brings the chosen row back into view also when it is the last one already.
 bool EsDeMovimiento(const QKeyEvent &evento) {
@@ -132,14 +135,9 @@ void ListaVista::PonerTextoVacio(const QString &texto) {
     viewport()->update();
 }
 
-void ListaVista::PonerIlegible(bool ilegible) {
-    ilegible_ = ilegible;
-    DecirVacia();
-    viewport()->update();
-}
-
 QString ListaVista::MotivoVacia() const {
-    return ilegible_ ? QStringLiteral("No se pudieron leer los datos.") : textoVacio_;
+    const bool ilegible = !lista_.isNull() && lista_->Ilegible();
+    return ilegible ? QStringLiteral("No se pudieron leer los datos.") : textoVacio_;
 }
 
 void ListaVista::DecirVacia() {
@@ -276,7 +274,9 @@ int ListaVista::Medir(int columna, const QStringList &textos) const {
     const bool derecha = lista_->Columnas()[static_cast<std::size_t>(columna)].derecha;
     int ancho = 0;
     for (QString texto : textos) {
-        texto.truncate(derecha ? kCifrasDeImporte : kLetrasMedidas);
+        if (derecha && texto.size() > kImporteMayor)
+            continue;
+        texto.truncate(kLetrasMedidas);
         // Of two amounts with equally many letters the one with more figures is the wider one.
         if (derecha)
             texto.replace(QLatin1Char('-'), QLatin1Char('0'));
@@ -298,7 +298,7 @@ void ListaVista::Ensanchar(int desde, int hasta) {
         return;
     bool crece = false;
     for (int columna = 0; columna < lista_->columnCount(); ++columna) {
-        if (isColumnHidden(columna))
+        if (lista_->Columnas()[static_cast<std::size_t>(columna)].oculta)
             continue;
         QStringList textos;
         for (int fila = desde; fila <= hasta; ++fila)
@@ -316,11 +316,37 @@ void ListaVista::Ensanchar(int desde, int hasta) {
 AnchoColumna ListaVista::AnchoDe(int columna) const {
     const auto i = static_cast<std::size_t>(columna);
     const ColumnaLista &especificacion = lista_->Columnas()[i];
-    const int rotulo = header()->sectionSizeHint(columna);
+    const int rotulo =
+        static_cast<const EncabezadoLista *>(header())->sectionSizeFromContents(columna).width();
     const int necesario = std::max(rotulo, necesarios_[i]);
     const int legible = fontMetrics().horizontalAdvance(QString(especificacion.legibles, u'0'));
     const int leido = especificacion.legibles > 0 ? std::min(necesario, legible + Bordes(columna)) : rotulo;
     return {anchos_[i], especificacion.derecha ? necesario : std::max(rotulo, leido), necesario};
+}
+
+// A column that gives way to another one is back as soon as there is room for the texts of both.
+void ListaVista::DejarFuera() {
+    const std::vector<ColumnaLista> &columnas = lista_->Columnas();
+    for (int i = 0; i < static_cast<int>(columnas.size()); ++i) {
+        const int otra = columnas[static_cast<std::size_t>(i)].cedeA;
+        if (otra < 0)
+            continue;
+        const int entera = fontMetrics().horizontalAdvance(QString(kLetrasEnteras, u'0'));
+        int piden = std::min(AnchoDe(otra).necesario, entera);
+        for (int j = 0; j < static_cast<int>(columnas.size()); ++j)
+            if (j != otra && !columnas[static_cast<std::size_t>(j)].oculta)
+                piden += AnchoDe(j).minimo;
+        setColumnHidden(i, piden > viewport()->width());
+    }
+}
+
+int ListaVista::MedirMuestra(int columna) const {
+    const ColumnaLista &especificacion = lista_->Columnas()[static_cast<std::size_t>(columna)];
+    if (especificacion.oculta)
+        return 0;
+    const std::uint32_t bytes =
+        especificacion.derecha ? kImporteMayor : std::numeric_limits<std::uint32_t>::max();
+    return Medir(columna, lista_->MasLargos(columna, kMuestra, bytes));
 }
 
 void ListaVista::RepartirAnchos() {
@@ -328,7 +354,9 @@ void ListaVista::RepartirAnchos() {
         return;
     if (necesarios_.empty())
         for (int i = 0; i < lista_->columnCount(); ++i)
-            necesarios_.push_back(isColumnHidden(i) ? 0 : Medir(i, lista_->MasLargos(i, kMuestra)));
+            necesarios_.push_back(MedirMuestra(i));
+    const QScopedValueRollback repartiendo(repartiendo_, true);
+    DejarFuera();
     std::vector<int> columnas;
     std::vector<AnchoColumna> necesitan;
     for (int i = 0; i < static_cast<int>(anchos_.size()); ++i) {
@@ -338,7 +366,6 @@ void ListaVista::RepartirAnchos() {
         necesitan.push_back(AnchoDe(i));
     }
     const std::vector<int> anchos = RepartirAncho(viewport()->width(), necesitan);
-    const QScopedValueRollback repartiendo(repartiendo_, true);
     for (std::size_t i = 0; i < columnas.size(); ++i)
         setColumnWidth(columnas[i], anchos[i]);
 }

@@ -1,8 +1,9 @@
 // The one list view: a flat tree view on a ListaTexto, with single selection of whole rows.
 //
 // Columns take what their texts need before the rest is shared out: numbers and amounts are never cut, of the
-// others the widest give way first, and a cell that is cut shows its text in a tooltip. Ctrl+1 to Ctrl+9 sort
-// as a click on that visible header does. A list without rows says what to do.
+// others the widest give way first, and a cell that is cut shows its text in a tooltip. A column that the
+// list can do without is left out before the texts that it gives way to are cut. Ctrl+1 to Ctrl+9 sort
+// as a click on that visible header does. A list without rows says what to do, or that it can't be read.
 #pragma once
 
 #include "desktop/anchos.h"
@@ -31,8 +32,6 @@ class ListaVista : public QTreeView {
     void PonerAncho(int columna, int twips);
     // What stands in the list while it has no rows, and is read aloud: "Todavía no hay ...".
     void PonerTextoVacio(const QString &texto);
-    // True: there is no row because the data could not be read, and the list says that instead.
-    void PonerIlegible(bool ilegible);
     // True exactly when a scroll bar takes room: the rows exceed Int(height / row - 1.5), where `row` is the
     // height of a row and the 1.5 are header and frame, both as high as font and style make them.
     bool DesbordaFilas() const;
@@ -61,10 +60,12 @@ class ListaVista : public QTreeView {
     void Encabezar();
     void Seguir();
     void RepartirAnchos();
+    void DejarFuera();
     AnchoColumna AnchoDe(int columna) const;
     int Bordes(int columna) const;
     void MedirColumnas();
     int Medir(int columna, const QStringList &textos) const;
+    int MedirMuestra(int columna) const;
     void Ensanchar(int desde, int hasta);
     bool OrdenarPorTecla(const QKeyEvent &evento);
     bool MarcarPorTecla(const QKeyEvent &evento);
@@ -76,7 +77,6 @@ class ListaVista : public QTreeView {
     std::vector<int> necesarios_; // pixels that the texts of each column need; empty: to be measured
     bool actualVista_ = false;    // the current row was in sight when the list was last painted
     QString textoVacio_;
-    bool ilegible_ = false;
     bool repartiendo_ = false;
     QList<QMetaObject::Connection> seguimiento_;
 };

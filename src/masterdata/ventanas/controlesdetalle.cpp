@@ -123,7 +123,6 @@ void ControlesDetalle::Habilitar(const Habilitados &habilitados) {
     if (bajoPaneles_ != nullptr)
         bajoPaneles_->setEnabled(habilitados.controles);
     lista_->setEnabled(habilitados.lista);
-    lista_->PonerIlegible(!habilitados.legible);
     emit ListaHabilitada(habilitados.lista);
 }
 
