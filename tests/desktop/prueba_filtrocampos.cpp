@@ -138,6 +138,8 @@ TEST(FiltroCampos, AShortcutOfTheWindowIsNotTakenByAField) {
     Tecla(ventana.txtUno, Qt::Key_A, Qt::ControlModifier);
     EXPECT_EQ(elegida.size(), 1);
     EXPECT_EQ(ventana.txtUno->selectedText(), u"uno") << "a key without an entry edits";
+    QTest::keyClick(ventana.txtUno, '2', Qt::AltModifier);
+    EXPECT_EQ(ventana.txtUno->text(), u"uno") << "a letter that nothing underlines";
 }
 
 TEST(FiltroCampos, TheWheelChangesNoFieldAndScrollsWhatLiesBehindIt) {

@@ -41,6 +41,12 @@ bool SinModificador(const QKeyEvent &evento) {
     return (evento.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
 }
 
+// Alt with a letter that nothing underlines; a field would take the letter.
+bool EsLetraSuelta(const QKeyEvent &evento) {
+    const Qt::KeyboardModifiers orden = evento.modifiers() & (Qt::ControlModifier | Qt::AltModifier);
+    return orden == Qt::AltModifier && !evento.text().isEmpty() && evento.text().front().isPrint();
+}
+
 // A key with Ctrl that the window has given to one of its entries. Fields would take some of these letters as
 // editing keys before the entry could get them.
 bool EsAtajo(const QWidget &control, const QKeyEvent &evento) {
@@ -210,6 +216,8 @@ bool FiltroCampos::Tecla(QWidget *recibe, QKeyEvent *evento) {
         escapeVisto_ = !hecho && recibe != ventana_;
         return hecho;
     }
+    if (EsLetraSuelta(*evento))
+        return true;
     if (recibe == ventana_)
         return false;
     QWidget *const control = ControlDe(recibe);

@@ -3,8 +3,9 @@
 // Enter in a text field or combo moves to the next control (and is never typed in), on a button it presses
 // it; a field that gets the focus has its text selected. A window names its exceptions. The colour of the
 // field with the focus comes from the style. A field keeps the focus while another window (a question) is
-// active: neither end is told. The mouse wheel changes no combo, and a number or date only while it has the
-// focus: elsewhere it is meant for what lies behind.
+// active: neither end is told. Alt with a letter that nothing underlines types nothing. The mouse wheel
+// changes no combo, and a number or date only while it has the focus: elsewhere it is meant for what lies
+// behind.
 #pragma once
 
 #include <QHash>
