@@ -108,6 +108,18 @@ TEST_F(VentanaArticulos, TheSecondCategoryStaysInert) {
     }
 }
 
+TEST_F(VentanaArticulos, TheButtonsCloseUpOnANarrowScreen) {
+    QWidget pantalla;
+    ventana_->setParent(&pantalla);
+    ventana_->show();
+    MostrarVentana(pantalla);
+    for (const int ancho : {640, 1000}) {
+        pantalla.resize(ancho, 480);
+        EXPECT_EQ(C<QPushButton>("cmdNuevo")->property("compacto").toBool(), ancho == 640);
+    }
+    ventana_->setParent(nullptr);
+}
+
 TEST_F(VentanaArticulos, EscapeDoesNotGiveUpTheFirstArticleOfAll) {
     mundo.preguntas.Espera(u"Está seguro de querer eliminar los datos del artículo seleccionado?"_qs, No, Si);
     Clic("cmdEliminar");

@@ -15,6 +15,7 @@
 #include "ui_frmconfig.h"
 
 #include <QKeyEvent>
+#include <QScrollBar>
 #include <QStandardItemModel>
 #include <QTimer>
 
@@ -102,7 +103,16 @@ void FrmConfig::SeleccionarNodo(int nodo) {
 
 void FrmConfig::MostrarPanel(int nodo) {
     const NodoOpciones &elegido = NodosOpciones().at(std::size_t(nodo));
-    ui_->paneles->setCurrentWidget(ui_->paneles->findChild<QWidget *>(elegido.panel));
+    auto *const panel = ui_->paneles->findChild<QWidget *>(elegido.panel);
+    // The panels that can't be seen ask for no room, and none begins where another one was scrolled to.
+    for (QWidget *otro :
+         std::initializer_list<QWidget *>{frImpuestos, frCategorias, frVendedores, frImpresion}) {
+        const QSizePolicy::Policy politica = otro == panel ? QSizePolicy::Preferred : QSizePolicy::Ignored;
+        otro->setSizePolicy(politica, politica);
+    }
+    ui_->paneles->setCurrentWidget(panel);
+    for (QScrollBar *barra : {ui_->desplazable->horizontalScrollBar(), ui_->desplazable->verticalScrollBar()})
+        barra->setValue(0);
     ui_->lblTitulo->setText(elegido.titulo);
 }
 

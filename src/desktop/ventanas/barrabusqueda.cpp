@@ -1,6 +1,7 @@
 #include "desktop/ventanas/barrabusqueda.h"
 
 #include "desktop/preguntas.h"
+#include "desktop/ventanas/estilo.h"
 #include "desktop/ventanas/filtrocampos.h"
 #include "desktop/ventanas/iconos.h"
 #include "desktop/ventanas/kitmenu.h"
@@ -10,7 +11,6 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
-#include <QStyle>
 #include <QToolBar>
 #include <QToolButton>
 
@@ -88,8 +88,7 @@ void BarraBusqueda::ElegirModo(const ModoBusqueda &modo) {
 void BarraBusqueda::Usar(bool si) {
     c_.campo->setEnabled(si);
     c_.boton->setEnabled(si);
-    c_.campo->setProperty("sinDatos", !si);
-    c_.campo->style()->polish(c_.campo);
+    Marcar(c_.campo, "sinDatos", !si);
 }
 
 bool BarraBusqueda::EnUso() const {

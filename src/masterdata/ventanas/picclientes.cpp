@@ -30,6 +30,11 @@ PicClientes::PicClientes(const Servicios &servicios, const ReglasSelector &regla
     if (reglas_.alta)
         PrepararAlta();
     ui_->cmdAgregarCliente->setVisible(reglas_.alta);
+    QWidget *anterior = ui_->LVClientes;
+    for (QWidget *boton : {ui_->cmdAgregarCliente, ui_->cmdAceptar, ui_->cmdCancelar}) {
+        setTabOrder(anterior, boton); // as they stand
+        anterior = boton;
+    }
     filtro.AlEntrar(ui_->LVClientes, [this] { Aceptar(); });
     connect(ui_->cmdAceptar, &QPushButton::clicked, this, &PicClientes::Aceptar);
     connect(ui_->LVClientes, &ListaVista::FilaDobleClic, this, &PicClientes::Aceptar);
@@ -53,7 +58,10 @@ void PicClientes::PrepararBarra(Buscador &buscador, FiltroCampos &filtro) {
 void PicClientes::PrepararAlta() {
     picNuevoCliente_ = new PicNuevoCliente(servicios_, this);
     connect(ui_->cmdAgregarCliente, &QPushButton::clicked, picNuevoCliente_, &PicNuevoCliente::Abrir);
-    connect(picNuevoCliente_, &PicNuevoCliente::Abierto, this, [this] { HabilitarPanel(false); });
+    connect(picNuevoCliente_, &PicNuevoCliente::Abierto, this, [this] {
+        ColocarAlta();
+        HabilitarPanel(false);
+    });
     connect(picNuevoCliente_, &PicNuevoCliente::Guardado, this, &PicClientes::CargarClientes);
     connect(picNuevoCliente_, &PicNuevoCliente::Cerrado, this, [this] {
         HabilitarPanel(true);
@@ -129,11 +137,12 @@ void PicClientes::AjustarColumnas() {
 }
 
 void PicClientes::Colocar(const QRect &sitio) {
-    constexpr int kAnchoMayor = 680;
-    constexpr int kAltoMayor = 480;
+    constexpr int kLetras = 92; // wide at most
+    constexpr int kRenglones = 28;
     constexpr int kMargen = 16;
-    QRect lugar(0, 0, std::min(sitio.width() - 2 * kMargen, kAnchoMayor),
-                std::min(sitio.height() - 2 * kMargen, kAltoMayor));
+    const QFontMetrics letra = fontMetrics();
+    QRect lugar(0, 0, std::min(sitio.width() - 2 * kMargen, kLetras * letra.horizontalAdvance(u'0')),
+                std::min(sitio.height() - 2 * kMargen, kRenglones * letra.height()));
     lugar.moveCenter(sitio.center());
     setGeometry(lugar);
 }
@@ -148,7 +157,9 @@ void PicClientes::ColocarAlta() {
     if (picNuevoCliente_ == nullptr)
         return;
     const QSize medida = picNuevoCliente_->sizeHint();
-    QRect lugar(0, 0, std::max(medida.width(), width() - 60), std::min(medida.height(), height()));
+    constexpr int kAire = 60;
+    QRect lugar(0, 0, std::min(std::max(medida.width(), width() - kAire), width()),
+                std::min(medida.height(), height()));
     lugar.moveCenter(rect().center());
     picNuevoCliente_->setGeometry(lugar);
 }

@@ -1,5 +1,6 @@
 #include "masterdata/ventanas/ventanacatalogo.h"
 
+#include "desktop/ventanas/estilo.h"
 #include "desktop/ventanas/etiquetaelidida.h"
 #include "desktop/ventanas/filtrocampos.h"
 #include "desktop/ventanas/iconos.h"
@@ -215,16 +216,36 @@ int VentanaCatalogo::AnchoListaTwips() const {
     return LV().viewport()->width() * kTwipsPorPunto;
 }
 
-// The list gets its new width after the window.
+// The row of buttons says how narrow the window can be: where it would be scrolled sideways they move closer
+// together.
+void VentanaCatalogo::Compactar() {
+    constexpr int kLetrasHolgadas = 95;
+    const int sitio = parentWidget() == nullptr ? width() : parentWidget()->width();
+    const bool compacto = sitio < kLetrasHolgadas * fontMetrics().horizontalAdvance(u'0');
+    for (int i = 0; i < ui_->botones->count(); ++i)
+        if (QWidget *boton = ui_->botones->itemAt(i)->widget())
+            Marcar(boton, "compacto", compacto);
+}
+
+// The list gets its new width after the window, which itself stays as wide as its buttons.
 bool VentanaCatalogo::eventFilter(QObject *objeto, QEvent *evento) {
     if (evento->type() == QEvent::Resize && objeto == LV().viewport())
         AjustarColumnas();
+    else if (evento->type() == QEvent::Resize && objeto == parentWidget())
+        Compactar();
     return VentanaModulo::eventFilter(objeto, evento);
 }
 
 void VentanaCatalogo::resizeEvent(QResizeEvent *evento) {
     VentanaModulo::resizeEvent(evento);
     ColocarPaneles();
+}
+
+void VentanaCatalogo::showEvent(QShowEvent *evento) {
+    VentanaModulo::showEvent(evento);
+    if (parentWidget() != nullptr)
+        parentWidget()->installEventFilter(this);
+    Compactar();
 }
 
 void VentanaCatalogo::closeEvent(QCloseEvent *evento) {

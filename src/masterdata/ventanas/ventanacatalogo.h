@@ -70,6 +70,7 @@ class VentanaCatalogo : public VentanaModulo {
 
     bool eventFilter(QObject *objeto, QEvent *evento) override;
     void resizeEvent(QResizeEvent *evento) override;
+    void showEvent(QShowEvent *evento) override;
     void closeEvent(QCloseEvent *evento) override;
 
   private:
@@ -79,6 +80,7 @@ class VentanaCatalogo : public VentanaModulo {
     void Buscar();
     void TitularFicha(const QString &nombre);
     void ColocarPaneles();
+    void Compactar();
     bool CancelarConFoco();
 
     Servicios servicios_;

@@ -3,6 +3,7 @@
 #include "desktop/anfitrion.h"
 #include "desktop/preguntas.h"
 #include "desktop/ventanas/barrabusqueda.h"
+#include "desktop/ventanas/estilo.h"
 #include "desktop/ventanas/filtrocampos.h"
 #include "desktop/ventanas/iconos.h"
 #include "desktop/ventanas/paneles.h"
@@ -125,7 +126,7 @@ void FrmVentas::FiltrarCampos() {
             CompletarCantidad();
     });
     filtro_->AlFoco(ui_->txtDescuento, [this](bool entra) { FocoDescuento(entra); });
-    filtro_->AlFoco(ui_->txtNumComp, [this](bool) { Conservado(ui_->txtNumComp, false); });
+    filtro_->AlFoco(ui_->txtNumComp, [this](bool) { Marcar(ui_->txtNumComp, "conservado", false); });
     for (QPushButton *boton : {ui_->cmdVContado, ui_->cmdVCredito})
         filtro_->AlEntrar(boton, [boton] { boton->click(); });
     filtro_->AlEntrar(ui_->LVArticulos, [this] { ui_->txtCantidad->setFocus(); });
@@ -328,7 +329,7 @@ void FrmVentas::FocoDescuento(bool entra) {
         ui_->txtDescuento->selectAll();
         return;
     }
-    Conservado(ui_->txtDescuento, false);
+    Marcar(ui_->txtDescuento, "conservado", false);
     venta_.PonerDescuento(ui_->txtDescuento->text());
     ui_->txtDescuento->setText(venta_.TextoDescuento());
     CalcularTotales();

@@ -10,7 +10,6 @@
 #include <memory>
 
 class QBoxLayout;
-class QLineEdit;
 
 namespace tarvo {
 
@@ -62,7 +61,6 @@ class FrmVentas : public VentanaModulo {
     void MostrarSeleccionado();
     void MostrarVuelto();
     void MarcarConservados();
-    static void Conservado(QLineEdit *campo, bool si);
     void MostrarVentaNueva();
     void CargarArticulos();
     void AjustarColumnas();

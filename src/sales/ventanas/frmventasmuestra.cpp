@@ -1,6 +1,7 @@
 // What the controls of the sale window show.
 #include "desktop/anfitrion.h"
 #include "desktop/reloj.h"
+#include "desktop/ventanas/estilo.h"
 #include "masterdata/ventanas/picclientes.h"
 #include "sales/ventanas/frmventas.h"
 #include "sales/ventanas/tarjetaultimo.h"
@@ -10,7 +11,6 @@
 #include <QAction>
 #include <QBoxLayout>
 #include <QSignalBlocker>
-#include <QStyle>
 
 #include <cmath>
 
@@ -73,14 +73,8 @@ void FrmVentas::MostrarVuelto() {
 
 // What the last issue left for the next document stands out until it is touched.
 void FrmVentas::MarcarConservados() {
-    Conservado(ui_->txtNumComp, !venta_.NumComp().isEmpty());
-    Conservado(ui_->txtDescuento, venta_.Descuento() != 0);
-}
-
-void FrmVentas::Conservado(QLineEdit *campo, bool si) {
-    campo->setProperty("conservado", si);
-    campo->style()->unpolish(campo);
-    campo->style()->polish(campo);
+    Marcar(ui_->txtNumComp, "conservado", !venta_.NumComp().isEmpty());
+    Marcar(ui_->txtDescuento, "conservado", venta_.Descuento() != 0);
 }
 
 void FrmVentas::CargarArticulos() {
@@ -119,8 +113,7 @@ void FrmVentas::resizeEvent(QResizeEvent *evento) {
     constexpr int kAltoHolgado = 640; // pixels; below it the card takes no line of its own
     const bool plegada = height() < kAltoHolgado;
     pie_->setDirection(plegada ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
-    ui_->cmdNuevo->setProperty("compacto", plegada);
-    ui_->cmdNuevo->style()->polish(ui_->cmdNuevo);
+    Marcar(ui_->cmdNuevo, "compacto", plegada);
     frUltimo->Plegar(plegada);
     picClientes_->Colocar(rect().adjusted(0, ui_->lblTitulo->height(), 0, 0));
     AjustarColumnas();

@@ -1,13 +1,13 @@
 #include "sales/ventanas/tarjetaultimo.h"
 
 #include "desktop/ventanas/botonzel.h"
+#include "desktop/ventanas/estilo.h"
 #include "desktop/ventanas/etiquetaelidida.h"
 #include "desktop/ventanas/iconos.h"
 #include "sales/ultimocomprobante.h"
 
 #include <QGridLayout>
 #include <QKeySequence>
-#include <QStyle>
 
 #include <utility>
 
@@ -73,8 +73,7 @@ void TarjetaUltimo::Plegar(bool plegada) {
     for (auto [boton, tecla] : {std::pair(cmdReimprimir, kTeclaTicket), {cmdFactura, kTeclaFactura}}) {
         boton->setText(plegada ? QString() : boton->accessibleName());
         boton->setShortcut(tecla); // a new text has taken it away
-        boton->setProperty("compacto", plegada);
-        boton->style()->polish(boton);
+        Marcar(boton, "compacto", plegada);
     }
     if (plegada) {
         rejilla->addWidget(lblUltimoTotal, 0, 0, 1, 2);

@@ -128,8 +128,9 @@ void FrmPrincipal::DesactivarSinVentana() {
 // With a module open the Tab key stays within it.
 void FrmPrincipal::MostrarInicio(bool visible) {
     ui_->SB1->PermitirFoco(visible);
-    ui_->area->setVisible(!visible);
-    inicio_->setVisible(visible);
+    // Both at once, even for a moment, would ask for more height than a small screen has.
+    (visible ? static_cast<QWidget *>(ui_->area) : inicio_)->hide();
+    (visible ? inicio_ : static_cast<QWidget *>(ui_->area))->show();
     if (visible)
         inicio_->setFocus();
 }
