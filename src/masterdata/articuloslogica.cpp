@@ -4,6 +4,8 @@
 #include "store/errordatos.h"
 #include "store/store.h"
 
+#include <utility>
+
 namespace tarvo {
 
 namespace {
@@ -285,17 +287,23 @@ QString ArticulosLogica::SinPrefijo(const QString &monto) const {
 }
 
 void ArticulosLogica::EntrarImporte(int campo) {
-    vista().Poner(campo, SinPrefijo(vista().Texto(campo)));
+    entrado_ = SinPrefijo(vista().Texto(campo));
+    vista().Poner(campo, entrado_);
 }
 
-void ArticulosLogica::SalirImporte(int campo) {
+bool ArticulosLogica::SalirImporte(int campo) {
+    const Moneda &moneda = frmBases().moneda();
     QString texto = vista().Texto(campo);
+    const QString numero = SinPrefijo(texto);
+    const bool intacto = !texto.isEmpty() && texto == std::exchange(entrado_, QString());
     // The reading that knows only a point: what begins with 0, is 0.
-    if (Moneda::NumeroNeutro(SinPrefijo(texto)) == 0)
+    const bool cero = !intacto && Moneda::NumeroNeutro(numero) == 0;
+    if (cero)
         texto = QStringLiteral("0");
-    vista().Poner(campo, frmBases().moneda().FormatoMoneda(texto, true));
+    vista().Poner(campo, moneda.FormatoMoneda(texto, true));
     if (campo == kSubtotal)
         CalcularPVenta();
+    return !cero || moneda.Numero(ConSeparador(numero, moneda)) == 0;
 }
 
 void ArticulosLogica::SalirCantidad(int campo) {

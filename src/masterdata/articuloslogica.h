@@ -73,7 +73,9 @@ class ArticulosLogica : public ListaDetalle {
     // --- a field was left, or an amount entered
     void SalirCodigo();
     void EntrarImporte(int campo);
-    void SalirImporte(int campo);
+    // What was left as it stood stays; a new amount is read with a point only ("0,50" is 0). False when
+    // decimals were lost so.
+    bool SalirImporte(int campo);
     void SalirCantidad(int campo);
 
     // The price on screen: the percentage is read from the last three characters of the type's label, up to
@@ -109,6 +111,7 @@ class ArticulosLogica : public ListaDetalle {
     QStringList filtros_;
     int indiceFiltro_ = 0;
     int filtro_ = kTodas;
+    QString entrado_; // what the amount field held when it was entered
 };
 
 } // namespace tarvo

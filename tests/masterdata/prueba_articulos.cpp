@@ -410,9 +410,15 @@ TEST_F(ArticulosAbiertos, LeavesAmountsReadWithAPointOnly) {
         logica_->SalirImporte(A::kPCompra);
         EXPECT_EQ(vista.textos[A::kPCompra], QString::fromUtf8(mostrado)) << tecleado;
     }
-    vista.textos[A::kPCompra] = u"$ 12,50"_qs;
-    logica_->EntrarImporte(A::kPCompra);
-    EXPECT_EQ(vista.textos[A::kPCompra], u"12,50");
+    for (const QString &importe : {u"12,50"_qs, u"0,50"_qs}) {
+        vista.textos[A::kPCompra] = u"$ "_qs + importe;
+        logica_->EntrarImporte(A::kPCompra);
+        EXPECT_EQ(vista.textos[A::kPCompra], importe);
+        EXPECT_TRUE(logica_->SalirImporte(A::kPCompra));
+        EXPECT_EQ(vista.textos[A::kPCompra], u"$ "_qs + importe) << "nobody has typed anything";
+    }
+    vista.textos[A::kPCompra] = u"0,5"_qs;
+    EXPECT_FALSE(logica_->SalirImporte(A::kPCompra)) << "decimals are lost";
 }
 
 TEST_F(ArticulosAbiertos, AnAmountThatIsNoNumberIsRefusedBeforeAnythingIsAsked) {

@@ -4,6 +4,8 @@
 #include "sales/rachateclas.h"
 
 #include <QDialog>
+#include <QMenu>
+#include <QSignalSpy>
 
 namespace tarvo {
 namespace {
@@ -52,6 +54,17 @@ TEST_F(Escaner, FoundWhateverHasTheFocus) {
     Lista("LVArticulos")->setFocus();
     Escaneado(kAzucar);
     Hallado(1, "search off");
+    // In an open menu what chooses no entry of it closes it.
+    QMenu menu(ventana.get());
+    const QAction *const salir = menu.addAction(QStringLiteral("&Salir"));
+    menu.popup({});
+    QTest::keyClick(&menu, '7');
+    EXPECT_FALSE(menu.isVisible());
+    EXPECT_EQ(Campo("txtBuscar")->text(), QStringLiteral("7"));
+    menu.popup({});
+    QSignalSpy elegida(salir, &QAction::triggered);
+    QTest::keyClick(&menu, 's');
+    EXPECT_EQ(elegida.size(), 1);
 }
 
 TEST_F(Escaner, WhatIsNoQuantityAndNoDiscountIsSearched) {

@@ -43,6 +43,7 @@ void PanelImpuestos::CargarPersonalizado() {
     ui_->chkUtilizar->setChecked(datos.utilizar);
     HabilitarPersonalizado(datos.utilizar);
     ui_->txtNomImp->setText(datos.nombre);
+    ui_->txtNomImp->setCursorPosition(0);
     ui_->txtPersPorcentaje->setText(datos.porcentaje);
     ui_->chkGravarSobre->setChecked(datos.sobreIva);
     ui_->chkGravarIFiscal->setChecked(datos.exigeIFiscal);

@@ -35,9 +35,13 @@ bool AccesoCelda::Habla() const {
 }
 
 QString AccesoCelda::text(QAccessible::Text parte) const {
-    if (parte != QAccessible::Name || !isValid())
+    if (!isValid())
         return {};
     const ListaTexto &lista = *vista_->Lista();
+    if (parte == QAccessible::Description && !EsEncabezado())
+        return lista.data(lista.index(fila_, columna_), Qt::AccessibleDescriptionRole).toString();
+    if (parte != QAccessible::Name)
+        return {};
     if (EsEncabezado())
         return lista.Columnas()[static_cast<std::size_t>(columna_)].titulo;
     return Habla() ? lista.FilaHablada(fila_) : lista.Celda(fila_, columna_).left(kLetrasOidas);

@@ -30,10 +30,10 @@ inline const QColor kTextoTenue(92, 103, 132);
 
 // Style, palette, style sheet and font of the whole program. Widgets get their part by these dynamic
 // properties: QFrame "tarjeta" = true (white card, radius 4), QLabel "titulo" = true (title bar of a module
-// window), QLabel "tenue" = true (dim caption), QPushButton
-// "principal" = true (the main button; with "enFila" = true as small as its
-// neighbours), QLineEdit "sinDatos" = true (grey, disabled for lack of data) and "conservado" = true (tinted:
-// it still holds what the last document left there).
+// window), QLabel "tenue" = true (dim caption), QPushButton "principal" = true (the main button; with
+// "enFila" = true as small as its neighbours), "compacto" = true (little room around the text) and "enMarca"
+// = true (see MarcoFoco), QLineEdit "sinDatos" = true (grey, disabled for lack of data) and "conservado" =
+// true (tinted: it still holds what the last document left there).
 void AplicarEstilo(QApplication &aplicacion);
 
 // Sets such a property of a control that is already shown.

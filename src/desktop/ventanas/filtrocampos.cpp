@@ -302,6 +302,8 @@ void FiltroCampos::CambiarFoco(QWidget *ahora) {
     enfocado_ = control;
     if (!antes.isNull())
         AvisarFoco(antes, false);
+    if (auto *campo = qobject_cast<QLineEdit *>(antes); campo != nullptr && !campo->hasFocus())
+        campo->setCursorPosition(0); // what is too long shows its beginning
     if (enfocado_ != control || !(control == ventana_ || ventana_->isAncestorOf(control)))
         return;
     AvisarFoco(control, true);

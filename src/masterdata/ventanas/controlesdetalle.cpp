@@ -67,7 +67,10 @@ void ControlesDetalle::Poner(int campo, const QString &texto) {
     QWidget *control = Campo(campo);
     auto *combo = qobject_cast<QComboBox *>(control);
     if (combo == nullptr) {
-        static_cast<QLineEdit *>(control)->setText(texto);
+        auto *const linea = static_cast<QLineEdit *>(control);
+        linea->setText(texto);
+        if (!linea->hasFocus())
+            linea->setCursorPosition(0); // what is too long shows its beginning
         return;
     }
     const int entrada = texto.isEmpty() ? -1 : static_cast<int>(entradas_.value(campo).indexOf(texto));

@@ -8,8 +8,22 @@
 #include "ui_fichaarticulos.h"
 
 #include <QPushButton>
+#include <QTimer>
+#include <QToolTip>
 
 namespace tarvo {
+
+namespace {
+
+// The amount that the field shows is not the one that was typed.
+void AvisarDecimales(const QLineEdit &campo) {
+    QToolTip::showText(
+        campo.mapToGlobal(QPoint(0, campo.height())),
+        QStringLiteral("Se tomó como 0: los decimales de un importe menor que 1 se escriben con "
+                       "punto (0.50)."));
+}
+
+} // namespace
 
 FrmArticulos::FrmArticulos(const Servicios &servicios, Anfitrion &anfitrion, QWidget *padre)
     : VentanaCatalogo(servicios,
@@ -51,11 +65,11 @@ void FrmArticulos::CrearFiltro() {
 
 void FrmArticulos::ConectarImporte(QLineEdit *campo, int posicion) {
     SoloCaracteres(campo, QStringLiteral("0123456789.,"));
-    Filtro().AlFoco(campo, [this, posicion](bool entra) {
+    Filtro().AlFoco(campo, [this, campo, posicion](bool entra) {
         if (entra)
             logica_->EntrarImporte(posicion);
-        else
-            logica_->SalirImporte(posicion);
+        else if (!logica_->SalirImporte(posicion))
+            QTimer::singleShot(0, campo, [campo] { AvisarDecimales(*campo); });
     });
 }
 

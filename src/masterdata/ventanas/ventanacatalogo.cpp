@@ -216,8 +216,8 @@ int VentanaCatalogo::AnchoListaTwips() const {
     return LV().viewport()->width() * kTwipsPorPunto;
 }
 
-// The row of buttons says how narrow the window can be: where it would be scrolled sideways they move closer
-// together.
+// The row of buttons says how narrow the window can be, the list how low: where the window would be scrolled
+// the buttons move closer together, and captions and a row and a half are enough.
 void VentanaCatalogo::Compactar() {
     constexpr int kLetrasHolgadas = 95;
     const int sitio = parentWidget() == nullptr ? width() : parentWidget()->width();
@@ -225,6 +225,8 @@ void VentanaCatalogo::Compactar() {
     for (int i = 0; i < ui_->botones->count(); ++i)
         if (QWidget *boton = ui_->botones->itemAt(i)->widget())
             Marcar(boton, "compacto", compacto);
+    constexpr double kRenglones = 3.75;
+    LV().setMinimumHeight(qRound(kRenglones * fontMetrics().height()));
 }
 
 // The list gets its new width after the window, which itself stays as wide as its buttons.

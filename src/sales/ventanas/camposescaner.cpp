@@ -25,7 +25,10 @@ RutaEscaner::CampoVenta CampoLibre(QLineEdit *campo, EsBarras esBarras) {
 
 RutaEscaner::CampoVenta CampoCombo(QComboBox *combo, EsBarras esBarras) {
     return {combo, [combo] { return QString::number(combo->currentIndex()); },
-            [combo](const QString &antes) { combo->setCurrentIndex(antes.toInt()); },
+            [combo](const QString &antes) {
+                combo->hidePopup();
+                combo->setCurrentIndex(antes.toInt());
+            },
             [combo, esBarras = std::move(esBarras)](const QString &lectura, const QString &) {
                 const bool nadie = combo->findText(lectura, Qt::MatchStartsWith) < 0;
                 return nadie || esBarras(lectura) ? lectura : QString();

@@ -3,11 +3,14 @@
 #include "desktop/ventanas/filtrocampos.h"
 
 #include <QAbstractItemView>
+#include <QAction>
 #include <QApplication>
 #include <QComboBox>
 #include <QEventLoop>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
 #include <QScopedValueRollback>
 #include <QWindow>
 
@@ -25,6 +28,25 @@ constexpr qsizetype kCodigoMenor = 3; // characters that come in the rhythm of a
 bool EsEntrar(const QKeyEvent &evento) {
     return (evento.modifiers() & ~Qt::KeypadModifier) == 0 &&
            (evento.key() == Qt::Key_Return || evento.key() == Qt::Key_Enter);
+}
+
+bool EsMenu(const QWidget *recibe) {
+    return qobject_cast<const QMenu *>(recibe) != nullptr ||
+           qobject_cast<const QMenuBar *>(recibe) != nullptr;
+}
+
+// The letter that an entry of this menu underlines.
+bool EligeEntrada(const QWidget &menu, const QString &caracter) {
+    const QKeySequence letra(Qt::ALT | static_cast<Qt::Key>(caracter.front().toUpper().unicode()));
+    return EsMenu(&menu) && std::ranges::any_of(menu.actions(), [&](const QAction *entrada) {
+               return QKeySequence::mnemonic(entrada->text()) == letra;
+           });
+}
+
+void CerrarMenus() {
+    while (QWidget *menu = QApplication::activePopupWidget())
+        if (!menu->close())
+            return;
 }
 
 bool EsModificador(int tecla) {
@@ -187,21 +209,21 @@ bool RutaEscaner::Recoger(const QKeyEvent &evento) {
 RutaEscaner::CampoVenta *RutaEscaner::CampoDe(const QWidget *recibe) {
     const auto esSuyo = [recibe](const CampoVenta &campo) {
         const auto *combo = qobject_cast<const QComboBox *>(campo.control);
-        return recibe == campo.control || (combo != nullptr && recibe == combo->view());
+        return recibe == campo.control || (combo != nullptr && recibe->window() == combo->view()->window());
     };
     const auto campo = std::ranges::find_if(campos_, esSuyo);
     return campo == campos_.end() ? nullptr : &*campo;
 }
 
-// Where a character goes that is typed on `recibe`, a control without text; so is the window itself while
-// nothing has the focus. Empty when it is left alone.
+// Where a character goes that is typed on `recibe`, a control without text; so are a menu and, while nothing
+// has the focus, the window itself. Empty when it is left alone.
 RutaEscaner::Empezar RutaEscaner::DesvioDe(const QWidget *recibe) const {
     if (qobject_cast<const QLineEdit *>(recibe) != nullptr)
         return {};
-    if (recibe == venta_->window())
-        return venta_->isEnabled() && venta_->isVisible() ? desvios_.front().empezar : Empezar();
-    const auto desvio =
-        std::ranges::find_if(desvios_, [recibe](const Desvio &d) { return d.marco->isAncestorOf(recibe); });
+    const bool deTodos = recibe == venta_->window() || EsMenu(recibe);
+    const auto desvio = std::ranges::find_if(desvios_, [&](const Desvio &d) {
+        return deTodos ? d.marco->isEnabled() && d.marco->isVisible() : d.marco->isAncestorOf(recibe);
+    });
     return desvio == desvios_.end() ? Empezar() : desvio->empezar;
 }
 
@@ -215,9 +237,11 @@ bool RutaEscaner::Tecla(QWidget *recibe, const QKeyEvent &evento) {
             return false;
         }
         // The blank presses the button and marks the row.
-        const Empezar empezar = evento.key() == Qt::Key_Space ? Empezar() : DesvioDe(recibe);
+        const bool suya = evento.key() == Qt::Key_Space || EligeEntrada(*recibe, caracter);
+        const Empezar empezar = suya ? Empezar() : DesvioDe(recibe);
         if (!empezar)
             return false;
+        CerrarMenus();
         empezar(caracter);
         return true;
     }

@@ -1,12 +1,12 @@
 // The road of the barcode scanner through the sale window: whatever has the focus, a code that is scanned is
 // searched, and never becomes a quantity, a discount, a document number or the choice of a seller.
 //
-// A scanner is a keyboard that ends with Enter. A character typed where no text goes (a list, a button)
-// starts a new text in the search field, that of the customer panel while it is open. In a field of the sale
-// it is typed as any other; the Enter behind it hands what can't be meant for the field to the search, and
-// the field gets back what it held. A box opens when the keyboard has been quiet for a moment, so that no
-// scan is cut by it; it stays until a key of the operator: what is scanned meanwhile waits in a queue, which
-// the sale works off as soon as it is free. A second Enter adds what was found.
+// A scanner is a keyboard that ends with Enter. A character typed where no text goes (a list, a button, a
+// menu of which it is no letter) starts a new text in the search field, that of the customer panel while it
+// is open. In a field of the sale it is typed as any other; the Enter behind it hands what can't be meant for
+// the field to the search, and the field gets back what it held. A box opens when the keyboard has been quiet
+// for a moment, so that no scan is cut by it; it stays until a key of the operator: what is scanned meanwhile
+// waits in a queue, which the sale works off as soon as it is free. A second Enter adds what was found.
 #pragma once
 
 #include "desktop/preguntas.h"

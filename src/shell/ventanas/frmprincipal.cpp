@@ -62,6 +62,10 @@ FrmPrincipal::FrmPrincipal(const Servicios &servicios, const Composicion &compos
     ActualizarEstado();
     MostrarInicio(true);
     qApp->installEventFilter(this);
+    connect(qApp, &QApplication::focusChanged, this, [this](const QWidget *, QWidget *ahora) {
+        if (ui_->cuerpo->isAncestorOf(ahora))
+            foco_ = ahora;
+    });
 }
 
 FrmPrincipal::~FrmPrincipal() = default;
@@ -274,6 +278,13 @@ bool FrmPrincipal::eventFilter(QObject *objeto, QEvent *evento) {
         const auto *const atajo = static_cast<QShortcutEvent *>(evento);
         return atajo->isAmbiguous() && PulsarLetra(*ui_->area, atajo->key());
     }
+    // The Alt of Alt+F4 or Alt+Tab, whose other key the desktop keeps, has led to the menu bar: back.
+    if (objeto == ui_->mnuBarra && evento->type() == QEvent::FocusIn &&
+        static_cast<QFocusEvent *>(evento)->reason() == Qt::ActiveWindowFocusReason)
+        QTimer::singleShot(0, this, [this] {
+            if (foco_ != nullptr && foco_->isVisible() && foco_->isEnabled())
+                foco_->setFocus();
+        });
     if (evento->type() == QEvent::KeyRelease || evento->type() == QEvent::ApplicationStateChange)
         ActualizarEstado();
     return QMainWindow::eventFilter(objeto, evento);

@@ -12,6 +12,7 @@
 #include "shell/ventanas/pantallacompleta.h"
 
 #include <QMainWindow>
+#include <QPointer>
 
 #include <functional>
 #include <map>
@@ -89,6 +90,7 @@ class FrmPrincipal : public QMainWindow, public Anfitrion, public TableroModulos
     PantallaCompleta pantalla_;
     std::unique_ptr<Acciones> acciones_;
     PanelInicio *inicio_;
+    QPointer<QWidget> foco_; // the last control of the central part that had the focus
     AtajosPrincipal atajos_;
     std::unique_ptr<AreaModulos> area_;
     Conmutador conmutador_;
