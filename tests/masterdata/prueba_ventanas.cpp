@@ -110,14 +110,14 @@ TEST_F(VentanaArticulos, TheSecondCategoryStaysInert) {
 
 TEST_F(VentanaArticulos, TheButtonsCloseUpOnANarrowScreen) {
     QWidget pantalla;
-    ventana_->setParent(&pantalla);
-    ventana_->show();
+    ventana->setParent(&pantalla);
+    ventana->show();
     MostrarVentana(pantalla);
     for (const int ancho : {640, 1000}) {
         pantalla.resize(ancho, 480);
         EXPECT_EQ(C<QPushButton>("cmdNuevo")->property("compacto").toBool(), ancho == 640);
     }
-    ventana_->setParent(nullptr);
+    ventana->setParent(nullptr);
 }
 
 TEST_F(VentanaArticulos, EscapeDoesNotGiveUpTheFirstArticleOfAll) {

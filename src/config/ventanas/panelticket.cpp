@@ -4,6 +4,7 @@
 #include "desktop/ventanas/filtrocampos.h"
 #include "desktop/ventanas/iconos.h"
 #include "desktop/ventanas/kitmenu.h"
+#include "desktop/ventanas/teclas.h"
 #include "ui_panelticket.h"
 
 #include <QAction>
@@ -25,6 +26,7 @@ PanelTicket::PanelTicket(const Servicios &servicios, const ListaImpresoras &impr
     ui_->setupUi(this);
     setFocusProxy(ui_->txtLinea1);
     CrearAcciones();
+    PonerTecla(ui_->cmdGuardarTicket, Qt::CTRL | Qt::Key_G);
     connect(ui_->cmdGuardarTicket, &QPushButton::clicked, this, [this] { ticket_.Guardar(Lineas()); });
     connect(ui_->cmdCerrarTicket, &QPushButton::clicked, this, &PanelTicket::CierrePedido);
 }

@@ -30,8 +30,9 @@ QString EtiquetaImporte::Hablado() const {
     const QList<QLabel *> etiquetas = window()->findChildren<QLabel *>();
     const auto rotulo = std::find_if(etiquetas.begin(), etiquetas.end(),
                                      [this](const QLabel *otra) { return otra->buddy() == this; });
-    return rotulo == etiquetas.end() ? text()
-                                     : SinMnemonico((*rotulo)->text()) + QStringLiteral(": ") + text();
+    if (rotulo == etiquetas.end() || (*rotulo)->text().isEmpty())
+        return text();
+    return SinMnemonico((*rotulo)->text()) + QStringLiteral(": ") + text();
 }
 
 double EtiquetaImporte::TamanoMayor() const {

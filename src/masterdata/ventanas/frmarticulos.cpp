@@ -52,6 +52,8 @@ void FrmArticulos::CrearFiltro() {
     cboxFiltrarCategoria_ = new QComboBox(this);
     cboxFiltrarCategoria_->setObjectName(QStringLiteral("cboxFiltrarCategoria"));
     cboxFiltrarCategoria_->setAccessibleName(QStringLiteral("Filtrar por categoría"));
+    cboxFiltrarCategoria_->setAccessibleDescription(
+        cboxFiltrarCategoria_->accessibleName()); // a name is its entry
     cboxFiltrarCategoria_->setMinimumContentsLength(28);
     cboxFiltrarCategoria_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     PonerSobreLista(cboxFiltrarCategoria_);

@@ -4,6 +4,7 @@
 #include "desktop/ventanas/filtrocampos.h"
 #include "desktop/ventanas/iconos.h"
 #include "desktop/ventanas/paneles.h"
+#include "desktop/ventanas/teclas.h"
 #include "masterdata/ventanas/picnuevocliente.h"
 #include "ui_picclientes.h"
 
@@ -57,6 +58,7 @@ void PicClientes::PrepararBarra(Buscador &buscador, FiltroCampos &filtro) {
 
 void PicClientes::PrepararAlta() {
     picNuevoCliente_ = new PicNuevoCliente(servicios_, this);
+    PonerTecla(ui_->cmdAgregarCliente, Qt::CTRL | Qt::Key_N);
     connect(ui_->cmdAgregarCliente, &QPushButton::clicked, picNuevoCliente_, &PicNuevoCliente::Abrir);
     connect(picNuevoCliente_, &PicNuevoCliente::Abierto, this, [this] {
         ColocarAlta();

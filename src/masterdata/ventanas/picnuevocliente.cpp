@@ -1,6 +1,7 @@
 #include "masterdata/ventanas/picnuevocliente.h"
 
 #include "desktop/preguntas.h"
+#include "desktop/ventanas/teclas.h"
 #include "masterdata/altacliente.h"
 #include "masterdata/reglascatalogos.h"
 #include "ui_fichaclientes.h"
@@ -20,6 +21,7 @@ PicNuevoCliente::PicNuevoCliente(const Servicios &servicios, QWidget *padre)
     setTabOrder(ficha.txtWebPage, ui_->cmdGuardarCliente);
     setTabOrder(ui_->cmdGuardarCliente, ui_->cmdCancelarCliente);
     hide();
+    PonerTecla(ui_->cmdGuardarCliente, Qt::CTRL | Qt::Key_G);
     connect(ui_->cmdGuardarCliente, &QPushButton::clicked, this, &PicNuevoCliente::Guardar);
     connect(ui_->cmdCancelarCliente, &QPushButton::clicked, this, &PicNuevoCliente::Cerrar);
 }

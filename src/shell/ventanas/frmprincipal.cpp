@@ -68,7 +68,10 @@ FrmPrincipal::FrmPrincipal(const Servicios &servicios, const Composicion &compos
     });
 }
 
-FrmPrincipal::~FrmPrincipal() = default;
+// The controls go after everything else of the window, and with them the focus.
+FrmPrincipal::~FrmPrincipal() {
+    disconnect(qApp, nullptr, this, nullptr);
+}
 
 void FrmPrincipal::ConectarAcciones() {
     connect(acciones_.get(), &Acciones::MenuElegido, this, &FrmPrincipal::m_Menus_Click);
