@@ -27,6 +27,8 @@ void ListaImpresoras::Elegir(int fila) {
     MarcarSolo(fila);
     ajustes_.setValue(clave_, lista_.Celda(fila, 0));
     ajustes_.sync();
+    if (ajustes_.status() != QSettings::NoError)
+        emit NoGuardada();
     emit FilaElegida(fila);
 }
 

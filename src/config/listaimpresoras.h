@@ -29,6 +29,7 @@ class ListaImpresoras : public QObject {
     int Ancho() const { return lista_.Filas() > 5 ? 6860 : 7100; }
 
   signals:
+    void NoGuardada(); // the settings could not be written: the choice holds until the program ends
     void FilaElegida(int fila);
 
   private:

@@ -346,7 +346,8 @@ QString ArticulosLogica::AGuardar(int campo) const {
         return vista().Texto(kProveedor).isEmpty() ? QString() : texto;
     if (campo != kPCompra && campo != kSubtotal)
         return texto;
-    const QString monto = SinPrefijo(texto);
+    // The field may not have been left: two decimals are there only behind the format.
+    const QString monto = SinPrefijo(frmBases().moneda().FormatoMoneda(SinPrefijo(texto), true));
     if (monto.endsWith(QLatin1String("00")))
         return monto.chopped(qMin<qsizetype>(3, monto.size()));
     return monto.endsWith(QLatin1Char('0')) ? monto.chopped(1) : monto;

@@ -30,15 +30,15 @@ AjustesFactura LeerAjustes(FrmBases &bases) {
     }
 }
 
-void Imprimir(const Servicios &servicios, ClasePapel clase, const QString &titulo,
+void Imprimir(const Servicios &servicios, Preguntas &preguntas, ClasePapel clase, const QString &titulo,
               const std::function<void(Superficie &)> &imprimir) {
     try {
         ElegirImpresora(servicios.impresoras, servicios.ajustes, Proposito::Ticket);
         const auto papel = servicios.impresoras.NuevoDocumento(clase, titulo);
         imprimir(*papel);
     } catch (const std::exception &error) {
-        servicios.preguntas.Mostrar(
-            QStringLiteral("No se pudo imprimir. %1").arg(QString::fromUtf8(error.what())), Icono::Critico);
+        preguntas.Mostrar(QStringLiteral("No se pudo imprimir. %1").arg(QString::fromUtf8(error.what())),
+                          Icono::Critico);
     }
 }
 
@@ -53,15 +53,15 @@ bool UltimoComprobante::HayDiseno() const {
     return !LeerAjustes(servicios_.frmBases).ruta.isEmpty();
 }
 
-void UltimoComprobante::ReimprimirTicket() {
+void UltimoComprobante::ReimprimirTicket(Preguntas &preguntas) {
     if (!documento_)
         return;
-    Imprimir(servicios_, ClasePapel::Rollo, documento_->tipo, [this](Superficie &papel) {
+    Imprimir(servicios_, preguntas, ClasePapel::Rollo, documento_->tipo, [this](Superficie &papel) {
         ImprimirTicket(papel, LeerCabecera(servicios_.frmBases), *documento_);
     });
 }
 
-void UltimoComprobante::ImprimirFactura() {
+void UltimoComprobante::ImprimirFactura(Preguntas &preguntas) {
     const AjustesFactura ajustes = LeerAjustes(servicios_.frmBases);
     if (!documento_ || ajustes.ruta.isEmpty())
         return;
@@ -69,12 +69,12 @@ void UltimoComprobante::ImprimirFactura() {
     try {
         CargarFormulario(ajustes.ruta, formulario);
     } catch (const ErrorDatos &error) {
-        AvisarLectura(servicios_.preguntas, error);
+        AvisarLectura(preguntas, error);
         return;
     }
-    Imprimir(servicios_, ClasePapel::Formulario, QStringLiteral("Factura"), [&](Superficie &papel) {
-        tarvo::ImprimirFactura(papel, formulario, *documento_, ajustes.lineas);
-    });
+    Imprimir(
+        servicios_, preguntas, ClasePapel::Formulario, QStringLiteral("Factura"),
+        [&](Superficie &papel) { tarvo::ImprimirFactura(papel, formulario, *documento_, ajustes.lineas); });
 }
 
 } // namespace tarvo

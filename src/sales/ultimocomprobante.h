@@ -24,9 +24,10 @@ class UltimoComprobante : public QObject {
     // An invoice layout is stored.
     bool HayDiseno() const;
 
-    // Both print on the ticket printer; what fails is told. The layout is read at this moment.
-    void ReimprimirTicket();
-    void ImprimirFactura();
+    // Both print on the ticket printer; what fails is told through `preguntas`. The layout is read at this
+    // moment.
+    void ReimprimirTicket(Preguntas &preguntas);
+    void ImprimirFactura(Preguntas &preguntas);
 
   signals:
     void Cambiado();

@@ -294,8 +294,8 @@ TEST_F(Articulos, NothingIsComputedFromAPriceThatIsNoNumber) {
 
 TEST_F(ArticulosAbiertos, StoresPlainNumbersWithoutTrailingZeros) {
     const std::pair<const char *, const char *> casos[] = {
-        {"$ 12,00", "12"},   {"$ 12,50", "12,5"}, {"$ 12,05", "12,05"}, {"$ 0,00", "0"},
-        {"$ 100,00", "100"}, {"7,50", "7,5"},     {"$ -1,10", "-1,1"}};
+        {"$ 12,00", "12"}, {"1500", "1500"},    {"$ 12,50", "12,5"}, {"$ 12,05", "12,05"},
+        {"$ 0,00", "0"},   {"$ 100,00", "100"}, {"7,50", "7,5"},     {"$ -1,10", "-1,1"}};
     for (const auto &[texto, guardado] : casos) {
         vista.textos[A::kSubtotal] = QString::fromUtf8(texto);
         ConfirmarCambio();

@@ -42,6 +42,11 @@ void PanelImpresion::Conectar(ListaImpresoras &impresoras, ListaVista *vista) {
             impresoras.Elegir(fila);
     });
     connect(&impresoras, &ListaImpresoras::FilaElegida, vista, &ListaVista::SeleccionarFila);
+    connect(&impresoras, &ListaImpresoras::NoGuardada, this, [this] {
+        servicios_.preguntas.Mostrar(
+            QStringLiteral("No se pudo guardar la impresora elegida: vale hasta cerrar el programa."),
+            Icono::Critico);
+    });
 }
 
 void PanelImpresion::LlenarImpresoras() {

@@ -96,7 +96,9 @@ QList<QAccessibleInterface *> AccesoLista::selectedCells() const {
 }
 
 QString AccesoLista::columnDescription(int columna) const {
-    return Vista().Lista()->Columnas()[static_cast<std::size_t>(columna)].titulo;
+    return columna < 0 || columna >= columnCount()
+               ? QString()
+               : Vista().Lista()->Columnas()[static_cast<std::size_t>(columna)].titulo;
 }
 
 bool AccesoLista::selectRow(int fila) {

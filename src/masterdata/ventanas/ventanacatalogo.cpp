@@ -1,5 +1,6 @@
 #include "masterdata/ventanas/ventanacatalogo.h"
 
+#include "desktop/twips.h"
 #include "desktop/ventanas/estilo.h"
 #include "desktop/ventanas/etiquetaelidida.h"
 #include "desktop/ventanas/filtrocampos.h"
@@ -20,8 +21,7 @@ namespace tarvo {
 
 namespace {
 
-constexpr int kTwipsPorPunto = 15;
-constexpr int kBajoControles = 300 / kTwipsPorPunto; // panels stand so far below the top of the fields
+constexpr int kBajoControles = APixeles(300); // panels stand so far below the top of the fields
 
 } // namespace
 
@@ -213,7 +213,7 @@ bool VentanaCatalogo::Escapar() {
 }
 
 int VentanaCatalogo::AnchoListaTwips() const {
-    return LV().viewport()->width() * kTwipsPorPunto;
+    return ATwips(LV().viewport()->width());
 }
 
 // The row of buttons says how narrow the window can be, the list how low: where the window would be scrolled

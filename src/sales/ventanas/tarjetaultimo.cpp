@@ -4,12 +4,11 @@
 #include "desktop/ventanas/estilo.h"
 #include "desktop/ventanas/etiquetaelidida.h"
 #include "desktop/ventanas/iconos.h"
+#include "desktop/ventanas/teclas.h"
 #include "sales/ultimocomprobante.h"
 
 #include <QGridLayout>
 #include <QKeySequence>
-
-#include <utility>
 
 namespace tarvo {
 
@@ -20,7 +19,7 @@ constexpr QKeyCombination kTeclaFactura = Qt::CTRL | Qt::Key_I;
 
 } // namespace
 
-TarjetaUltimo::TarjetaUltimo(UltimoComprobante &ultimo, QWidget *padre)
+TarjetaUltimo::TarjetaUltimo(UltimoComprobante &ultimo, Preguntas &preguntas, QWidget *padre)
     : QFrame(padre),
       ultimo_(ultimo),
       lblUltimo(new EtiquetaElidida(this)),
@@ -42,8 +41,10 @@ TarjetaUltimo::TarjetaUltimo(UltimoComprobante &ultimo, QWidget *padre)
     rejilla->setColumnStretch(0, 1);
     rejilla->setColumnStretch(1, 1);
     Plegar(false);
-    connect(cmdReimprimir, &QPushButton::clicked, &ultimo_, &UltimoComprobante::ReimprimirTicket);
-    connect(cmdFactura, &QPushButton::clicked, &ultimo_, &UltimoComprobante::ImprimirFactura);
+    connect(cmdReimprimir, &QPushButton::clicked, &ultimo_,
+            [this, &preguntas] { ultimo_.ReimprimirTicket(preguntas); });
+    connect(cmdFactura, &QPushButton::clicked, &ultimo_,
+            [this, &preguntas] { ultimo_.ImprimirFactura(preguntas); });
     connect(&ultimo_, &UltimoComprobante::Cambiado, this, &TarjetaUltimo::Mostrar);
     Mostrar();
 }
@@ -53,7 +54,7 @@ QPushButton *TarjetaUltimo::CrearBoton(const QString &nombre, const QString &tex
     auto *boton = new BotonZel(texto, this);
     boton->setIcon(IconoDe(imagen));
     boton->setObjectName(nombre);
-    boton->setToolTip(QStringLiteral("%1 (%2)").arg(texto, tecla.toString(QKeySequence::NativeText)));
+    PonerTecla(boton, tecla);
     boton->setAccessibleName(texto);
     boton->setAutoDefault(false);
     boton->setFocusPolicy(Qt::NoFocus);
@@ -70,9 +71,8 @@ void TarjetaUltimo::Plegar(bool plegada) {
     rejilla->setContentsMargins(plegada ? QMargins(4, 0, 0, 0) : QMargins(9, 4, 9, 4));
     rejilla->setSpacing(plegada ? 2 : 4);
     lblUltimo->setVisible(!plegada);
-    for (auto [boton, tecla] : {std::pair(cmdReimprimir, kTeclaTicket), {cmdFactura, kTeclaFactura}}) {
+    for (QPushButton *boton : {cmdReimprimir, cmdFactura}) {
         boton->setText(plegada ? QString() : boton->accessibleName());
-        boton->setShortcut(tecla); // a new text has taken it away
         Marcar(boton, "compacto", plegada);
     }
     if (plegada) {

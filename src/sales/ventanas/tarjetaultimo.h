@@ -11,12 +11,14 @@ class QPushButton;
 namespace tarvo {
 
 class EtiquetaElidida;
+class Preguntas;
 class UltimoComprobante;
 
 class TarjetaUltimo : public QFrame {
     Q_OBJECT
   public:
-    explicit TarjetaUltimo(UltimoComprobante &ultimo, QWidget *padre = nullptr);
+    // What fails is told through `preguntas`.
+    TarjetaUltimo(UltimoComprobante &ultimo, Preguntas &preguntas, QWidget *padre = nullptr);
     void Plegar(bool plegada);
 
   protected:
