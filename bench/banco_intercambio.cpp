@@ -69,6 +69,7 @@ void BancoRespaldo(Tabla &tabla) {
     const std::string base = tienda.base.path().toStdString();
     FrmBases bases(tienda.carpeta, Moneda());
     SinAvance avance;
+    Elegidas vaciadas{};
     std::vector<double> copias;
     std::vector<double> respaldos;
     std::vector<double> recuperaciones;
@@ -83,10 +84,11 @@ void BancoRespaldo(Tabla &tabla) {
         copias.push_back(Milisegundos([&] {
             Ordenar("cp " + base + "/Datos/*.mdb " + base + "/cp && sync " + base + "/cp/* " + base + "/cp");
         }));
-        memoria = std::max(
-            memoria, MemoriaDurante([&] {
-                respaldos.push_back(Milisegundos([&] { Respaldar(bases, {copia, kTodas, {}}, avance); }));
-            }));
+        memoria = std::max(memoria, MemoriaDurante([&] {
+                               respaldos.push_back(Milisegundos([&] {
+                                   Respaldar(bases, {copia, kTodas, {}}, avance, vaciadas);
+                               }));
+                           }));
         recuperaciones.push_back(Milisegundos([&] { Recuperar(bases, {copia, kTodas}, avance); }));
         Ordenar("rm -r " + base + "/cp " + base + "/copia");
     }
@@ -123,6 +125,7 @@ void EscribirDeUnaVez(const QString &ruta, const QByteArray &bytes) {
 void BancoExportacion(Tabla &tabla) {
     QObject padre;
     const QTemporaryDir carpeta;
+    const FrmBases bases(carpeta.filePath(QStringLiteral("Datos")), Moneda());
     const QString nombre = QStringLiteral("LVArticulos");
     const Exportable lo{Articulos(padre, 100'000), nombre};
     QBuffer igual;
@@ -132,17 +135,18 @@ void BancoExportacion(Tabla &tabla) {
     std::vector<double> exportados;
     std::vector<double> escritos;
     for (int i = 0; i < 2 * kVueltas + 1; ++i) {
-        exportados.push_back(Milisegundos([&] { mnuExportar(preguntas, lo); }));
+        exportados.push_back(Milisegundos([&] { mnuExportar(preguntas, bases, lo); }));
         escritos.push_back(Milisegundos(
             [&] { EscribirDeUnaVez(carpeta.filePath(QStringLiteral("igual.txt")), igual.data()); }));
     }
     tabla.Linea("text of 100,000 articles / one QFile", Percentil(exportados, 50), Percentil(escritos, 50),
                 "ms", 1.5);
-    tabla.Linea("memory of that export", MemoriaDurante([&] { mnuExportar(preguntas, lo); }), 8, "MB", 1);
+    tabla.Linea("memory of that export", MemoriaDurante([&] { mnuExportar(preguntas, bases, lo); }), 8, "MB",
+                1);
     const Exportable clientes{Articulos(padre, 249), QStringLiteral("LVClientes")};
     PreguntasRuta hoja(carpeta.filePath(QStringLiteral("clientes.xls")));
-    tabla.Linea("spreadsheet of 249 rows / limit", MejorTiempo(9, [&] { mnuExportar(hoja, clientes); }), 5,
-                "ms", 1);
+    tabla.Linea("spreadsheet of 249 rows / limit",
+                MejorTiempo(9, [&] { mnuExportar(hoja, bases, clientes); }), 5, "ms", 1);
 }
 
 } // namespace

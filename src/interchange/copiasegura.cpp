@@ -5,6 +5,7 @@
 #include "store/comprobacion.h"
 #include "store/errordatos.h"
 
+#include <QDir>
 #include <QFileInfo>
 
 #include <cstring>
@@ -18,10 +19,10 @@ constexpr qint64 kBloque = qint64{1} << 20;
 
 class Copia {
   public:
-    Copia(const QString &origen, const QString &destino, Avance &avance)
-        : nombre_(QFileInfo(origen).fileName()),
-          origen_(origen, Archivo::Modo::Leer),
-          total_(origen_.Tamano()),
+    Copia(Archivo &origen, const QString &destino, Avance &avance)
+        : nombre_(QFileInfo(destino).fileName()),
+          origen_(origen),
+          total_(origen.Tamano()),
           destino_(destino),
           avance_(avance),
           bloque_(kBloque) {}
@@ -72,7 +73,7 @@ class Copia {
     }
 
     QString nombre_;
-    Archivo origen_; // open to the end: closing it would let go of the engine's lock on the file
+    Archivo &origen_;
     qint64 total_;
     QString destino_;
     Avance &avance_;
@@ -81,8 +82,17 @@ class Copia {
 
 } // namespace
 
-void CopiarSeguro(const QString &origen, const QString &destino, Avance &avance) {
-    Copia(origen, destino, avance).Hacer();
+// A file that was there a moment ago is gone with its folder or its disk.
+void CopiarSeguro(Archivo &origen, const QString &destino, Avance &avance) {
+    try {
+        Copia(origen, destino, avance).Hacer();
+    } catch (const ErrorDatos &) {
+        if (QFileInfo(destino).absoluteDir().exists())
+            throw;
+        throw ErrorDatos(errores::kRutaNoEncontrada,
+                         QStringLiteral("La carpeta \"%1\" ya no está: la copia de \"%2\" no se pudo hacer.")
+                             .arg(QFileInfo(destino).absoluteDir().dirName(), QFileInfo(destino).fileName()));
+    }
 }
 
 } // namespace tarvo

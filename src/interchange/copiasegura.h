@@ -7,9 +7,10 @@
 
 namespace tarvo {
 
+class Archivo;
 class Avance;
 
-// Throws kArchivoNoEncontrado when there is no `origen`.
-void CopiarSeguro(const QString &origen, const QString &destino, Avance &avance);
+// `origen` is open for reading, at its beginning.
+void CopiarSeguro(Archivo &origen, const QString &destino, Avance &avance);
 
 } // namespace tarvo

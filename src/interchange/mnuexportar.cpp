@@ -4,6 +4,7 @@
 #include "interchange/archivos.h"
 #include "interchange/exportacion.h"
 #include "interchange/tablaexportacion.h"
+#include "store/store.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -90,11 +91,11 @@ template <typename Escritor> void Guardar(Preguntas &preguntas, const QString &r
 
 } // namespace
 
-void mnuExportar(Preguntas &preguntas, const Exportable &lo) {
+void mnuExportar(Preguntas &preguntas, const FrmBases &bases, const Exportable &lo) {
     const QString ruta = ElegirArchivo(preguntas);
     if (ruta.isEmpty())
         return;
-    if (!SePuedeReemplazar(ruta)) {
+    if (bases.EsDeLosDatos(ruta) || !SePuedeReemplazar(ruta)) {
         preguntas.Mostrar(NoEsPosible(), Icono::Critico);
         return;
     }

@@ -6,11 +6,12 @@
 
 namespace tarvo {
 
+class FrmBases;
 class Preguntas;
 
 // "xls" and "txt" at the end of the name, exactly so, are the spreadsheet and the text; with any other ending
 // nothing is written and nothing said. A file of that name is replaced only when the new one is complete: a
-// disk that fails is told and loses nothing.
-void mnuExportar(Preguntas &preguntas, const Exportable &lo);
+// disk that fails is told and loses nothing. Nothing is written among the data of the shop.
+void mnuExportar(Preguntas &preguntas, const FrmBases &bases, const Exportable &lo);
 
 } // namespace tarvo

@@ -16,14 +16,16 @@ namespace {
 
 void Vaciar(const QDir &datos, const QString &archivo, Avance &avance) {
     Reemplazo reemplazo(datos.path());
-    CopiarSeguro(datos.filePath(QStringLiteral("vacio/") + archivo), reemplazo.Ruta(archivo), avance);
+    Archivo plantilla(datos.filePath(QStringLiteral("vacio/") + archivo), Archivo::Modo::Leer);
+    CopiarSeguro(plantilla, reemplazo.Ruta(archivo), avance);
     reemplazo.Confirmar();
 }
 
 void RespaldarBase(const QDir &datos, const QString &archivo, const PedidoRespaldo &pedido, bool vaciar,
                    Avance &avance) {
     const BaseRetenida retenida(datos.filePath(archivo));
-    CopiarSeguro(datos.filePath(archivo), QDir(pedido.destino).filePath(archivo), avance);
+    Archivo viva(datos.filePath(archivo), Archivo::Modo::Leer); // closed last: that lets go of the lock
+    CopiarSeguro(viva, QDir(pedido.destino).filePath(archivo), avance);
     SincronizarCarpeta(pedido.destino);
     if (vaciar)
         Vaciar(datos, archivo, avance);
@@ -36,7 +38,8 @@ bool Preparar(const QDir &datos, const QString &origen, const QString &destino, 
         throw ErrorDatos(errores::kBaseBloqueada,
                          QStringLiteral("Otro programa está usando \"%1\".").arg(archivo));
     try {
-        CopiarSeguro(origen, destino, avance);
+        Archivo respaldo(origen, Archivo::Modo::Leer);
+        CopiarSeguro(respaldo, destino, avance);
         return true;
     } catch (const ErrorDatos &error) {
         if (error.Numero() != errores::kArchivoNoEncontrado)
@@ -51,7 +54,7 @@ QString NombreRespaldo(const QDateTime &momento) {
     return momento.toString(QStringLiteral("yyyy MM dd-HH mm ss"));
 }
 
-Resultado Respaldar(FrmBases &bases, const PedidoRespaldo &pedido, Avance &avance) {
+Resultado Respaldar(FrmBases &bases, const PedidoRespaldo &pedido, Avance &avance, Elegidas &vaciadas) {
     CrearCarpeta(pedido.destino);
     bases.Cerrar();
     const Cerrojo cerrojo(bases.CarpetaDatos());
@@ -61,6 +64,7 @@ Resultado Respaldar(FrmBases &bases, const PedidoRespaldo &pedido, Avance &avanc
             if (!avance.Sigue())
                 return Resultado::Interrumpido;
             RespaldarBase(datos, BasesRespaldo()[i].archivo, pedido, pedido.vaciar[i], avance);
+            vaciadas[i] = pedido.vaciar[i];
         }
         avance.Avanza();
     }

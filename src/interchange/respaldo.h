@@ -25,8 +25,8 @@ struct PedidoRespaldo {
     Elegidas vaciar{}; // of those that are copied: the empty template takes their place
 };
 // A database is emptied once its copy has passed, at once: before or behind that nothing of it is lost. What
-// was copied before a failure stays.
-Resultado Respaldar(FrmBases &bases, const PedidoRespaldo &pedido, Avance &avance);
+// was copied before a failure stays; `vaciadas` tells which ones were emptied until then.
+Resultado Respaldar(FrmBases &bases, const PedidoRespaldo &pedido, Avance &avance, Elegidas &vaciadas);
 
 struct PedidoRecuperacion {
     QString origen; // folder of the backup

@@ -26,6 +26,17 @@ QString ConBarra(const QString &ruta) {
     return ruta.isEmpty() || ruta.endsWith(QLatin1Char('/')) ? ruta : ruta + QLatin1Char('/');
 }
 
+// What an operation that did not come to its end has emptied; nothing when there is none.
+QString AvisoVaciadas(const Elegidas &vaciadas) {
+    QStringList nombres;
+    for (std::size_t i = 0; i < kBases; ++i)
+        if (vaciadas[i])
+            nombres << BasesRespaldo()[i].nombre;
+    return nombres.isEmpty() ? QString()
+                             : QStringLiteral("\nYa se vaciaron, con su copia en el respaldo: %1.")
+                                   .arg(nombres.join(QStringLiteral(", ")));
+}
+
 } // namespace
 
 QString RespaldoLogica::RutaInicial() const {
@@ -35,11 +46,12 @@ QString RespaldoLogica::RutaInicial() const {
 }
 
 QString RespaldoLogica::ElegirCarpeta(const QString &titulo) {
+    const QString escritorio = QStandardPaths::writableLocation(QStandardPaths::DesktopLocation);
     return ConBarra(servicios_.preguntas.ElegirRuta(
         {.para = PedidoRuta::Para::Carpeta,
          .titulo = titulo,
          .filtro = QString(),
-         .carpeta = QStandardPaths::writableLocation(QStandardPaths::DesktopLocation)}));
+         .carpeta = QFileInfo(escritorio).isDir() ? escritorio : QDir::homePath()}));
 }
 
 QString RespaldoLogica::ElegirCarpetaRespaldo() {
@@ -98,12 +110,16 @@ Desenlace RespaldoLogica::Ejecutar(Operacion operacion, const QString &completo,
 Desenlace RespaldoLogica::Respaldar(const QString &ruta, const Elegidas &respaldar, const Elegidas &vaciar,
                                     Avance &avance) {
     const QString destino = ConBarra(ruta) + NombreRespaldo(servicios_.reloj.Ahora());
-    return Ejecutar(
+    Elegidas vaciadas{};
+    Desenlace desenlace = Ejecutar(
         [&] {
-            return tarvo::Respaldar(servicios_.frmBases, {destino, respaldar, vaciar}, avance);
+            return tarvo::Respaldar(servicios_.frmBases, {destino, respaldar, vaciar}, avance, vaciadas);
         },
         QStringLiteral("El respaldo se realizó con éxito."),
         QStringLiteral("El respaldo se interrumpió: no se copiaron todos los archivos."));
+    if (desenlace.fin != Fin::Completo)
+        desenlace.texto += AvisoVaciadas(vaciadas);
+    return desenlace;
 }
 
 QStringList RespaldoLogica::Respaldos(const QString &ruta) const {
@@ -148,7 +164,7 @@ void RespaldoLogica::Reabrir() {
         return;
     try {
         const ResultadoApertura abiertas = AbrirBases(servicios_.frmBases);
-        cerradas_ = false;
+        cerradas_ = abiertas.estado == EstadoApertura::Bloqueada;
         if (abiertas.estado != EstadoApertura::Completa)
             servicios_.preguntas.Mostrar(QStringLiteral("No se pudieron abrir los datos. %1 %2")
                                              .arg(abiertas.archivo, abiertas.motivo),

@@ -31,8 +31,9 @@ constexpr Elegidas kVentasYArticulos{false, true, true, false, false};
 
 void Hacer(const char *orden, const QString &carpeta, FrmBases &bases) {
     SinAvance avance;
+    Elegidas vaciadas{};
     if (std::strcmp(orden, "respaldar") == 0)
-        Respaldar(bases, {carpeta + u"/copia"_qs, kTodas, kVentasYArticulos}, avance);
+        Respaldar(bases, {carpeta + u"/copia"_qs, kTodas, kVentasYArticulos}, avance, vaciadas);
     else if (std::strcmp(orden, "recuperar") == 0)
         Recuperar(bases, {carpeta + u"/respaldo"_qs, kTodas}, avance);
     else

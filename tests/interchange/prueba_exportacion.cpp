@@ -8,6 +8,7 @@
 #include "interchange/mnuexportar.h"
 #include "interchange/tablaexportacion.h"
 #include "interchange/tandatexto.h"
+#include "store/store.h"
 #include "testkit/archivos.h"
 #include "testkit/preguntasguion.h"
 
@@ -272,7 +273,7 @@ class MnuExportar : public testing::Test {
     void Reemplazar(const QString &ruta, Respuesta respuesta) {
         preguntas.Espera(u"\"%1\" ya existe.\nDesea reemplazarlo?"_qs.arg(ruta), No, respuesta);
     }
-    void Exportar() { mnuExportar(preguntas, {&datos.lista, u"LVClientes"_qs}); }
+    void Exportar() { mnuExportar(preguntas, bases, {&datos.lista, u"LVClientes"_qs}); }
     // An existing file that the operator lets be replaced, and can't be.
     void NoSePuede(const QString &ruta) {
         Elige(ruta);
@@ -286,6 +287,7 @@ class MnuExportar : public testing::Test {
     }
 
     QTemporaryDir carpeta;
+    FrmBases bases{carpeta.filePath(u"Datos"_qs), Moneda()};
     PreguntasGuion preguntas;
     ListaExportada datos{3};
 };
@@ -336,6 +338,13 @@ TEST_F(MnuExportar, WhatCanNotBeReplacedStays) {
     ::close(otro);
     Escribir(ruta + u"vsw"_qs, "antes"); // a file of the operator's own
     NoSePuede(ruta);
+    QDir(carpeta.path()).mkdir(u"Datos"_qs);
+    for (const char *propio : {"Datos/ventas.mdb", "enlace.mdb"}) { // the second leads to the first
+        if (!QFile::exists(Ruta("Datos/ventas.mdb")))
+            Escribir(Ruta(propio), "antes");
+        QFile::link(Ruta("Datos/ventas.mdb"), Ruta("enlace.mdb"));
+        NoSePuede(Ruta(propio));
+    }
     for (const QString &nada :
          {Ruta("no hay/lista.xls"), carpeta.path(), Ruta("x").repeated(300) + u".xls"_qs}) {
         Elige(nada);

@@ -19,7 +19,8 @@ constexpr const char *kNuevas = "nuevo nuevo nuevo nuevo nuevo";
 class PruebaRespaldo : public testing::Test {
   protected:
     void Respalda(const Elegidas &respaldar, const Elegidas &vaciar = kNinguna) {
-        EXPECT_EQ(Respaldar(bases, {tienda.Ruta("copia"), respaldar, vaciar}, avance), Resultado::Completo);
+        EXPECT_EQ(Respaldar(bases, {tienda.Ruta("copia"), respaldar, vaciar}, avance, vaciadas),
+                  Resultado::Completo);
     }
     Resultado Recupera(const Elegidas &recuperar) {
         return Recuperar(bases, {tienda.Ruta("respaldo"), recuperar}, avance);
@@ -34,6 +35,7 @@ class PruebaRespaldo : public testing::Test {
     TiendaCambio tienda;
     FrmBases bases{tienda.Ruta("Datos"), Moneda()};
     AvancePrueba avance;
+    Elegidas vaciadas{};
 };
 
 TEST_F(PruebaRespaldo, CopiesWhatIsTickedAndEmptiesFromTheTemplates) {
@@ -83,7 +85,8 @@ TEST_F(PruebaRespaldo, AJournalIsNotPlayedBackIntoARestoredFile) {
 TEST_F(PruebaRespaldo, EndsBetweenFilesWhenAskedTo) {
     int archivos = 0;
     avance.antes = [&] { return ++archivos < 3; };
-    EXPECT_EQ(Respaldar(bases, {tienda.Ruta("copia"), kTodas, {true, false, false, false, false}}, avance),
+    EXPECT_EQ(Respaldar(bases, {tienda.Ruta("copia"), kTodas, {true, false, false, false, false}}, avance,
+                        vaciadas),
               Resultado::Interrumpido);
     EXPECT_EQ(tienda.Marcas("copia"), "viejo viejo falta falta falta");
     archivos = 0;
@@ -178,8 +181,9 @@ TEST_F(PruebaRespaldo, ATargetThatGoesAwayIsToldAndNothingMoreIsEmptied) {
                QDir(tienda.Ruta("copia")).removeRecursively();
     };
     EXPECT_EQ(TextoDe([&] { Respalda(kTodas, kTodas); }),
-              "No se pudo escribir \"ventas.mdb\": no se encuentra la ruta o el archivo.");
+              "La carpeta \"copia\" ya no está: la copia de \"ventas.mdb\" no se pudo hacer.");
     EXPECT_EQ(tienda.Marcas("Datos"), " viejo viejo viejo viejo");
+    EXPECT_EQ(vaciadas, (Elegidas{true, false, false, false, false}));
 }
 
 TEST_F(PruebaRespaldo, TargetsThatCanNotBeMadeAreTold) {
@@ -192,9 +196,9 @@ TEST_F(PruebaRespaldo, TargetsThatCanNotBeMadeAreTold) {
         {larga + u'x', "No se pudo crear la carpeta \"x\": el nombre es demasiado largo."},
     };
     for (const auto &[destino, mensaje] : casos)
-        EXPECT_EQ(TextoDe([&] { Respaldar(bases, {destino, kTodas, {}}, avance); }), mensaje);
+        EXPECT_EQ(TextoDe([&] { Respaldar(bases, {destino, kTodas, {}}, avance, vaciadas); }), mensaje);
     const QString rara = tienda.Ruta("año \"nuevo\" 'x'");
-    EXPECT_EQ(Respaldar(bases, {rara, kTodas, {}}, avance), Resultado::Completo);
+    EXPECT_EQ(Respaldar(bases, {rara, kTodas, {}}, avance, vaciadas), Resultado::Completo);
     EXPECT_EQ(tienda.Marcas("año \"nuevo\" 'x'"), kViejas);
 }
 

@@ -8,6 +8,7 @@
 #include <QGridLayout>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QMenu>
 #include <QScreen>
 
 #include <algorithm>
@@ -167,11 +168,16 @@ bool FrmCalc::Tecla(const QObject *recibe, const QKeyEvent &tecla) {
     return Caracter(tecla.text().front());
 }
 
-// The keys of the main window's entries, the calculator's own among them, work here too.
+// The keys of the main window's entries, the calculator's own among them, work here too. Those of the open
+// module don't: what is half typed in its fields counts only when the focus leaves them.
 QAction *FrmCalc::EntradaDe(const QKeyEvent &tecla) const {
+    const auto esDeLaPrincipal = [this](QObject *lugar) {
+        return lugar == parentWidget() || qobject_cast<QMenu *>(lugar) != nullptr;
+    };
     const QKeySequence pulsada(tecla.keyCombination());
     for (QAction *accion : parentWidget()->findChildren<QAction *>())
-        if (accion->isEnabled() && accion->shortcut() == pulsada)
+        if (accion->isEnabled() && accion->shortcut() == pulsada &&
+            std::ranges::any_of(accion->associatedObjects(), esDeLaPrincipal))
             return accion;
     return nullptr;
 }

@@ -316,6 +316,8 @@ void FrmRespaldo::done(int resultado) {
         return;
     logica_.Reabrir();
     QDialog::done(resultado);
+    if (parentWidget() != nullptr) // behind a box that closed at the same moment nobody would get the keys
+        parentWidget()->window()->activateWindow();
 }
 
 // Enter is for the fields and for the button with the focus; it never presses another one.

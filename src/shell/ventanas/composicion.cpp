@@ -71,7 +71,9 @@ Composicion Componer(const Servicios &servicios) {
     };
     composicion.disenador = true;
     composicion.respaldo = [servicios](QWidget *padre) { FrmRespaldo(servicios, padre).exec(); };
-    composicion.exportar = [servicios](const Exportable &lo) { mnuExportar(servicios.preguntas, lo); };
+    composicion.exportar = [servicios](const Exportable &lo) {
+        mnuExportar(servicios.preguntas, servicios.frmBases, lo);
+    };
     composicion.devContado = [](VentanaModulo &estados) {
         static_cast<FrmEstados &>(estados).EjecutarContado();
     };
