@@ -112,10 +112,7 @@ bool Atajos::Restablecer(Entrada entrada) {
     const QKeySequence inicial = Inicial(entrada);
     if (Duena(inicial, entrada) != nullptr)
         return false;
-    if (inicial.isEmpty())
-        teclas_.erase(entrada);
-    else
-        teclas_[entrada] = inicial;
+    Poner(entrada, inicial);
     return true;
 }
 
@@ -128,7 +125,10 @@ QString Atajos::NombreDe(Entrada entrada) {
 }
 
 void Atajos::Poner(Entrada entrada, const QKeySequence &tecla) {
-    teclas_[entrada] = tecla;
+    if (tecla.isEmpty())
+        teclas_.erase(entrada);
+    else
+        teclas_[entrada] = tecla;
 }
 
 bool Atajos::HayRepetidas() const {

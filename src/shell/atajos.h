@@ -26,12 +26,12 @@ class Atajos {
     static const std::vector<Entrada> &Asignables();
 
     QKeySequence De(Entrada entrada) const;
-    // Why `tecla` can't become the key of `entrada`, in Spanish; empty when it can. An entry keeps a key
-    // always: an empty one is refused.
+    // Why `tecla` can't become the key of `entrada`, in Spanish; empty when it can. The operator can take
+    // no key from an entry: an empty one is refused.
     QString MotivoRechazo(Entrada entrada, const QKeySequence &tecla) const;
     // The key that the entry starts with, or none; false when another entry has it.
     bool Restablecer(Entrada entrada);
-    // The key must not be one that is refused.
+    // The key must not be one that is refused; an empty one leaves the entry without.
     void Poner(Entrada entrada, const QKeySequence &tecla);
     // The keys that the entries start with.
     static QKeySequence Inicial(Entrada entrada);

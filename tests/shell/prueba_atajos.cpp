@@ -51,9 +51,10 @@ TEST(Atajos, ReadsUpToWhatIsWrong) {
         {"K|Ctrl+1|ventas|K|Ctrl+2", "Ctrl+1", "F4"},
         {"K|Ctrl+1|nadie|K|Ctrl+2|clientes|", "F8", "Ctrl+2"},
         {"I|5|ventas|I|9|clientes|", "F8", "F4"},
-        {"K|A|ventas|K|Ctrl+C|clientes|", "F8", "F4"}, // they write and edit text
-        {"K|F4|ventas|K|F8|clientes|", "F4", "F8"},    // two that change places
-        {"K|F4|ventas|", "F8", "F4"},                  // shared: nothing counts
+        {"K|A|ventas|K|Ctrl+C|clientes|", "F8", "F4"},                 // they write and edit text
+        {"K|F4|ventas|K|F8|clientes|", "F4", "F8"},                    // two that change places
+        {"K|A|factura|K|B|acercade|K|Ctrl+1|ventas|", "Ctrl+1", "F4"}, // entries that start without a key
+        {"K|F4|ventas|", "F8", "F4"},                                  // shared: nothing counts
         {"K|Ctrl+1, Ctrl+2|ventas|", "F8", "F4"},
         {"", "F8", "F4"},
     };
