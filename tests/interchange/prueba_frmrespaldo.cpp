@@ -180,10 +180,11 @@ TEST_F(VentanaRespaldo, AFolderThatIsPickedFillsTheList) {
     Guardado("2026 11 20-10 00 00");
     Abrir();
     Clic("cmdRecuperar");
+    const QString escritorio = QStandardPaths::writableLocation(QStandardPaths::DesktopLocation);
     PedidoRuta pedido{.para = PedidoRuta::Para::Carpeta,
                       .titulo = u"Seleccione la carpeta donde se encuentran los respaldos"_qs,
                       .filtro = QString(),
-                      .carpeta = QStandardPaths::writableLocation(QStandardPaths::DesktopLocation)};
+                      .carpeta = QDir(escritorio).exists() ? escritorio : QDir::homePath()};
     mundo.preguntas.EsperaRuta(pedido, QString());
     Clic("cmdExaminarRecuperar");
     EXPECT_EQ(Respaldos().Filas(), 1);

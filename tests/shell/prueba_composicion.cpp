@@ -5,6 +5,7 @@
 
 #include <QAccessible>
 #include <QDialog>
+#include <QTemporaryDir>
 
 namespace tarvo {
 namespace {
@@ -20,7 +21,8 @@ TEST_F(ComposicionTest, ExportIsOfferedWhileAListWithRowsIsOnScreen) {
     EXPECT_FALSE(DeMenu("exportar")->isEnabled()) << "there is no supplier";
     Pide(Qt::Key_F4);
     EXPECT_TRUE(DeMenu("exportar")->isEnabled());
-    const QString ruta = mundo.datos.Carpeta() + u"/clientes.txt"_qs;
+    const QTemporaryDir carpeta;
+    const QString ruta = carpeta.filePath(u"clientes.txt"_qs);
     mundo.preguntas.EsperaRuta(
         {.para = PedidoRuta::Para::Guardar,
          .titulo = u"Exportar..."_qs,
