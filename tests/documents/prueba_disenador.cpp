@@ -201,6 +201,8 @@ TEST_F(DisenadorPrueba, FieldDialogAppliesAtOnceAndIsOneStep) {
         EXPECT_FALSE(Se("imgLogo"));
         Tecla(Control<QWidget>(dialogo, "lstCampos"), Qt::Key_Space);
         EXPECT_FALSE(Se("lblCliCodigo"));
+        Tecla(Control<QWidget>(dialogo, "lstCampos"), Qt::Key_Return); // presses no button
+        EXPECT_FALSE(Se("lblCliCodigo"));
         Pulsar(Control<QWidget>(dialogo, "cmdSelInvertir"));
         EXPECT_TRUE(Se("lblCliCodigo") && !Se("lblTotalDesc"));
         Pulsar(Control<QWidget>(dialogo, "cmdSelTodo"));

@@ -24,7 +24,7 @@ namespace tarvo {
 namespace {} // namespace
 
 FrmConfig::FrmConfig(const Servicios &servicios, bool abrirDisenador, QWidget *padre)
-    : QDialog(padre), ui_(std::make_unique<Ui::FrmConfig>()), arbol_(new QStandardItemModel(this)) {
+    : Dialogo(padre), ui_(std::make_unique<Ui::FrmConfig>()), arbol_(new QStandardItemModel(this)) {
     ui_->setupUi(this);
     CrearPaneles(servicios);
     CrearArbol();
@@ -132,19 +132,13 @@ void FrmConfig::MostrarTicket(bool visible) {
 bool FrmConfig::eventFilter(QObject *objeto, QEvent *evento) {
     const bool clic =
         evento->type() == QEvent::MouseButtonPress || evento->type() == QEvent::MouseButtonDblClick;
-    return (clic && frImpresion->EnDetalle()) || QDialog::eventFilter(objeto, evento);
+    return (clic && frImpresion->EnDetalle()) || Dialogo::eventFilter(objeto, evento);
 }
 
 void FrmConfig::done(int resultado) {
     if (frImpresion->EnDetalle() && !frImpresion->PermiteSalirDeDetalle())
         return;
-    QDialog::done(resultado);
-}
-
-// Enter is for the fields and for the button with the focus; it never presses another one.
-void FrmConfig::keyPressEvent(QKeyEvent *evento) {
-    if (evento->key() != Qt::Key_Return && evento->key() != Qt::Key_Enter)
-        QDialog::keyPressEvent(evento);
+    Dialogo::done(resultado);
 }
 
 } // namespace tarvo

@@ -3,8 +3,7 @@
 #pragma once
 
 #include "desktop/servicios.h"
-
-#include <QDialog>
+#include "desktop/ventanas/dialogo.h"
 
 #include <memory>
 
@@ -21,7 +20,7 @@ namespace Ui {
 class FrmConfig;
 }
 
-class FrmConfig : public QDialog {
+class FrmConfig : public Dialogo {
     Q_OBJECT
   public:
     // All panels are filled at once. `abrirDisenador` starts on the print panel, and the invoice designer
@@ -34,7 +33,6 @@ class FrmConfig : public QDialog {
 
   protected:
     bool eventFilter(QObject *objeto, QEvent *evento) override;
-    void keyPressEvent(QKeyEvent *evento) override;
 
   private:
     void CrearPaneles(const Servicios &servicios);

@@ -30,7 +30,7 @@ FrmFactura::FrmFactura(const Servicios &servicios, QWidget *padre)
                  padre) {}
 
 FrmFactura::FrmFactura(const Servicios &servicios, const QString &carpetaFacturas, QWidget *padre)
-    : QDialog(padre), disenador_(servicios, carpetaFacturas), ui_(std::make_unique<Ui::FrmFactura>()) {
+    : Dialogo(padre), disenador_(servicios, carpetaFacturas), ui_(std::make_unique<Ui::FrmFactura>()) {
     ui_->setupUi(this);
     setWindowFlag(Qt::WindowMaximizeButtonHint);
     auto *filtro = new FiltroCampos(this);

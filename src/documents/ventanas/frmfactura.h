@@ -2,9 +2,8 @@
 // beside it. Its logic is Disenador; what it leaves behind is the file and its path in the data.
 #pragma once
 
+#include "desktop/ventanas/dialogo.h"
 #include "documents/disenador.h"
-
-#include <QDialog>
 
 #include <memory>
 
@@ -14,7 +13,7 @@ namespace Ui {
 class FrmFactura;
 }
 
-class FrmFactura : public QDialog {
+class FrmFactura : public Dialogo {
     Q_OBJECT
   public:
     // Reads the stored layout; a failure of that is told before the window shows.

@@ -10,7 +10,7 @@
 namespace tarvo {
 
 FrmFacturaAdmin::FrmFacturaAdmin(Disenador &disenador, QWidget *padre)
-    : QDialog(padre),
+    : Dialogo(padre),
       disenador_(disenador),
       ui_(std::make_unique<Ui::FrmFacturaAdmin>()),
       campos_({{.titulo = QStringLiteral("Campo"), .ancho = 6000}}) {

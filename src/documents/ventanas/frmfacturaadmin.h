@@ -2,8 +2,7 @@
 #pragma once
 
 #include "desktop/listatexto.h"
-
-#include <QDialog>
+#include "desktop/ventanas/dialogo.h"
 
 #include <memory>
 
@@ -14,7 +13,7 @@ namespace Ui {
 class FrmFacturaAdmin;
 }
 
-class FrmFacturaAdmin : public QDialog {
+class FrmFacturaAdmin : public Dialogo {
     Q_OBJECT
   public:
     FrmFacturaAdmin(Disenador &disenador, QWidget *padre);

@@ -7,7 +7,7 @@
 namespace tarvo {
 
 FrmFacturaEtiqueta::FrmFacturaEtiqueta(Disenador &disenador, QWidget *padre)
-    : QDialog(padre), disenador_(disenador), ui_(std::make_unique<Ui::FrmFacturaEtiqueta>()) {
+    : Dialogo(padre), disenador_(disenador), ui_(std::make_unique<Ui::FrmFacturaEtiqueta>()) {
     ui_->setupUi(this);
     auto *filtro = new FiltroCampos(this);
     filtro->AlEscapar([this] {

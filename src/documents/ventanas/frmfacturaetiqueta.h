@@ -1,9 +1,8 @@
 // The dialog that puts a free label on the invoice. Its text shows alignment and styles at once.
 #pragma once
 
+#include "desktop/ventanas/dialogo.h"
 #include "documents/disenador.h"
-
-#include <QDialog>
 
 #include <memory>
 
@@ -13,7 +12,7 @@ namespace Ui {
 class FrmFacturaEtiqueta;
 }
 
-class FrmFacturaEtiqueta : public QDialog {
+class FrmFacturaEtiqueta : public Dialogo {
     Q_OBJECT
   public:
     FrmFacturaEtiqueta(Disenador &disenador, QWidget *padre);

@@ -28,7 +28,7 @@ QString Megas(qint64 bytes) {
 } // namespace
 
 FrmRespaldo::FrmRespaldo(const Servicios &servicios, QWidget *padre)
-    : QDialog(padre),
+    : Dialogo(padre),
       ui_(std::make_unique<Ui::FrmRespaldo>()),
       servicios_(servicios),
       logica_(servicios),
@@ -315,15 +315,9 @@ void FrmRespaldo::done(int resultado) {
     if (bloqueo_)
         return;
     logica_.Reabrir();
-    QDialog::done(resultado);
+    Dialogo::done(resultado);
     if (parentWidget() != nullptr) // behind a box that closed at the same moment nobody would get the keys
         parentWidget()->window()->activateWindow();
-}
-
-// Enter is for the fields and for the button with the focus; it never presses another one.
-void FrmRespaldo::keyPressEvent(QKeyEvent *evento) {
-    if (evento->key() != Qt::Key_Return && evento->key() != Qt::Key_Enter)
-        QDialog::keyPressEvent(evento);
 }
 
 } // namespace tarvo

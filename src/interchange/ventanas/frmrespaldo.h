@@ -2,10 +2,10 @@
 #pragma once
 
 #include "desktop/servicios.h"
+#include "desktop/ventanas/dialogo.h"
 #include "interchange/avance.h"
 #include "interchange/respaldologica.h"
 
-#include <QDialog>
 #include <QElapsedTimer>
 
 #include <array>
@@ -25,7 +25,7 @@ namespace Ui {
 class FrmRespaldo;
 }
 
-class FrmRespaldo : public QDialog, private Avance {
+class FrmRespaldo : public Dialogo, private Avance {
     Q_OBJECT
   public:
     explicit FrmRespaldo(const Servicios &servicios, QWidget *padre = nullptr);
@@ -35,8 +35,6 @@ class FrmRespaldo : public QDialog, private Avance {
     void done(int resultado) override;
 
   protected:
-    void keyPressEvent(QKeyEvent *evento) override;
-
   private:
     using Casillas = std::array<QCheckBox *, kBases>;
     // What an operation moves while it runs.
