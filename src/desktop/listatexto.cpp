@@ -12,7 +12,7 @@ namespace tarvo {
 
 namespace {
 
-constexpr int kLetrasOidas = 400; // of a cell; nobody listens to more
+constexpr int kLetrasOidas = 400; // nobody listens to more
 
 } // namespace
 
@@ -263,12 +263,16 @@ QVariant ListaTexto::data(const QModelIndex &indice, int rol) const {
     }
 }
 
+QString ListaTexto::CeldaHablada(int fila, int columna) const {
+    return Celda(fila, columna).left(kLetrasOidas);
+}
+
 QString ListaTexto::FilaHablada(int fila) const {
     QStringList partes;
     for (int columna = 0; columna < columnCount(); ++columna) {
         const ColumnaLista &especificacion = especificacion_[static_cast<std::size_t>(columna)];
         if (!especificacion.oculta)
-            partes.append(especificacion.titulo + QLatin1Char(' ') + Celda(fila, columna).left(kLetrasOidas));
+            partes.append(especificacion.titulo + QLatin1Char(' ') + CeldaHablada(fila, columna));
     }
     return partes.join(QStringLiteral(", "));
 }

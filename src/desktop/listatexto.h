@@ -52,6 +52,8 @@ class ListaTexto : public QAbstractTableModel {
     // The longest texts of a column, at most `cuantos` of them; those of more than `bytes` are passed over.
     QStringList MasLargos(int columna, int cuantos, std::uint32_t bytes) const;
 
+    // A cell as it is read aloud: its beginning.
+    QString CeldaHablada(int fila, int columna) const;
     // A row as it is read aloud: caption and text of each column that is not hidden.
     QString FilaHablada(int fila) const;
 
@@ -92,8 +94,6 @@ class ListaTexto : public QAbstractTableModel {
     // Direction, and the column whose texts are compared; -1: the rows stand in the order in which they came.
     int ColumnaOrden() const { return columnaOrden_; }
     Qt::SortOrder Orden() const { return orden_; }
-    // The header that shows the icon "arriba" (ascending) or "abajo" (Qt::DecorationRole); -1: none.
-    int ColumnaFlecha() const { return columnaFlecha_; }
     void Ordenar(int columna, Qt::SortOrder orden);
     // A click on a header: another column sorts ascending (by its key column, when it has one), the same one
     // turns round. The header that was clicked shows the arrow.
@@ -123,7 +123,7 @@ class ListaTexto : public QAbstractTableModel {
 
     std::vector<ColumnaLista> especificacion_;
     int columnaOrden_ = -1;
-    int columnaFlecha_ = -1;
+    int columnaFlecha_ = -1; // header that shows the icon "arriba" (ascending) or "abajo"; -1: none
     bool ordenaVacia_ = true;
     bool ilegible_ = false;
     Qt::SortOrder orden_ = Qt::AscendingOrder;

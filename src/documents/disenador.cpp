@@ -1,5 +1,6 @@
 #include "documents/disenador.h"
 
+#include "desktop/unalinea.h"
 #include "documents/archivos.h"
 #include "documents/impresoras.h"
 #include "documents/superficie.h"
@@ -208,7 +209,7 @@ void Disenador::Rehacer() {
 }
 
 Disenador::Pedido Disenador::AgregarEtiqueta(const EtiquetaPedida &pedida) {
-    const QString texto = TextoImprimible(pedida.texto).trimmed();
+    const QString texto = EnUnaLinea(pedida.texto).trimmed();
     const int pixeles = pedida.pixeles.toInt();
     Preguntas &preguntas = servicios_.preguntas;
     if (texto.isEmpty()) {

@@ -1,7 +1,5 @@
 #include "documents/superficie.h"
 
-#include <algorithm>
-
 namespace tarvo {
 
 namespace {
@@ -18,18 +16,6 @@ double Superficie::AnchoCaracter() {
 
 double Superficie::AltoLinea() {
     return letra_.puntos * kAltoPorPunto;
-}
-
-QString TextoImprimible(const QString &texto) {
-    const auto deControl = [](QChar letra) {
-        return letra.category() == QChar::Other_Control || letra == QChar::LineSeparator ||
-               letra == QChar::ParagraphSeparator;
-    };
-    if (std::none_of(texto.begin(), texto.end(), deControl))
-        return texto;
-    QString limpio = texto;
-    std::replace_if(limpio.begin(), limpio.end(), deControl, QLatin1Char(' '));
-    return limpio;
 }
 
 QString Cortar(const QString &texto, qsizetype caracteres) {

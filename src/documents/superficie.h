@@ -64,8 +64,6 @@ class Superficie {
     Letra letra_;
 };
 
-// `texto` with a blank for each control character, as it stands on paper.
-QString TextoImprimible(const QString &texto);
 // The first `caracteres` characters of `texto`; a character of two code units isn't torn apart.
 QString Cortar(const QString &texto, qsizetype caracteres);
 

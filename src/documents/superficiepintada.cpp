@@ -1,5 +1,6 @@
 #include "documents/superficiepintada.h"
 
+#include "desktop/unalinea.h"
 #include "store/errordatos.h"
 
 #include <QFontInfo>
@@ -90,7 +91,7 @@ void SuperficiePintada::Texto(const QString &texto) {
         x_ = x;
     }
     if (!texto.isEmpty())
-        Pintar(tipo, TextoImprimible(texto));
+        Pintar(tipo, EnUnaLinea(texto));
     x_ += static_cast<double>(texto.size()) * tipo.avance;
     altoLinea_ = std::max(altoLinea_, tipo.alto);
 }

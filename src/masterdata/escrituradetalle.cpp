@@ -14,6 +14,15 @@ std::string_view Vista8(const QByteArray &bytes) {
 
 } // namespace
 
+std::optional<int> RequeridoVacio(const std::vector<CampoDetalle> &campos, const QStringList &textos) {
+    for (std::size_t i = 0; i < campos.size(); ++i) {
+        const auto posicion = static_cast<int>(i);
+        if (!campos[i].requerido.isEmpty() && textos[posicion].isEmpty())
+            return posicion;
+    }
+    return std::nullopt;
+}
+
 bool ListaDetalle::EnTransaccion(const QString &accion, const QStringList &textos,
                                  const std::function<void()> &escribir) {
     const Operacion operacion{QLatin1String(reglas_.cursor.Tabla()), accion, idMostrado_};
@@ -28,15 +37,12 @@ QStringList ListaDetalle::Textos() const {
 }
 
 bool ListaDetalle::RequeridosLlenos() {
-    for (std::size_t i = 0; i < reglas_.campos.size(); ++i) {
-        const QString &nombre = reglas_.campos[i].requerido;
-        if (nombre.isEmpty() || !vista_.Texto(static_cast<int>(i)).isEmpty())
-            continue;
-        preguntas_.InformarRequerido(nombre);
-        vista_.EnfocarCampo(static_cast<int>(i));
-        return false;
+    const std::optional<int> vacio = RequeridoVacio(reglas_.campos, Textos());
+    if (vacio) {
+        preguntas_.InformarRequerido(reglas_.campos[static_cast<std::size_t>(*vacio)].requerido);
+        vista_.EnfocarCampo(*vacio);
     }
-    return true;
+    return !vacio;
 }
 
 void ListaDetalle::Guardar() {

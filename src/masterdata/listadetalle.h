@@ -19,6 +19,7 @@
 #include "store/cursor.h"
 
 #include <functional>
+#include <optional>
 
 namespace tarvo {
 
@@ -34,6 +35,9 @@ struct CampoDetalle {
     QString inicial{};        // text in a new row
     bool soloMostrar = false; // shown from the table and never written
 };
+
+// The first field that must be filled and is empty; `textos` has one for each of `campos`.
+std::optional<int> RequeridoVacio(const std::vector<CampoDetalle> &campos, const QStringList &textos);
 
 // A column of the list and the table column that fills it; null when it is computed.
 struct ColumnaDetalle {

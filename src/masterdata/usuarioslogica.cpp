@@ -116,8 +116,11 @@ bool UsuariosLogica::Rechazar(int campo, const QString &mensaje) {
 bool UsuariosLogica::CamposValidos() {
     const QString clave = vista().Texto(kClave);
     const QString confirmacion = vista().Texto(kConfirma);
-    if (pideConfirmacion_ && confirmacion.isEmpty())
-        return Rechazar(kConfirma, QStringLiteral("Debe llenar el campo \"Confirmación\""));
+    if (pideConfirmacion_ && confirmacion.isEmpty()) {
+        preguntas().InformarRequerido(QStringLiteral("Confirmación"));
+        vista().EnfocarCampo(kConfirma);
+        return false;
+    }
     if (pideConfirmacion_ && confirmacion != clave)
         return Rechazar(kClave,
                         QStringLiteral("El campo \"Clave\" y el campo \"Confirmación\" deben ser iguales"));

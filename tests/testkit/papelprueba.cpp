@@ -1,5 +1,7 @@
 #include "testkit/papelprueba.h"
 
+#include "desktop/unalinea.h"
+
 #include <algorithm>
 #include <tuple>
 #include <utility>
@@ -16,8 +18,7 @@ constexpr double kTwipsPorPunto = 12;
 
 void PapelPrueba::Texto(const QString &texto) {
     if (!texto.isEmpty())
-        trozos_.push_back(
-            {pagina_, cabezal_.linea, cabezal_.columna, TextoImprimible(texto), letra_, punto_});
+        trozos_.push_back({pagina_, cabezal_.linea, cabezal_.columna, EnUnaLinea(texto), letra_, punto_});
     cabezal_.columna += static_cast<int>(texto.size());
     int &lineas = lineasDePagina_.back();
     lineas = std::max(lineas, cabezal_.linea + 1);

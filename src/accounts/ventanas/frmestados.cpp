@@ -56,7 +56,7 @@ FrmEstados::FrmEstados(Servicios servicios, Anfitrion &anfitrion, QWidget *padre
     FiltrarCampos();
     Conectar();
     logica_.Abrir();
-    picClientes_->CargarClientes();
+    picClientes->CargarClientes();
     ui_->cmdCliente->setFocus();
 }
 
@@ -73,12 +73,12 @@ void FrmEstados::PrepararControles() {
 }
 
 void FrmEstados::PrepararClientes() {
-    picClientes_ = new PicClientes(servicios_, SelectorDeCuentas(), buscador_, *filtro_, this);
+    picClientes = new PicClientes(servicios_, SelectorDeCuentas(), buscador_, *filtro_, this);
     // What is built shows behind the panel that has closed.
-    connect(picClientes_, &PicClientes::Elegido, this, [this] { aceptado_ = true; });
-    connect(picClientes_, &PicClientes::Cerrado, this, &FrmEstados::ClientesCerrado);
-    filtro_->AlEscapar([this] { return picClientes_->Escapar(); });
-    filtro_->AlEscribir(picClientes_, [this](const QString &letra) { picClientes_->Buscar(letra); });
+    connect(picClientes, &PicClientes::Elegido, this, [this] { aceptado_ = true; });
+    connect(picClientes, &PicClientes::Cerrado, this, &FrmEstados::ClientesCerrado);
+    filtro_->AlEscapar([this] { return picClientes->Escapar(); });
+    filtro_->AlEscribir(picClientes, [this](const QString &letra) { picClientes->Buscar(letra); });
 }
 
 void FrmEstados::FiltrarCampos() {
@@ -166,7 +166,7 @@ void FrmEstados::AjustarColumnas() {
 
 void FrmEstados::resizeEvent(QResizeEvent *evento) {
     VentanaModulo::resizeEvent(evento);
-    picClientes_->Colocar(rect().adjusted(0, ui_->lblTitulo->height(), 0, 0));
+    picClientes->Colocar(rect().adjusted(0, ui_->lblTitulo->height(), 0, 0));
     AjustarColumnas();
 }
 
@@ -188,12 +188,12 @@ void FrmEstados::EnfocarLista() {
 void FrmEstados::AbrirClientes() {
     ui_->frSeleccionar->setEnabled(false);
     ui_->frEstado->setEnabled(false);
-    picClientes_->Abrir();
+    picClientes->Abrir();
 }
 
 void FrmEstados::CerrarClientes() {
-    if (picClientes_->isVisible())
-        picClientes_->Cerrar();
+    if (picClientes->isVisible())
+        picClientes->Cerrar();
 }
 
 void FrmEstados::ClientesCerrado() {
@@ -208,11 +208,11 @@ void FrmEstados::ClientesCerrado() {
 }
 
 std::optional<ClienteElegido> FrmEstados::Elegido() const {
-    const int fila = picClientes_->FilaActual();
+    const int fila = picClientes->FilaActual();
     if (fila < 0)
         return std::nullopt;
-    return ClienteElegido{picClientes_->Clientes().Celda(fila, cliente::Id),
-                          picClientes_->Clientes().Celda(fila, cliente::Nombre)};
+    return ClienteElegido{picClientes->Clientes().Celda(fila, cliente::Id),
+                          picClientes->Clientes().Celda(fila, cliente::Nombre)};
 }
 
 // --- receipt and cash sheet

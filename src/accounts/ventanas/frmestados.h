@@ -70,7 +70,7 @@ class FrmEstados : public VentanaModulo, private VistaEstados {
     EstadosLogica logica_;
     Buscador buscador_;
     FiltroCampos *filtro_;
-    PicClientes *picClientes_;
+    PicClientes *picClientes;
     bool aceptado_ = false; // the picker is closing with a choice
 };
 

@@ -6,10 +6,6 @@
 
 namespace tarvo {
 
-namespace {
-constexpr int kLetrasOidas = 400;
-}
-
 void *AccesoCelda::interface_cast(QAccessible::InterfaceType tipo) {
     return tipo == QAccessible::TableCellInterface ? static_cast<QAccessibleTableCellInterface *>(this)
                                                    : nullptr;
@@ -44,7 +40,7 @@ QString AccesoCelda::text(QAccessible::Text parte) const {
         return {};
     if (EsEncabezado())
         return lista.Columnas()[static_cast<std::size_t>(columna_)].titulo;
-    return Habla() ? lista.FilaHablada(fila_) : lista.Celda(fila_, columna_).left(kLetrasOidas);
+    return Habla() ? lista.FilaHablada(fila_) : lista.CeldaHablada(fila_, columna_);
 }
 
 QRect AccesoCelda::rect() const {

@@ -41,18 +41,9 @@ BarraBusqueda::BarraBusqueda(const ControlesBusqueda &controles, std::vector<Mod
 }
 
 void BarraBusqueda::PonerTeclas(FiltroCampos &filtro) {
-    QWidget *anterior = nullptr;
-    for (QAction *accion : c_.barra->actions()) {
-        auto *boton = qobject_cast<QToolButton *>(c_.barra->widgetForAction(accion));
-        if (boton == nullptr)
-            continue;
-        boton->setFocusPolicy(Qt::TabFocus);
-        if (accion->menu() != nullptr)
-            filtro.AlFlecha(boton, [boton](int) { boton->showMenu(); });
-        if (anterior != nullptr)
-            QWidget::setTabOrder(anterior, boton);
-        anterior = boton;
-    }
+    QWidget *anterior = HacerAlcanzable(*c_.barra, nullptr);
+    auto *conMenu = static_cast<QToolButton *>(c_.barra->widgetForAction(buscar_));
+    filtro.AlFlecha(conMenu, [conMenu](int) { conMenu->showMenu(); });
     for (QWidget *control : std::initializer_list<QWidget *>{c_.campo, c_.boton, c_.lista}) {
         QWidget::setTabOrder(anterior, control);
         anterior = control;
@@ -75,8 +66,8 @@ void BarraBusqueda::PonerMenu() {
         if (QAction *entrada = AccionDe(menu, modo.clave))
             connect(entrada, &QAction::triggered, this, [this, &modo] { ElegirModo(modo); });
     buscar_->setMenu(menu);
-    if (auto *boton = qobject_cast<QToolButton *>(c_.barra->widgetForAction(buscar_)))
-        boton->setPopupMode(QToolButton::MenuButtonPopup);
+    static_cast<QToolButton *>(c_.barra->widgetForAction(buscar_))
+        ->setPopupMode(QToolButton::MenuButtonPopup);
 }
 
 void BarraBusqueda::ElegirModo(const ModoBusqueda &modo) {

@@ -38,15 +38,17 @@ void LlenarMenu(QMenu *menu, const QList<EntradaMenu> &entradas) {
     }
 }
 
-void HacerAlcanzable(const QToolBar &barra, QWidget *anterior) {
+QWidget *HacerAlcanzable(const QToolBar &barra, QWidget *anterior) {
     for (QAction *accion : barra.actions()) {
         QWidget *boton = barra.widgetForAction(accion);
         if (accion->isSeparator() || boton == nullptr)
             continue;
         boton->setFocusPolicy(Qt::TabFocus);
-        QWidget::setTabOrder(anterior, boton);
+        if (anterior != nullptr)
+            QWidget::setTabOrder(anterior, boton);
         anterior = boton;
     }
+    return anterior;
 }
 
 QAction *AccionDe(const QWidget *raiz, const QString &clave) {

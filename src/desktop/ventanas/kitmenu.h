@@ -27,8 +27,9 @@ struct EntradaMenu {
 // Adds the entries to `menu`. The actions belong to it and carry their key as objectName; a submenu's action
 // too.
 void LlenarMenu(QMenu *menu, const QList<EntradaMenu> &entradas);
-// Lets the Tab key reach the buttons of `barra`, which come right after `anterior`.
-void HacerAlcanzable(const QToolBar &barra, QWidget *anterior);
+// Lets the Tab key reach the buttons of `barra`, which come right after `anterior` (null: where they stand).
+// Returns the last one.
+QWidget *HacerAlcanzable(const QToolBar &barra, QWidget *anterior);
 // Action of that key below `raiz`, null when there is none.
 QAction *AccionDe(const QWidget *raiz, const QString &clave);
 

@@ -11,10 +11,6 @@
 
 namespace tarvo {
 
-void MarcarSinDatos(QWidget *campo, bool sinDatos) {
-    Marcar(campo, "sinDatos", sinDatos);
-}
-
 ControlesDetalle::ControlesDetalle(QWidget *marco, ListaVista *lista, QString prefijo, QWidget *bajoPaneles)
     : QObject(marco), marco_(marco), lista_(lista), prefijo_(std::move(prefijo)), bajoPaneles_(bajoPaneles) {}
 
@@ -110,7 +106,7 @@ void ControlesDetalle::HabilitarCampos(bool conDatos) {
     for (QWidget *campo : habilitables_)
         campo->setEnabled(conDatos);
     for (QWidget *campo : campos_)
-        MarcarSinDatos(campo, !conDatos);
+        Marcar(campo, "sinDatos", !conDatos);
 }
 
 void ControlesDetalle::Habilitar(const Habilitados &habilitados) {

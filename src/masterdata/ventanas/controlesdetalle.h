@@ -73,7 +73,4 @@ class ControlesDetalle : public QObject, public VistaDetalle {
     QHash<int, QStringList> entradas_;    // what the combos hold
 };
 
-// Grey for lack of data, or the field's own colours.
-void MarcarSinDatos(QWidget *campo, bool sinDatos);
-
 } // namespace tarvo

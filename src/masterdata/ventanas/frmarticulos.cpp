@@ -1,5 +1,6 @@
 #include "masterdata/ventanas/frmarticulos.h"
 
+#include "desktop/ventanas/estilo.h"
 #include "desktop/ventanas/filtrocampos.h"
 #include "desktop/ventanas/listavista.h"
 #include "desktop/ventanas/solocaracteres.h"
@@ -49,20 +50,20 @@ FrmArticulos::FrmArticulos(const Servicios &servicios, Anfitrion &anfitrion, QWi
 FrmArticulos::~FrmArticulos() = default;
 
 void FrmArticulos::CrearFiltro() {
-    cboxFiltrarCategoria_ = new QComboBox(this);
-    cboxFiltrarCategoria_->setObjectName(QStringLiteral("cboxFiltrarCategoria"));
-    cboxFiltrarCategoria_->setAccessibleName(QStringLiteral("Filtrar por categoría"));
-    cboxFiltrarCategoria_->setAccessibleDescription(
-        cboxFiltrarCategoria_->accessibleName()); // a name is its entry
-    cboxFiltrarCategoria_->setMinimumContentsLength(28);
-    cboxFiltrarCategoria_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    PonerSobreLista(cboxFiltrarCategoria_);
-    setTabOrder(cboxFiltrarCategoria_, &LV());
-    txtIdCategoriaFiltro_ = new QLineEdit(this);
-    txtIdCategoriaFiltro_->setObjectName(QStringLiteral("txtIdCategoriaFiltro"));
-    txtIdCategoriaFiltro_->hide();
-    picNuevaCategoria_ = new PanelCategoria(this);
-    Flotar(picNuevaCategoria_);
+    cboxFiltrarCategoria = new QComboBox(this);
+    cboxFiltrarCategoria->setObjectName(QStringLiteral("cboxFiltrarCategoria"));
+    cboxFiltrarCategoria->setAccessibleName(QStringLiteral("Filtrar por categoría"));
+    cboxFiltrarCategoria->setAccessibleDescription(
+        cboxFiltrarCategoria->accessibleName()); // a name is its entry
+    cboxFiltrarCategoria->setMinimumContentsLength(28);
+    cboxFiltrarCategoria->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    PonerSobreLista(cboxFiltrarCategoria);
+    setTabOrder(cboxFiltrarCategoria, &LV());
+    txtIdCategoriaFiltro = new QLineEdit(this);
+    txtIdCategoriaFiltro->setObjectName(QStringLiteral("txtIdCategoriaFiltro"));
+    txtIdCategoriaFiltro->hide();
+    picNuevaCategoria = new PanelCategoria(this);
+    Flotar(picNuevaCategoria);
 }
 
 void FrmArticulos::ConectarImporte(QLineEdit *campo, int posicion) {
@@ -96,34 +97,34 @@ void FrmArticulos::ConectarFicha() {
     connect(ficha_->cboxCategoria, &QComboBox::activated, this, [this] { logica_->ElegirCategoria(); });
     connect(ficha_->cboxTipoIVA, &QComboBox::activated, this, [this] { logica_->ElegirTipoIVA(); });
     connect(ficha_->cboxProveedor, &QComboBox::activated, this, [this] { logica_->ElegirProveedor(); });
-    connect(cboxFiltrarCategoria_, &QComboBox::activated, this, [this](int indice) {
+    connect(cboxFiltrarCategoria, &QComboBox::activated, this, [this](int indice) {
         logica_->FiltrarCategoria(indice);
         MostrarIdFiltro();
     });
 }
 
 void FrmArticulos::ConectarCategoria() {
-    connect(picNuevaCategoria_->cmdCatGuardar, &QPushButton::clicked, this, [this] {
-        logica_->GuardarCategoria(picNuevaCategoria_->txtCatCodigo->text(),
-                                  picNuevaCategoria_->txtCatCategoria->text());
+    connect(picNuevaCategoria->cmdCatGuardar, &QPushButton::clicked, this, [this] {
+        logica_->GuardarCategoria(picNuevaCategoria->txtCatCodigo->text(),
+                                  picNuevaCategoria->txtCatCategoria->text());
         MostrarIdFiltro();
     });
-    connect(picNuevaCategoria_->cmdCatCancelar, &QPushButton::clicked, this,
+    connect(picNuevaCategoria->cmdCatCancelar, &QPushButton::clicked, this,
             [this] { logica_->CancelarCategoria(); });
     connect(&Controles(), &ControlesDetalle::PanelAbierto, this, [this](PanelDetalle cual) {
         if (cual != PanelDetalle::Categoria)
             return;
-        picNuevaCategoria_->Vaciar();
-        MostrarPanel(picNuevaCategoria_, picNuevaCategoria_->txtCatCodigo);
+        picNuevaCategoria->Vaciar();
+        MostrarPanel(picNuevaCategoria, picNuevaCategoria->txtCatCodigo);
     });
     connect(&Controles(), &ControlesDetalle::PanelCerrado, this, [this](PanelDetalle cual) {
         if (cual == PanelDetalle::Categoria)
-            OcultarPanel(picNuevaCategoria_);
+            OcultarPanel(picNuevaCategoria);
     });
 }
 
 void FrmArticulos::MostrarIdFiltro() {
-    txtIdCategoriaFiltro_->setText(QString::number(logica_->IdFiltro()));
+    txtIdCategoriaFiltro->setText(QString::number(logica_->IdFiltro()));
     LV().PonerTextoVacio(logica_->IdFiltro() == 0
                              ? QStringLiteral("Todavía no hay artículos. Nuevo agrega el primero.")
                              : QStringLiteral("No hay artículos en esta categoría."));
@@ -151,25 +152,25 @@ void FrmArticulos::AjustarColumnas() {
 // --- VistaFiltro
 
 void FrmArticulos::PonerFiltros(const QStringList &entradas) {
-    cboxFiltrarCategoria_->clear();
-    cboxFiltrarCategoria_->addItems(entradas);
+    cboxFiltrarCategoria->clear();
+    cboxFiltrarCategoria->addItems(entradas);
 }
 
 void FrmArticulos::ElegirFiltro(int indice) {
-    cboxFiltrarCategoria_->setCurrentIndex(indice);
+    cboxFiltrarCategoria->setCurrentIndex(indice);
 }
 
 void FrmArticulos::HabilitarFiltro(bool habilitado) {
-    cboxFiltrarCategoria_->setEnabled(habilitado);
-    MarcarSinDatos(cboxFiltrarCategoria_, !habilitado);
+    cboxFiltrarCategoria->setEnabled(habilitado);
+    Marcar(cboxFiltrarCategoria, "sinDatos", !habilitado);
 }
 
 void FrmArticulos::EnfocarCatCodigo() {
-    picNuevaCategoria_->txtCatCodigo->setFocus();
+    picNuevaCategoria->txtCatCodigo->setFocus();
 }
 
 void FrmArticulos::EnfocarCatCategoria() {
-    picNuevaCategoria_->txtCatCategoria->setFocus();
+    picNuevaCategoria->txtCatCategoria->setFocus();
 }
 
 } // namespace tarvo

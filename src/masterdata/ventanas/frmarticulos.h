@@ -40,9 +40,9 @@ class FrmArticulos : public VentanaCatalogo, public VistaFiltro {
     void EnfocarCatCategoria() override;
 
     std::unique_ptr<Ui::FichaArticulos> ficha_;
-    QComboBox *cboxFiltrarCategoria_ = nullptr;
-    QLineEdit *txtIdCategoriaFiltro_ = nullptr;
-    PanelCategoria *picNuevaCategoria_ = nullptr;
+    QComboBox *cboxFiltrarCategoria = nullptr;
+    QLineEdit *txtIdCategoriaFiltro = nullptr;
+    PanelCategoria *picNuevaCategoria = nullptr;
     ArticulosLogica *logica_ = nullptr; // belongs to the base window
 };
 

@@ -1,6 +1,7 @@
 #include "masterdata/ventanas/frmusuarios.h"
 
 #include "desktop/preguntas.h"
+#include "desktop/ventanas/estilo.h"
 #include "desktop/ventanas/filtrocampos.h"
 #include "masterdata/usuarioslogica.h"
 #include "masterdata/ventanas/controlesdetalle.h"
@@ -21,7 +22,7 @@ constexpr int kAnchoSinBarra = 4850;
 } // namespace
 
 FrmUsuarios::FrmUsuarios(const Servicios &servicios, QWidget *padre)
-    : QDialog(padre),
+    : Dialogo(padre),
       ui_(std::make_unique<Ui::FrmUsuarios>()),
       controles_(nullptr),
       Timer1(new QTimer(this)) {
@@ -64,7 +65,7 @@ void FrmUsuarios::ConectarTeclas() {
 
 void FrmUsuarios::HabilitarConfirmacion(bool pide) {
     ui_->txtUsuConfirma->setEnabled(pide);
-    MarcarSinDatos(ui_->txtUsuConfirma, !pide);
+    Marcar(ui_->txtUsuConfirma, "sinDatos", !pide);
 }
 
 void FrmUsuarios::AjustarColumnas() {

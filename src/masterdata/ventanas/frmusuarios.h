@@ -2,8 +2,7 @@
 #pragma once
 
 #include "desktop/servicios.h"
-
-#include <QDialog>
+#include "desktop/ventanas/dialogo.h"
 
 #include <memory>
 
@@ -17,7 +16,7 @@ namespace Ui {
 class FrmUsuarios;
 }
 
-class FrmUsuarios : public QDialog {
+class FrmUsuarios : public Dialogo {
     Q_OBJECT
   public:
     // The table of the users must be open.

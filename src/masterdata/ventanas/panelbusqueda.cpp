@@ -16,13 +16,13 @@ PanelBusqueda::PanelBusqueda(const QStringList &criterios, QWidget *padre)
     QWidget *anterior = txtArtBuscar;
     for (const QString &criterio : criterios) {
         auto *casilla = new QCheckBox(criterio, this);
-        casilla->setObjectName(QStringLiteral("chkBuscarPor(%1)").arg(chkBuscarPor_.size()));
-        casilla->setChecked(chkBuscarPor_.empty());
+        casilla->setObjectName(QStringLiteral("chkBuscarPor(%1)").arg(chkBuscarPor.size()));
+        casilla->setChecked(chkBuscarPor.empty());
         connect(casilla, &QCheckBox::clicked, this, [this] { txtArtBuscar->setFocus(); });
         ui_->criterios->addWidget(casilla);
         setTabOrder(anterior, casilla);
         anterior = casilla;
-        chkBuscarPor_.push_back(casilla);
+        chkBuscarPor.push_back(casilla);
     }
     ui_->criterios->addStretch();
     setTabOrder(anterior, cmdBuscarArt);
@@ -33,7 +33,7 @@ PanelBusqueda::~PanelBusqueda() = default;
 
 std::vector<bool> PanelBusqueda::Marcados() const {
     std::vector<bool> marcados;
-    for (const QCheckBox *casilla : chkBuscarPor_)
+    for (const QCheckBox *casilla : chkBuscarPor)
         marcados.push_back(casilla->isChecked());
     return marcados;
 }

@@ -31,7 +31,7 @@ class PanelBusqueda : public QFrame {
 
   private:
     std::unique_ptr<Ui::PanelBusqueda> ui_;
-    std::vector<QCheckBox *> chkBuscarPor_;
+    std::vector<QCheckBox *> chkBuscarPor;
 };
 
 } // namespace tarvo

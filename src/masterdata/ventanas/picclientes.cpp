@@ -57,17 +57,17 @@ void PicClientes::PrepararBarra(Buscador &buscador, FiltroCampos &filtro) {
 }
 
 void PicClientes::PrepararAlta() {
-    picNuevoCliente_ = new PicNuevoCliente(servicios_, this);
+    picNuevoCliente = new PicNuevoCliente(servicios_, this);
     PonerTecla(ui_->cmdAgregarCliente, Qt::CTRL | Qt::Key_N);
-    connect(ui_->cmdAgregarCliente, &QPushButton::clicked, picNuevoCliente_, &PicNuevoCliente::Abrir);
-    connect(picNuevoCliente_, &PicNuevoCliente::Abierto, this, [this] {
+    connect(ui_->cmdAgregarCliente, &QPushButton::clicked, picNuevoCliente, &PicNuevoCliente::Abrir);
+    connect(picNuevoCliente, &PicNuevoCliente::Abierto, this, [this] {
         ColocarAlta();
         HabilitarPanel(false);
     });
-    connect(picNuevoCliente_, &PicNuevoCliente::Guardado, this, &PicClientes::CargarClientes);
-    connect(picNuevoCliente_, &PicNuevoCliente::Cerrado, this, [this] {
+    connect(picNuevoCliente, &PicNuevoCliente::Guardado, this, &PicClientes::CargarClientes);
+    connect(picNuevoCliente, &PicNuevoCliente::Cerrado, this, [this] {
         HabilitarPanel(true);
-        EnfocarFuera(*picNuevoCliente_, {ui_->txtBuscarClientes, ui_->LVClientes});
+        EnfocarFuera(*picNuevoCliente, {ui_->txtBuscarClientes, ui_->LVClientes});
     });
 }
 
@@ -106,18 +106,18 @@ bool PicClientes::Escapar() {
     if (isHidden())
         return false;
     if (EntradaNueva())
-        picNuevoCliente_->Cerrar();
+        picNuevoCliente->Cerrar();
     else
         Cerrar();
     return true;
 }
 
 bool PicClientes::EntradaNueva() const {
-    return picNuevoCliente_ != nullptr && !picNuevoCliente_->isHidden();
+    return picNuevoCliente != nullptr && !picNuevoCliente->isHidden();
 }
 
 bool PicClientes::EntradaEnCurso() const {
-    return picNuevoCliente_ != nullptr && picNuevoCliente_->EntradaEnCurso();
+    return picNuevoCliente != nullptr && picNuevoCliente->EntradaEnCurso();
 }
 
 void PicClientes::Aceptar() {
@@ -156,14 +156,14 @@ void PicClientes::resizeEvent(QResizeEvent *evento) {
 }
 
 void PicClientes::ColocarAlta() {
-    if (picNuevoCliente_ == nullptr)
+    if (picNuevoCliente == nullptr)
         return;
-    const QSize medida = picNuevoCliente_->sizeHint();
+    const QSize medida = picNuevoCliente->sizeHint();
     constexpr int kAire = 60;
     QRect lugar(0, 0, std::min(std::max(medida.width(), width() - kAire), width()),
                 std::min(medida.height(), height()));
     lugar.moveCenter(rect().center());
-    picNuevoCliente_->setGeometry(lugar);
+    picNuevoCliente->setGeometry(lugar);
 }
 
 } // namespace tarvo

@@ -67,7 +67,7 @@ class PicClientes : public QFrame {
     ReglasSelector reglas_;
     ListaTexto clientes_;
     BarraBusqueda *busqueda_;
-    PicNuevoCliente *picNuevoCliente_ = nullptr; // null: no quick entry
+    PicNuevoCliente *picNuevoCliente = nullptr; // null: no quick entry
 };
 
 } // namespace tarvo

@@ -47,25 +47,22 @@ bool PicNuevoCliente::EntradaEnCurso() const {
            std::ranges::any_of(campos_, [](const QLineEdit *campo) { return !campo->text().isEmpty(); });
 }
 
-bool PicNuevoCliente::FaltaRequerido() {
+bool PicNuevoCliente::FaltaRequerido(const QStringList &valores) {
     const std::vector<CampoDetalle> campos = CamposClientes(servicios_.frmBases);
-    for (std::size_t i = 0; i < campos.size(); ++i) {
-        if (campos[i].requerido.isEmpty() || !campos_[i]->text().isEmpty())
-            continue;
-        servicios_.preguntas.InformarRequerido(campos[i].requerido);
-        campos_[i]->setFocus();
-        return true;
+    const std::optional<int> vacio = RequeridoVacio(campos, valores);
+    if (vacio) {
+        const auto cual = static_cast<std::size_t>(*vacio);
+        servicios_.preguntas.InformarRequerido(campos[cual].requerido);
+        campos_[cual]->setFocus();
     }
-    return false;
+    return vacio.has_value();
 }
 
 void PicNuevoCliente::Guardar() {
-    if (FaltaRequerido())
-        return;
     QStringList valores;
     for (const QLineEdit *campo : campos_)
         valores += campo->text();
-    if (!GuardarClienteNuevo(servicios_, valores))
+    if (FaltaRequerido(valores) || !GuardarClienteNuevo(servicios_, valores))
         return;
     emit Guardado();
     Cerrar();

@@ -37,7 +37,7 @@ class PicNuevoCliente : public QFrame {
 
   private:
     void Guardar();
-    bool FaltaRequerido();
+    bool FaltaRequerido(const QStringList &valores);
 
     std::unique_ptr<Ui::PicNuevoCliente> ui_;
     Servicios servicios_;

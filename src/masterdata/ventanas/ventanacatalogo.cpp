@@ -29,7 +29,7 @@ VentanaCatalogo::VentanaCatalogo(const Servicios &servicios, const Aspecto &aspe
     : VentanaModulo(padre),
       servicios_(servicios),
       ui_(std::make_unique<Ui::VentanaCatalogo>()),
-      picBuscarClientes_(nullptr),
+      picBuscarClientes(nullptr),
       filtro_(nullptr),
       reporte_(aspecto.reporte) {
     ElegirImpresora(servicios_.impresoras, servicios_.ajustes, Proposito::Listado);
@@ -41,8 +41,8 @@ VentanaCatalogo::VentanaCatalogo(const Servicios &servicios, const Aspecto &aspe
     controles_ = new ControlesDetalle(this, ui_->lista, QString(), ui_->frControles);
     ui_->lista->PonerTextoVacio(
         QStringLiteral("Todavía no hay %1. Nuevo agrega el primero.").arg(aspecto.titulo.toLower()));
-    picBuscarClientes_ = new PanelBusqueda(aspecto.criterios, this);
-    Flotar(picBuscarClientes_);
+    picBuscarClientes = new PanelBusqueda(aspecto.criterios, this);
+    Flotar(picBuscarClientes);
     filtro_ = new FiltroCampos(this);
 }
 
@@ -135,7 +135,7 @@ void VentanaCatalogo::ConectarBotones() {
 }
 
 void VentanaCatalogo::ConectarBusqueda() {
-    PanelBusqueda *panel = picBuscarClientes_;
+    PanelBusqueda *panel = picBuscarClientes;
     connect(panel->cmdBuscarArt, &QPushButton::clicked, this, &VentanaCatalogo::Buscar);
     connect(panel->cmdCancelarArt, &QPushButton::clicked, this, [this] { logica_->CerrarPanel(); });
     filtro_->AlEntrar(panel->txtArtBuscar, [this] { Buscar(); });
@@ -177,8 +177,8 @@ void VentanaCatalogo::OcultarPanel(QWidget *panel) {
 }
 
 void VentanaCatalogo::Buscar() {
-    QLineEdit *texto = picBuscarClientes_->txtArtBuscar;
-    const bool hallado = logica_->Buscar(texto->text(), picBuscarClientes_->Marcados());
+    QLineEdit *texto = picBuscarClientes->txtArtBuscar;
+    const bool hallado = logica_->Buscar(texto->text(), picBuscarClientes->Marcados());
     texto->setFocus();
     if (hallado)
         texto->selectAll();

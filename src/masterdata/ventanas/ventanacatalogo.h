@@ -86,7 +86,7 @@ class VentanaCatalogo : public VentanaModulo {
     Servicios servicios_;
     std::unique_ptr<Ui::VentanaCatalogo> ui_;
     ControlesDetalle *controles_ = nullptr;
-    PanelBusqueda *picBuscarClientes_;
+    PanelBusqueda *picBuscarClientes;
     FiltroCampos *filtro_;
     std::unique_ptr<ListaDetalle> logica_;
     ReporteCatalogo (*reporte_)(const ListaTexto &);

@@ -82,7 +82,7 @@ void FrmVentas::Abrir() {
     ui_->txtDescuento->setText(venta_.TextoDescuento());
     ui_->cboxVendedores->addItems(CargarVendedores(servicios_.frmBases));
     CargarArticulos();
-    picClientes_->CargarClientes();
+    picClientes->CargarClientes();
     MostrarCliente();
     MostrarPago();
     MostrarEstado();
@@ -171,7 +171,7 @@ void FrmVentas::PrepararEscaner() {
                     [this](const QString &codigo, bool agregar) { BuscarBarras(codigo, agregar); });
     for (QWidget *marco : {ui_->frArticulos, ui_->frDetalle, ui_->frDatos})
         escaner_.Desviar(marco, [this](const QString &texto) { busqueda_->Empezar(texto); });
-    escaner_.Desviar(picClientes_, [this](const QString &texto) { picClientes_->Buscar(texto); });
+    escaner_.Desviar(picClientes, [this](const QString &texto) { picClientes->Buscar(texto); });
     escaner_.Vigilar(
         CampoNumerico(ui_->txtCantidad, [this] { ui_->txtCantidad->setText(QStringLiteral("1")); }));
     escaner_.Vigilar(CampoNumerico(
@@ -207,14 +207,14 @@ void FrmVentas::ConectarDetalle() {
 }
 
 void FrmVentas::ConectarCliente() {
-    picClientes_ = new PicClientes(servicios_, SelectorDeVentas(), buscador_, *filtro_, this);
-    filtro_->AlEscapar([this] { return picClientes_->Escapar(); });
+    picClientes = new PicClientes(servicios_, SelectorDeVentas(), buscador_, *filtro_, this);
+    filtro_->AlEscapar([this] { return picClientes->Escapar(); });
     connect(ui_->cmdCliente, &QPushButton::clicked, this, &FrmVentas::AbrirClientes);
-    connect(picClientes_, &PicClientes::Cerrado, this, &FrmVentas::CerrarClientes);
-    connect(picClientes_, &PicClientes::Elegido, this, [this](int fila) {
+    connect(picClientes, &PicClientes::Cerrado, this, &FrmVentas::CerrarClientes);
+    connect(picClientes, &PicClientes::Elegido, this, [this](int fila) {
         if (fila < 0)
             return;
-        venta_.ElegirCliente(picClientes_->Clientes(), fila);
+        venta_.ElegirCliente(picClientes->Clientes(), fila);
         MostrarCliente();
     });
     connect(ui_->chkFinal, &QCheckBox::toggled, this, [this](bool si) {
@@ -307,7 +307,7 @@ void FrmVentas::Credito() {
 void FrmVentas::AbrirClientes() {
     venta_.PonerEligiendo(true);
     MostrarEstado();
-    picClientes_->Abrir();
+    picClientes->Abrir();
 }
 
 void FrmVentas::CerrarClientes() {
@@ -320,7 +320,7 @@ void FrmVentas::CerrarClientes() {
 
 // The search field, or the articles while the search is switched off.
 void FrmVentas::EnfocarBusqueda() {
-    EnfocarFuera(*picClientes_, {ui_->txtBuscar, ui_->LVArticulos});
+    EnfocarFuera(*picClientes, {ui_->txtBuscar, ui_->LVArticulos});
 }
 
 void FrmVentas::FocoDescuento(bool entra) {
@@ -363,7 +363,7 @@ void FrmVentas::Emitir() {
 // --- leaving
 
 bool FrmVentas::EntradaEnCurso() const {
-    return venta_.EnCurso() || picClientes_->EntradaEnCurso();
+    return venta_.EnCurso() || picClientes->EntradaEnCurso();
 }
 
 bool FrmVentas::PermiteCerrarPrograma() {

@@ -90,7 +90,7 @@ class FrmVentas : public VentanaModulo {
     Buscador buscador_;
     FiltroCampos *filtro_;
     BarraBusqueda *busqueda_;
-    PicClientes *picClientes_;
+    PicClientes *picClientes;
     QString impresora_; // name of the ticket printer
 };
 

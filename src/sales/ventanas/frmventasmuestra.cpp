@@ -115,7 +115,7 @@ void FrmVentas::resizeEvent(QResizeEvent *evento) {
     pie_->setDirection(plegada ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
     Marcar(ui_->cmdNuevo, "compacto", plegada);
     frUltimo->Plegar(plegada);
-    picClientes_->Colocar(rect().adjusted(0, ui_->lblTitulo->height(), 0, 0));
+    picClientes->Colocar(rect().adjusted(0, ui_->lblTitulo->height(), 0, 0));
     AjustarColumnas();
 }
 
