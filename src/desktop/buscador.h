@@ -14,7 +14,6 @@ class Buscador {
     // Row found (from 0), or -1 at the end without a hit. `texto` must not be empty.
     int Buscar(const ListaTexto &lista, const std::vector<int> &columnas, const QString &texto);
     void Reiniciar() { indiceBusqueda_ = 1; }
-    int indiceBusqueda() const { return indiceBusqueda_; }
 
   private:
     int indiceBusqueda_ = 1;

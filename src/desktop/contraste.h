@@ -5,9 +5,8 @@
 
 namespace tarvo {
 
-// What a text needs at least, and what a border needs.
+// What a text needs at least.
 inline constexpr double kContrasteTexto = 4.5;
-inline constexpr double kContrasteBorde = 3.0;
 
 // Ratio of the two relative luminances, from 1 (the same) to 21 (black on white).
 double Contraste(const QColor &uno, const QColor &otro);

@@ -25,9 +25,8 @@ enum class ResultadoEmision {
 // starting over after Emitida is the caller's. The document is what the sale holds when the operator has
 // confirmed, since the clock goes on while the question is up; table and ticket get the same one.
 // `alEmitir` gets it as soon as it is stored.
-ResultadoEmision Emitir(
-    const Servicios &servicios, const Venta &venta, const QString &impresora,
-    const std::function<void(const Comprobante &)> &alEmitir = [](const Comprobante &) {});
+ResultadoEmision Emitir(const Servicios &servicios, const Venta &venta, const QString &impresora,
+                        const std::function<void(const Comprobante &)> &alEmitir);
 
 // The document as paper shows it. A custom tax in use that has no name is called "Impuesto".
 Comprobante HacerComprobante(const Venta &venta);

@@ -85,7 +85,8 @@ class Conmutador {
     void Timer1_Timer();
 
     // Who runs a module handler: "opciones", "respaldo", "estadisticas" or nobody. With a caller the handler
-    // only answers in `puedeCerrar` whether its module may be closed.
+    // only answers in `puedeCerrar` whether its module may be closed. The rule itself calls by the first two;
+    // the third is kept for a caller from outside, which names itself, asks and reads the answer.
     void PonerLlamador(const QString &llamador) { llamador_ = llamador; }
     bool puedeCerrar() const { return puedeCerrar_; }
     const std::optional<Modulo> &botonPendiente() const { return botonPendiente_; }

@@ -24,7 +24,6 @@ constexpr int kEscritura = 3027;    // the disk refused a write: full, read-only
 constexpr int kSinComprobar = 3146; // a COMMIT failed, and whether it happened can't be read yet
 constexpr int kIndice = 3015;       // Index with a name that the table doesn't have, or Seek without Index
 constexpr int kSinRegistro = 3021;  // a field was written while no row is current
-constexpr int kDialogoCancelado = 32755;
 } // namespace errores
 
 class ErrorDatos : public std::runtime_error {

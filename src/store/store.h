@@ -58,8 +58,6 @@ class FrmBases {
     const QString &CarpetaDatos() const { return carpeta_; }
     // `ruta` leads into that folder: no window may write a file of the operator's there.
     bool EsDeLosDatos(const QString &ruta) const;
-    // Another folder of five files, from the next opening on.
-    void PonerCarpetaDatos(const QString &carpeta) { carpeta_ = carpeta; }
     // `avisar` is called with what each opening comes to; nothing that was known of the files holds then.
     void AlAbrirse(std::function<void(const ResultadoApertura &)> avisar);
     // `avisar` is called with a file ("articulos.mdb") and a reason when a read finds it damaged; once for

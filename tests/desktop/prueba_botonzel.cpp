@@ -84,15 +84,15 @@ TEST_F(PruebaBotonZel, FollowsItsLinkAndSoundsUnderThePointer) {
     boton.setProperty("URL", u"mailto:a@velbrina.example"_qs);
     boton.click();
     EXPECT_EQ(Pedidos_(), QStringList{u"mailto:a@velbrina.example"_qs});
-    int entradas = 0;
-    QObject::connect(&boton, &BotonZel::MouseIn, &ventana, [&] { ++entradas; });
+    const QSignalSpy entradas(&boton, &BotonZel::MouseIn);
+    const QSignalSpy salidas(&boton, &BotonZel::MouseOut);
     QTest::mouseMove(&boton, {5, 5});
     QTest::mouseMove(&boton, {9, 9});
-    EXPECT_TRUE(boton.BajoRaton());
-    EXPECT_EQ(entradas, 1);
+    EXPECT_EQ(entradas.size(), 1);
+    EXPECT_TRUE(salidas.isEmpty());
     EXPECT_EQ(Pedidos_(), QStringList{u".\\resources\\over.wav"_qs});
     QTest::mouseMove(&ventana, {250, 90});
-    EXPECT_FALSE(boton.BajoRaton());
+    EXPECT_EQ(salidas.size(), 1);
 }
 
 TEST_F(PruebaBotonZel, KeepsOnlyWhatDiffersFromTheDefaults) {

@@ -53,6 +53,7 @@ QWidget *Combo(QWidget *padre) {
 
 // Rendered in the program's style: what is in the sheet counts, not what somebody believes.
 TEST(Contraste, TextsAndBordersOfControlsCanBeTold) {
+    constexpr double kContrasteBorde = 3.0;
     for (const auto &[nombre, crear, habilitado, borde, propiedad] :
          {CasoControl{"field", Con<QLineEdit>}, CasoControl{"disabled field", Con<QLineEdit>, false},
           CasoControl{"without data", Con<QLineEdit>, false, true, "sinDatos"},

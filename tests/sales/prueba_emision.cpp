@@ -23,7 +23,9 @@ class Emision : public ::testing::Test {
         venta->PonerNumComp(u"0001-00000077"_qs);
         venta->PonerVendedor(u"V2 - Beto"_qs);
     }
-    ResultadoEmision EmitirVenta() { return Emitir(mundo.servicios(), *venta, u"Tickets"_qs); }
+    ResultadoEmision EmitirVenta() {
+        return Emitir(mundo.servicios(), *venta, u"Tickets"_qs, [](const Comprobante &) {});
+    }
     void SeEmite(Respuesta ticket = No) {
         EsperaEmision(mundo.preguntas, ticket);
         EXPECT_EQ(EmitirVenta(), ResultadoEmision::Emitida);

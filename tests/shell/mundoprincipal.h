@@ -77,7 +77,6 @@ class MundoPrincipal : public ConVentana<FrmPrincipal> {
         todas.opciones = [this](bool disenador, QWidget *) {
             hechos += disenador ? u"diseñador"_qs : u"opciones"_qs;
         };
-        todas.disenador = true;
         todas.respaldo = [this](QWidget *) { hechos += u"respaldo"_qs; };
         todas.calculadora = [](QWidget *padre) {
             auto *calculadora = new QWidget(padre, Qt::Tool);

@@ -89,8 +89,6 @@ class BotonZel : public QPushButton {
     const QPixmap &MouseIcon() const { return mouseIcon_; }
     void PonerMouseIcon(const QPixmap &imagen);
 
-    // The pointer is over the button.
-    bool BajoRaton() const { return bajoRaton_; }
     // A colour as it is drawn now.
     QColor Color(uint color) const;
 
@@ -156,7 +154,7 @@ class BotonZel : public QPushButton {
     QString soundOver_;
     QString soundClick_;
     QString url_;
-    bool bajoRaton_ = false;
+    bool bajoRaton_ = false;   // the pointer is over the button
     bool teclaTomada_ = false; // until it goes up its repeats press nothing
 };
 

@@ -65,7 +65,6 @@ void ListaVista::Encabezar() {
     connect(header(), &QHeaderView::sectionClicked, this, [this](int columna) {
         lista_->ClicEncabezado(columna);
         scrollTo(currentIndex());
-        emit Ordenada();
     });
     connect(header(), &QHeaderView::sectionResized, this, &ListaVista::Arrastrado);
 }

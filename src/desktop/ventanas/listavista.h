@@ -32,8 +32,7 @@ class ListaVista : public QTreeView {
     void PonerAncho(int columna, int twips);
     // What stands in the list while it has no rows, and is read aloud: "Todavía no hay ...".
     void PonerTextoVacio(const QString &texto);
-    // True exactly when a scroll bar takes room: the rows exceed Int(height / row - 1.5), where `row` is the
-    // height of a row and the 1.5 are header and frame, both as high as font and style make them.
+    // True exactly when a scroll bar takes room: there are more rows than stand whole below the header.
     bool DesbordaFilas() const;
 
     // Rows are all of one height, so both are told from the row number, whatever the number of rows.
@@ -44,7 +43,6 @@ class ListaVista : public QTreeView {
   signals:
     void FilaPulsada(int fila); // a click or an arrow key chose a row
     void FilaDobleClic(int fila);
-    void Ordenada(); // a header click has sorted
 
   protected:
     void changeEvent(QEvent *evento) override;

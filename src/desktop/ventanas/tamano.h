@@ -24,8 +24,6 @@ class Tamano final : public QObject {
     // `hoja` is the style sheet at the small size.
     Tamano(QApplication &aplicacion, QString hoja);
 
-    bool Grande() const { return grande_; }
-
   signals:
     void Cambiado();
 

@@ -34,9 +34,8 @@ bool Composicion::Hay(Entrada entrada) const {
         return modulos.contains(*modulo);
     switch (entrada) {
     case Entrada::Opciones:
-        return opciones != nullptr;
     case Entrada::Factura:
-        return opciones != nullptr && disenador;
+        return opciones != nullptr;
     case Entrada::Respaldar:
         return respaldo != nullptr;
     case Entrada::Calculadora:
@@ -69,7 +68,6 @@ Composicion Componer(const Servicios &servicios) {
     composicion.opciones = [servicios](bool abrirDisenador, QWidget *padre) {
         FrmConfig(servicios, abrirDisenador, padre).exec();
     };
-    composicion.disenador = true;
     composicion.respaldo = [servicios](QWidget *padre) { FrmRespaldo(servicios, padre).exec(); };
     composicion.exportar = [servicios](const Exportable &lo) {
         mnuExportar(servicios.preguntas, servicios.frmBases, lo);

@@ -21,9 +21,9 @@ struct Composicion {
     using FabricaModulo = std::function<VentanaModulo *(Anfitrion &, QWidget *padre)>;
 
     std::map<Modulo, FabricaModulo> modulos;
-    std::function<void(bool abrirDisenador, QWidget *padre)> opciones; // runs the dialog to its end
-    bool disenador = false;                       // the options know how to open the invoice designer
-    std::function<void(QWidget *padre)> respaldo; // runs the dialog to its end
+    // Both run their dialog to its end.
+    std::function<void(bool abrirDisenador, QWidget *padre)> opciones;
+    std::function<void(QWidget *padre)> respaldo;
     std::function<QWidget *(QWidget *padre)> calculadora;
     std::function<void(VentanaModulo &estados)> devContado;
     std::function<void(VentanaModulo &estados)> devCliente;

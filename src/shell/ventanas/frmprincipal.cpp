@@ -26,10 +26,6 @@
 
 namespace tarvo {
 
-namespace {
-constexpr int kLetrasConRotulos = 100; // in a narrower window the buttons of the toolbar show no captions
-}
-
 FrmPrincipal::FrmPrincipal(const Servicios &servicios, const Composicion &composicion,
                            QString carpetaPrograma)
     : ui_(std::make_unique<Ui::FrmPrincipal>()),
@@ -300,9 +296,6 @@ void FrmPrincipal::resizeEvent(QResizeEvent *evento) {
 
 void FrmPrincipal::AjustarAncho() {
     const int ancho = ATwips(width());
-    ui_->tbrPrincipal->setToolButtonStyle(width() < kLetrasConRotulos * fontMetrics().horizontalAdvance(u'0')
-                                              ? Qt::ToolButtonIconOnly
-                                              : Qt::ToolButtonTextUnderIcon);
     acciones_->DeBarra(Entrada::Salir)->setVisible(CabeSalir(ancho));
     QAction *const ayuda = acciones_->DeBarra(Entrada::AyudaPdf);
     ayuda->setVisible(CabeAyuda(ancho));

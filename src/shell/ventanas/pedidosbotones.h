@@ -24,13 +24,12 @@ class PedidosBotones : public QObject {
     PedidosBotones(Escritorio &escritorio, QString carpetaPrograma);
     ~PedidosBotones() override;
 
-    // Where the sound of that path lies: a file or a compiled-in resource; empty when there is none.
-    QUrl Sonido(const QString &ruta) const;
-
   protected:
     bool eventFilter(QObject *objeto, QEvent *evento) override;
 
   private:
+    // Where the sound of that path lies: a file or a compiled-in resource; empty when there is none.
+    QUrl Sonido(const QString &ruta) const;
     void OlvidarAudio();
     void Tocar(const QString &ruta);
 
