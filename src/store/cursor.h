@@ -5,6 +5,9 @@
 // loaded into memory when they are first touched; own writes are applied to that copy, so that `Refresh` with
 // nothing changed reloads nothing. A write of a field is a pending edit of the current row: it reaches the
 // file with the next move or `Refresh`, in the transaction that is open or in one of its own.
+//
+// Whatever first reads a column or the rows throws ErrorDatos when the file can't be read: kBaseIlegible, or
+// kBaseDanada when it turns out damaged; from then on it takes no more writes.
 #pragma once
 
 #include "store/columna.h"

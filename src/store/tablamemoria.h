@@ -28,8 +28,8 @@ class TablaMemoria {
 
     bool ConIds() const { return conIds_; }
     bool ConColumna(int posicion) const { return columnas_[static_cast<std::size_t>(posicion)].cargada; }
-    // Loads the ids and these columns in one pass, as far as they aren't there. Throws
-    // ErrorDatos(kBaseIlegible).
+    // Loads the ids and these columns in one pass, as far as they aren't there. Throws ErrorDatos:
+    // kBaseIlegible, and kBaseDanada when the file turns out damaged.
     void Cargar(Conexion &conexion, const std::vector<int> &posiciones);
 
     // --- with ids loaded

@@ -28,12 +28,21 @@ inline const QColor kTexto(27, 35, 56);
 inline const QColor kTextoTenue(92, 103, 132);
 } // namespace colores
 
-// Style, palette, style sheet and font of the whole program. Widgets get their part by these dynamic
-// properties: QFrame "tarjeta" = true (white card, radius 4), QLabel "titulo" = true (title bar of a module
-// window), QLabel "tenue" = true (dim caption), QPushButton "principal" = true (the main button; with
-// "enFila" = true as small as its neighbours), "compacto" = true (little room around the text) and "enMarca"
-// = true (see MarcoFoco), QLineEdit "sinDatos" = true (grey, disabled for lack of data) and "conservado" =
-// true (tinted: it still holds what the last document left there).
+// Style, palette, style sheet and font of the whole program. Widgets get their part by dynamic properties
+// that are true:
+//   QFrame       tarjeta      white card, radius 4
+//                panel        over a window, framed
+//   QLabel       titulo       title bar of a module window or panel
+//                tenue        dim caption
+//                destacado    whom or what the window is about
+//                rotuloTotal  caption of a total
+//                grande       large amount
+//   QPushButton  principal    the main button; with enFila as small as its neighbours
+//                compacto     little room around the text
+//                enMarca      see MarcoFoco
+//   QToolButton  estrecho     of a toolbar that has no room to spare
+//   QLineEdit    sinDatos     grey, disabled for lack of data
+//                conservado   tinted: it still holds what the last document left there
 void AplicarEstilo(QApplication &aplicacion);
 
 // Sets such a property of a control that is already shown.

@@ -28,8 +28,8 @@ struct OpcionesInicio {
 class Programa : public QObject {
     Q_OBJECT
   public:
-    // `carpetaPrograma` holds the executable, `carpetaUsuario` takes the data where that one can't be
-    // written.
+    // `carpetaPrograma` holds the executable; `carpetaUsuario` takes the data where that one can't be
+    // written, and always those of an installed program.
     Programa(Preguntas &preguntas, QString carpetaPrograma, QString carpetaUsuario);
     ~Programa() override;
 
