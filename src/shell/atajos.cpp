@@ -22,12 +22,13 @@ bool EsFuncion(int tecla) {
     return tecla >= Qt::Key_F1 && tecla <= Qt::Key_F24;
 }
 
-bool EsLetraOCifra(int tecla) {
-    return (tecla >= Qt::Key_A && tecla <= Qt::Key_Z) || (tecla >= Qt::Key_0 && tecla <= Qt::Key_9);
+bool EsLetra(int tecla) {
+    return tecla >= Qt::Key_A && tecla <= Qt::Key_Z;
 }
 
-// The function keys, but F10, which opens the menu bar, and Ctrl (with or without Shift) and a letter or a
-// digit, but what edits text or works inside the windows. Ctrl with Alt writes a character on many keyboards.
+// The function keys, but F10, which opens the menu bar, and Ctrl (with or without Shift) and a letter, but
+// what edits text or works inside the windows, as the figures do. Ctrl with Alt writes a character on many
+// keyboards.
 bool EsLibre(QKeyCombination tecla) {
     static const QList<int> delTexto{Qt::Key_A, Qt::Key_C, Qt::Key_V, Qt::Key_X, Qt::Key_Y, Qt::Key_Z};
     static const QList<int> deVentanas{Qt::Key_B, Qt::Key_G, Qt::Key_I, Qt::Key_K, Qt::Key_N, Qt::Key_R};
@@ -37,7 +38,7 @@ bool EsLibre(QKeyCombination tecla) {
     if (EsFuncion(tecla.key()))
         return tecla != QKeyCombination(Qt::Key_F10) &&
                tecla != QKeyCombination(Qt::ShiftModifier, Qt::Key_F10);
-    if (!EsLetraOCifra(tecla.key()) || (con & ~Qt::ShiftModifier) != Qt::ControlModifier)
+    if (!EsLetra(tecla.key()) || (con & ~Qt::ShiftModifier) != Qt::ControlModifier)
         return false;
     return !delTexto.contains(tecla.key()) && !deVentanas.contains(tecla.key());
 }
@@ -100,7 +101,7 @@ QString Atajos::MotivoRechazo(Entrada entrada, const QKeySequence &tecla) const 
         return {};
     if (tecla.count() > 1 || !EsLibre(tecla[0]))
         return QStringLiteral("La tecla %1 está reservada para escribir y moverse por las ventanas. Use una "
-                              "tecla de función, o Ctrl con una letra o una cifra.")
+                              "tecla de función, o Ctrl con una letra.")
             .arg(tecla.toString(QKeySequence::NativeText));
     if (const Entrada *duena = Duena(tecla, entrada))
         return QStringLiteral("La tecla %1 ya es la de \"%2\".")
