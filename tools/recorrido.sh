@@ -80,7 +80,7 @@ Tecla Tab Tab Tab Tab Tab Tab Tab space
 Escribir "${CLIENTE#*|}"
 Tecla Return
 Retrato clientes
-Tecla Tab Tab Tab space
+Tecla Tab Tab Tab Tab space
 Retrato cliente
 
 # Discount, and back from there: seller, document number, credit.
