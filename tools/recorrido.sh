@@ -179,7 +179,7 @@ Tecla F5 F2
 EsperarPrincipal
 Tecla F12
 Retrato estadisticas
-Tecla Tab space Tab Return
+Tecla alt+v alt+b
 Retrato estadisticas-ventas
 Tecla F12 ctrl+k
 EsperarCuadro "los atajos"
