@@ -118,7 +118,7 @@ class Disenador : public QObject {
 
     Servicios servicios_;
     QString carpetaFacturas_;
-    bool hayImpresoras_ = false;
+    bool hayImpresoras_ = false; // as long as the built-in one is listed there is one
     Estado estado_;
     QImage fondo_;
     QUndoStack historia_;
