@@ -30,6 +30,11 @@ AjustesFactura LeerAjustes(FrmBases &bases) {
     }
 }
 
+void AvisarImpresion(Preguntas &preguntas, const std::exception &error) {
+    preguntas.Mostrar(QStringLiteral("No se pudo imprimir. %1").arg(QString::fromUtf8(error.what())),
+                      Icono::Critico);
+}
+
 void Imprimir(const Servicios &servicios, Preguntas &preguntas, ClasePapel clase, const QString &titulo,
               const std::function<void(Superficie &)> &imprimir) {
     try {
@@ -37,8 +42,7 @@ void Imprimir(const Servicios &servicios, Preguntas &preguntas, ClasePapel clase
         const auto papel = servicios.impresoras.NuevoDocumento(clase, titulo);
         imprimir(*papel);
     } catch (const std::exception &error) {
-        preguntas.Mostrar(QStringLiteral("No se pudo imprimir. %1").arg(QString::fromUtf8(error.what())),
-                          Icono::Critico);
+        AvisarImpresion(preguntas, error);
     }
 }
 
@@ -56,9 +60,15 @@ bool UltimoComprobante::HayDiseno() const {
 void UltimoComprobante::ReimprimirTicket(Preguntas &preguntas) {
     if (!documento_)
         return;
-    Imprimir(servicios_, preguntas, ClasePapel::Rollo, documento_->tipo, [this](Superficie &papel) {
-        ImprimirTicket(papel, LeerCabecera(servicios_.frmBases), *documento_);
-    });
+    Cabecera cabecera;
+    try {
+        cabecera = LeerCabecera(servicios_.frmBases);
+    } catch (const ErrorDatos &error) {
+        AvisarImpresion(preguntas, error);
+        return;
+    }
+    Imprimir(servicios_, preguntas, ClasePapel::Rollo, documento_->tipo,
+             [&](Superficie &papel) { ImprimirTicket(papel, cabecera, *documento_); });
 }
 
 void UltimoComprobante::ImprimirFactura(Preguntas &preguntas) {

@@ -93,7 +93,7 @@ TEST_F(Ultimo, StaysBeyondItsWindowAndPrintsTheTicketAgain) {
     Campo("txtBuscar")->setFocus();
     Vender("7790001000011");
     EXPECT_TRUE(Se("frUltimo"));
-    EXPECT_EQ(Texto("lblUltimoTotal"), u"$ 121,00 · 10:42 · 77 · Factura contado"); // folded
+    EXPECT_EQ(Texto("lblUltimoTotal"), u"$ 121,00 · 10:42 · contado · 77"); // folded
     ventana->resize(1000, 760);
     EXPECT_EQ(Texto("lblUltimo"), u"77 · Factura contado");
     EXPECT_EQ(Texto("lblUltimoTotal"), u"$ 121,00 · 10:42");

@@ -110,9 +110,17 @@ void FrmVentas::AjustarColumnas() {
 
 void FrmVentas::resizeEvent(QResizeEvent *evento) {
     VentanaModulo::resizeEvent(evento);
-    constexpr int kAltoHolgado = 640; // pixels; below it the card takes no line of its own
+    constexpr int kAltoHolgado = 640; // pixels; below it the card is one line, and all stands closer
+    constexpr int kAltoJusto = 440;   // below it that line is shared
     const bool plegada = height() < kAltoHolgado;
-    pie_->setDirection(plegada ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+    const bool compartida = height() < kAltoJusto;
+    pie_->setDirection(compartida ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+    for (QBoxLayout *columna :
+         std::initializer_list<QBoxLayout *>{ui_->columnaDatos, ui_->columnaFicha, pie_})
+        columna->setSpacing(plegada ? 2 : 4);
+    for (QLayout *tarjeta : std::initializer_list<QLayout *>{ui_->rejillaCliente, ui_->rejillaPago,
+                                                             ui_->rejillaTotales, ui_->columnaTotal})
+        tarjeta->setContentsMargins(9, plegada ? 1 : 3, 9, plegada ? 1 : 3);
     Marcar(ui_->cmdNuevo, "compacto", plegada);
     frUltimo->Plegar(plegada);
     picClientes->Colocar(rect().adjusted(0, ui_->lblTitulo->height(), 0, 0));

@@ -93,13 +93,16 @@ void TarjetaUltimo::Mostrar() {
     setVisible(documento.has_value());
     if (!documento)
         return;
+    const QString punto = QStringLiteral(" · ");
     QStringList nombre{documento->tipo};
     if (!documento->numero.isEmpty())
         nombre.prepend(documento->numero);
-    const QString titulo = nombre.join(QStringLiteral(" · "));
-    const QString total = QStringLiteral("%1 · %2").arg(documento->totalConDescuento, documento->hora);
-    lblUltimo->setText(titulo);
-    lblUltimoTotal->setText(plegada_ ? total + QStringLiteral(" · ") + titulo : total);
+    QStringList total{documento->totalConDescuento, documento->hora};
+    lblUltimo->setText(nombre.join(punto));
+    if (plegada_)
+        total << documento->tipo.section(QLatin1Char(' '), -1) << documento->numero;
+    total.removeAll(QString());
+    lblUltimoTotal->setText(total.join(punto));
     cmdFactura->setEnabled(ultimo_.HayDiseno());
 }
 
