@@ -11,7 +11,7 @@ inline void ElegirCliente(ProgramaEnPantalla &programa, const char *nombre) {
     programa.Teclas("Tab", 7);
     programa.Teclas("space");
     programa.Escribir(nombre);
-    programa.Teclas("Return Tab Tab Tab space");
+    programa.Teclas("Return Tab Tab Tab Tab space");
 }
 
 // From anywhere in the sale: the question that confirms the issue is on screen.

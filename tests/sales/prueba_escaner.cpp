@@ -226,29 +226,5 @@ TEST(RachaTeclas, APauseOrAnotherControlBeginsANewRun) {
     EXPECT_EQ(racha.En(&otro), u"d");
 }
 
-TEST(RachaTeclas, AShortRunIsACodeWhenNoHandIsAsQuick) {
-    const struct {
-        const char *teclas;
-        quint64 entre, enter; // ms
-        bool sostenida, codigo;
-    } casos[] = {
-        {"123", 30, 30, false, true},     {"123456", 0, 0, false, true}, {"12", 5, 5, false, false},
-        {"123", 31, 5, false, false},     {"123", 5, 31, false, false},  {"999", 30, 30, true, false},
-        {"1234567", 60, 60, false, true},
-    };
-    for (const auto &caso : casos) {
-        RachaTeclas racha;
-        quint64 ms = 1000;
-        for (const char *tecla = caso.teclas; *tecla != 0; ms += caso.entre, ++tecla)
-            racha.Agregar(&racha, QString(QLatin1Char(*tecla)), ms, caso.sostenida);
-        const QString lectura = racha.Lectura(&racha, ms - caso.entre + caso.enter);
-        EXPECT_EQ(lectura, caso.codigo ? QLatin1String(caso.teclas) : QString()) << caso.teclas << caso.entre;
-    }
-    RachaTeclas sinHora;
-    for (int i = 0; i < 3; ++i)
-        sinHora.Agregar(&sinHora, QStringLiteral("1"), 0);
-    EXPECT_EQ(sinHora.Lectura(&sinHora, 0), QString());
-}
-
 } // namespace
 } // namespace tarvo

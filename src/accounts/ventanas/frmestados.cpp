@@ -231,15 +231,15 @@ void FrmEstados::EnfocarCantidad() {
 
 // A code that a scanner typed is no amount: the field gives it up and stays.
 void FrmEstados::EntrarCantidad() {
-    constexpr int kCodigoMenor = 7;
-    const int leidas = filtro_->Leidas();
-    if (leidas < kCodigoMenor) {
+    constexpr int kCodigoMenor = 8; // figures alone; amounts of as many have a separator
+    const QString texto = ui_->txtCantidad->text();
+    const QString leido = texto.right(filtro_->Leidas());
+    if (leido.size() < kCodigoMenor || !std::ranges::all_of(leido, [](QChar c) { return c.isDigit(); })) {
         ui_->cmdAgregar->setFocus();
         return;
     }
     QApplication::beep();
-    ui_->txtCantidad->setText(
-        ui_->txtCantidad->text().chopped(std::min<qsizetype>(leidas, ui_->txtCantidad->text().size())));
+    ui_->txtCantidad->setText(texto.chopped(leido.size()));
 }
 
 void FrmEstados::AlternarCaja() {

@@ -166,7 +166,7 @@ bool FiltroCampos::eventFilter(QObject *objeto, QEvent *evento) {
         return false;
     case QEvent::KeyPress: {
         auto *const tecla = static_cast<QKeyEvent *>(evento);
-        Apuntar(*tecla);
+        Apuntar(recibe, *tecla);
         return recibe->window() == ventana_->window() && Tecla(recibe, tecla);
     }
     case QEvent::FocusIn:
@@ -189,9 +189,9 @@ bool FiltroCampos::eventFilter(QObject *objeto, QEvent *evento) {
     }
 }
 
-void FiltroCampos::Apuntar(const QKeyEvent &evento) {
+void FiltroCampos::Apuntar(const QObject *recibe, const QKeyEvent &evento) {
     anterior_ = ultima_;
-    ultima_ = {evento.key(), evento.timestamp(), evento.isAutoRepeat(), 0};
+    ultima_ = {recibe, evento.key(), evento.timestamp(), evento.isAutoRepeat(), 0};
     if (!CaracterDe(evento).isEmpty())
         ultima_.leidas = Leidas() + 1;
 }
@@ -199,7 +199,7 @@ void FiltroCampos::Apuntar(const QKeyEvent &evento) {
 int FiltroCampos::Leidas() const {
     constexpr quint64 kRitmo = 100; // ms
     const bool seguida = ultima_.momento != 0 && ultima_.momento - anterior_.momento < kRitmo;
-    return seguida ? anterior_.leidas : 0;
+    return seguida && ultima_.recibe == anterior_.recibe ? anterior_.leidas : 0;
 }
 
 // A choice is never wheeled; a number or a date is while it is being edited.

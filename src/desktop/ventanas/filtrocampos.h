@@ -40,8 +40,8 @@ class FiltroCampos : public QObject {
     // A character (not the blank) that is typed on a control of `marco` without text of its own, as on a
     // list.
     void AlEscribir(QWidget *marco, std::function<void(const QString &caracter)> accion);
-    // How many characters came before the Enter that is being handled at the pace of a scanner, which ends
-    // its codes so. Such an Enter presses no button.
+    // How many characters came into the control with the focus at the pace of a scanner before the Enter that
+    // is being handled, which ends its codes so. Such an Enter presses no button.
     int Leidas() const;
     // Escape anywhere in the window; the action returns false when it had nothing to do.
     void AlEscapar(std::function<bool()> accion);
@@ -51,12 +51,13 @@ class FiltroCampos : public QObject {
 
   private:
     struct Pulsacion {
+        const QObject *recibe = nullptr; // only to be compared
         int tecla = 0;
         quint64 momento = 0; // ms
         bool repetida = false;
         int leidas = 0; // characters at the pace of a scanner, of which it is the last
     };
-    void Apuntar(const QKeyEvent &evento);
+    void Apuntar(const QObject *recibe, const QKeyEvent &evento);
 
     void Vigilar(QWidget *control);
     QWidget *ControlDe(QWidget *recibe) const;

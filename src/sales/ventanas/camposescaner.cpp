@@ -10,16 +10,18 @@ namespace tarvo {
 RutaEscaner::CampoVenta CampoNumerico(QLineEdit *campo, std::function<void()> volver) {
     return {campo, [campo] { return campo->text(); },
             [volver = std::move(volver)](const QString &) { volver(); },
-            [](const QString &lectura, const QString &texto) {
-                return lectura.isEmpty() && RachaTeclas::EsCodigo(texto) ? texto : lectura;
+            [](const QString &racha, const QString &texto) {
+                if (RachaTeclas::EsCodigo(racha))
+                    return racha;
+                return RachaTeclas::EsCodigo(texto) ? texto : QString();
             }};
 }
 
 RutaEscaner::CampoVenta CampoLibre(QLineEdit *campo, EsBarras esBarras) {
     return {campo, [campo] { return campo->text(); },
             [campo](const QString &antes) { campo->setText(antes); },
-            [esBarras = std::move(esBarras)](const QString &lectura, const QString &) {
-                return esBarras(lectura) ? lectura : QString();
+            [esBarras = std::move(esBarras)](const QString &racha, const QString &) {
+                return RachaTeclas::EsCodigo(racha) && esBarras(racha) ? racha : QString();
             }};
 }
 
@@ -29,9 +31,9 @@ RutaEscaner::CampoVenta CampoCombo(QComboBox *combo, EsBarras esBarras) {
                 combo->hidePopup();
                 combo->setCurrentIndex(antes.toInt());
             },
-            [combo, esBarras = std::move(esBarras)](const QString &lectura, const QString &) {
-                const bool nadie = combo->findText(lectura, Qt::MatchStartsWith) < 0;
-                return nadie || esBarras(lectura) ? lectura : QString();
+            [combo, esBarras = std::move(esBarras)](const QString &racha, const QString &) {
+                const bool nadie = combo->findText(racha, Qt::MatchStartsWith) < 0;
+                return RachaTeclas::EsCodigo(racha) && (nadie || esBarras(racha)) ? racha : QString();
             }};
 }
 

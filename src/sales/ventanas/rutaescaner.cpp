@@ -232,7 +232,7 @@ bool RutaEscaner::Tecla(QWidget *recibe, const QKeyEvent &evento) {
     if (const QString caracter = CaracterDe(evento); !caracter.isEmpty()) {
         if (campo != nullptr) {
             const QString texto = campo->leer();
-            if (racha_.Agregar(campo->control, caracter, evento.timestamp(), evento.isAutoRepeat()))
+            if (racha_.Agregar(campo->control, caracter, evento.timestamp()))
                 antes_ = texto;
             return false;
         }
@@ -246,16 +246,16 @@ bool RutaEscaner::Tecla(QWidget *recibe, const QKeyEvent &evento) {
         return true;
     }
     if (EsEntrar(evento) && campo != nullptr)
-        return Entrar(*campo, evento.timestamp());
+        return Entrar(*campo);
     if (!EsModificador(evento.key()))
         racha_.Cortar();
     return false;
 }
 
-bool RutaEscaner::Entrar(CampoVenta &campo, quint64 ms) {
-    const QString lectura = racha_.Lectura(campo.control, ms);
+bool RutaEscaner::Entrar(CampoVenta &campo) {
+    const QString racha = racha_.En(campo.control);
     racha_.Cortar();
-    const QString codigo = campo.codigo(lectura, campo.leer());
+    const QString codigo = campo.codigo(racha, campo.leer());
     if (codigo.isEmpty())
         return false;
     campo.poner(antes_);

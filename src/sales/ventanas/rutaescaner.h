@@ -34,9 +34,8 @@ class RutaEscaner : public QObject, public Preguntas {
         QWidget *control;
         std::function<QString()> leer;
         std::function<void(const QString &)> poner; // back to what it held
-        // What was scanned by the look of it (or empty), and what is now in the field: the code that is to be
-        // searched, else empty.
-        std::function<QString(const QString &lectura, const QString &texto)> codigo;
+        // What was typed in one run, and what is now in the field: the code that it is, else empty.
+        std::function<QString(const QString &racha, const QString &texto)> codigo;
     };
 
     // Searches a code; with `agregar` adds the article that it finds.
@@ -78,7 +77,7 @@ class RutaEscaner : public QObject, public Preguntas {
     bool DetrasDelCuadro(QEvent &evento);
     bool Recoger(const QKeyEvent &evento);
     bool Tecla(QWidget *recibe, const QKeyEvent &evento);
-    bool Entrar(CampoVenta &campo, quint64 ms);
+    bool Entrar(CampoVenta &campo);
     CampoVenta *CampoDe(const QWidget *recibe);
     Empezar DesvioDe(const QWidget *recibe) const;
 
