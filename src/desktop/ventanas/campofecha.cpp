@@ -25,9 +25,7 @@ bool SeparaPartes(const QString &texto) {
 }
 
 bool PideCalendario(const QKeyEvent &evento) {
-    const auto teclas = evento.modifiers() & ~Qt::KeypadModifier;
-    return (evento.key() == Qt::Key_Down && teclas == Qt::AltModifier) ||
-           (evento.key() == Qt::Key_F4 && teclas == Qt::NoModifier);
+    return evento.key() == Qt::Key_Down && (evento.modifiers() & ~Qt::KeypadModifier) == Qt::AltModifier;
 }
 
 } // namespace
@@ -100,7 +98,9 @@ void CampoFecha::Cifra(int cifra) {
     const int valor = valor_ * 10 + cifra;
     const int cifras = cifras_ + 1;
     if (valor > mayor || (valor == 0 && cifras == 2 && !anio)) {
-        QApplication::beep();
+        Avisar(QStringLiteral("%1 va de 1 a %2.")
+                   .arg(dia ? QStringLiteral("El día") : QStringLiteral("El mes"))
+                   .arg(mayor));
         return;
     }
     valor_ = valor;
@@ -159,12 +159,18 @@ void CampoFecha::Terminar() {
         setSelectedSection(YearSection);
     }
     if (dia_ > date().day() && date() == puesta_) {
-        QApplication::beep();
-        QToolTip::showText(mapToGlobal(QPoint(0, height())),
-                           QStringLiteral("Ese mes tiene %1 días.").arg(date().daysInMonth()), this);
+        Avisar(QStringLiteral("Ese mes tiene %1 días.").arg(date().daysInMonth()));
     }
     dia_ = valor_ = cifras_ = 0;
     pasada_ = false;
+}
+
+// Once the focus is where it goes: its move would hide the tooltip.
+void CampoFecha::Avisar(const QString &texto) {
+    QApplication::beep();
+    QMetaObject::invokeMethod(
+        this, [this, texto] { QToolTip::showText(mapToGlobal(QPoint(0, height())), texto, this); },
+        Qt::QueuedConnection);
 }
 
 // As a click on the arrow does, which is all that opens it.

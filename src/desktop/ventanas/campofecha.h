@@ -4,7 +4,7 @@
 // Qt's own field cuts each part to what stands in the others at that moment: 31 typed over a date in November
 // is the 30th before December can be typed behind it. This one keeps the day until the month and the year are
 // there. Where the day doesn't exist then, the field shows the last one of the month and says so. A year of
-// two figures is one of this century. Alt+Down and F4 open the calendar.
+// two figures is one of this century. Alt+Down opens the calendar.
 #pragma once
 
 #include <QDateEdit>
@@ -32,6 +32,7 @@ class CampoFecha : public QDateEdit {
     void Poner(int mes, int anio);
     void MostrarAnio();
     void Terminar();
+    void Avisar(const QString &texto);
     void AbrirCalendario();
 
     QDate puesta_;        // what was typed so far; another date means that it didn't come from here

@@ -15,6 +15,7 @@
 #include <QWindow>
 
 #include <algorithm>
+#include <memory>
 #include <utility>
 
 namespace tarvo {
@@ -41,6 +42,11 @@ bool EligeEntrada(const QWidget &menu, const QString &caracter) {
     return EsMenu(&menu) && std::ranges::any_of(menu.actions(), [&](const QAction *entrada) {
                return QKeySequence::mnemonic(entrada->text()) == letra;
            });
+}
+
+// A menu or list that has just closed still gets what was struck before it did.
+bool EsEmergenteCerrado(const QWidget &recibe) {
+    return recibe.window()->windowType() == Qt::Popup && !recibe.window()->isVisible();
 }
 
 void CerrarMenus() {
@@ -143,8 +149,13 @@ bool RutaEscaner::eventFilter(QObject *objeto, QEvent *evento) {
     if (evento->type() != QEvent::KeyPress)
         return false;
     const auto &tecla = *static_cast<QKeyEvent *>(evento);
+    QWidget *const foco = QApplication::focusWidget();
+    if (foco != nullptr && foco->window() == venta_->window() && EsEmergenteCerrado(*recibe)) {
+        const std::unique_ptr<QKeyEvent> misma(tecla.clone());
+        QCoreApplication::sendEvent(foco, misma.get());
+        return true;
+    }
     // A key that its control leaves alone comes by again on the way to the window.
-    const QWidget *const foco = QApplication::focusWidget();
     if (foco != nullptr && recibe != foco && QApplication::activePopupWidget() == nullptr)
         return false;
     desdeTecla_.start();
