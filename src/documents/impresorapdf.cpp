@@ -52,7 +52,7 @@ struct Destino {
     QString RutaLibre() const {
         const QString base = carpeta + QLatin1Char('/') + NombreBase(titulo, momento);
         for (int numero = 1;; ++numero) {
-            const QString ruta = QStringLiteral("%1%2.pdf").arg(base).arg(numero, 3, 10, QLatin1Char('0'));
+            QString ruta = QStringLiteral("%1%2.pdf").arg(base).arg(numero, 3, 10, QLatin1Char('0'));
             if (!QFileInfo::exists(ruta))
                 return ruta;
         }
