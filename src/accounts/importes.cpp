@@ -1,7 +1,5 @@
 #include "accounts/importes.h"
 
-#include <algorithm>
-
 namespace tarvo {
 
 namespace {
@@ -41,9 +39,7 @@ std::optional<double> Importes::LeerTotal(std::string_view total) const {
     const std::string_view numero = Numero(total);
     if (numero.empty() || !Moneda::EsNumero(numero))
         return std::nullopt;
-    std::string conPunto(numero);
-    std::replace(conPunto.begin(), conPunto.end(), ',', '.');
-    return Moneda::NumeroNeutro(conPunto);
+    return Moneda::NumeroGuardado(numero);
 }
 
 } // namespace tarvo

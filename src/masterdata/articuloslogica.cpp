@@ -57,12 +57,6 @@ std::vector<ColumnaDetalle> ColumnasDe(FrmBases &bases) {
     };
 }
 
-// Either decimal mark becomes the one of the machine.
-QString ConSeparador(QString numero, const Moneda &moneda) {
-    const bool coma = moneda.sDecimal() == QLatin1String(",");
-    return numero.replace(QLatin1Char(coma ? '.' : ','), moneda.sDecimal());
-}
-
 ReglasDetalle ReglasDe(FrmBases &bases) {
     using namespace columnasArticulos;
     return {
@@ -303,7 +297,7 @@ bool ArticulosLogica::SalirImporte(int campo) {
     vista().Poner(campo, moneda.FormatoMoneda(texto, true));
     if (campo == kSubtotal)
         CalcularPVenta();
-    return !cero || moneda.Numero(ConSeparador(numero, moneda)) == 0;
+    return !cero || Moneda::NumeroGuardado(numero) == 0;
 }
 
 void ArticulosLogica::SalirCantidad(int campo) {
@@ -318,7 +312,7 @@ void ArticulosLogica::CalcularPVenta() {
         vista().Poner(kPVenta, {});
         return;
     }
-    const double neto = moneda.Numero(ConSeparador(subtotal, moneda));
+    const double neto = Moneda::NumeroGuardado(subtotal);
     const double porcentaje = Moneda::NumeroNeutro(vista().Texto(kTipoIVA).right(3));
     vista().Poner(kPVenta, moneda.FormatoMoneda(neto + porcentaje / 100 * neto, true));
 }

@@ -45,7 +45,7 @@ Tipos LeerTipos(FrmBases &bases) {
     Tipos tipos;
     for (int i = 0; i < bases.datIVA.RecordCount(); ++i)
         tipos.emplace(bases.camIVAId.Columna().Celda(i),
-                      bases.moneda().Numero(bases.camIVAPorcentaje.Columna().Celda(i)));
+                      Moneda::NumeroGuardado(bases.camIVAPorcentaje.Columna().Celda(i)));
     return tipos;
 }
 
@@ -117,7 +117,7 @@ ContenidoLista LeerArticulos(FrmBases &bases, int filtro) {
         const auto orden = static_cast<std::int64_t>(i);
         const std::int64_t fila = eleccion == nullptr ? orden : filas[i];
         tarifador.Agregar(pcompra.Celda(fila), subtotal.Celda(fila), tipo.Celda(fila));
-        tonos[i] = TonoDeStock(bases.moneda().Numero(stock.Celda(orden)));
+        tonos[i] = TonoDeStock(Moneda::NumeroGuardado(stock.Celda(orden)));
     }
     return {{Extraer(bases.camArtCodigo, eleccion), Extraer(bases.camArtNombre, eleccion), stock,
              tarifador.Monto(0), tarifador.Monto(1), tarifador.Monto(2), tarifador.Monto(3),

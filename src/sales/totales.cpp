@@ -22,8 +22,8 @@ Totales CalcularTotales(const ListaTexto &detalle, const ImpuestoPersonalizado &
     const double iva = SumarColumna(detalle, linea::Iva, moneda);
     double personalizado = 0;
     if (impuesto.Corresponde(hayIFiscal))
-        personalizado =
-            (impuesto.sobreIva ? subtotal + iva : subtotal) * (moneda.Numero(impuesto.porcentaje) / 100);
+        personalizado = (impuesto.sobreIva ? subtotal + iva : subtotal) *
+                        (Moneda::NumeroGuardado(impuesto.porcentaje) / 100);
     const double total = subtotal + iva + personalizado;
     const double conDescuento = total - descuento / 100.0 * total;
     return {moneda.FormatoMoneda(subtotal, true), moneda.FormatoMoneda(iva, true),

@@ -87,9 +87,19 @@ ColumnaTexto::Trozo &ColumnaTexto::Propio(std::size_t tramo) {
     return *trozo;
 }
 
+// In the midst of a long column, with room for what the chunk before has taken.
+void ColumnaTexto::AbrirTramo() {
+    auto trozo = std::make_shared<Trozo>();
+    if (!tramos_.empty()) {
+        trozo->texto.reserve(tramos_.back().trozo->texto.size());
+        trozo->fin.Reservar(kFilasPorTrozo);
+    }
+    tramos_.push_back({filas_, std::move(trozo)});
+}
+
 void ColumnaTexto::Agregar(std::string_view utf8) {
     if (tramos_.empty() || tramos_.back().trozo->fin.size() == kFilasPorTrozo)
-        tramos_.push_back({filas_, std::make_shared<Trozo>()});
+        AbrirTramo();
     Trozo &trozo = Propio(tramos_.size() - 1);
     trozo.texto.append(utf8);
     trozo.fin.Agregar(static_cast<std::uint32_t>(trozo.texto.size()));

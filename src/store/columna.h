@@ -55,6 +55,7 @@ class ColumnaTexto {
       public:
         std::size_t size() const { return largos_.empty() ? cortos_.size() : largos_.size(); }
         std::uint32_t operator[](std::size_t i) const { return largos_.empty() ? cortos_[i] : largos_[i]; }
+        void Reservar(std::size_t filas) { cortos_.reserve(filas); }
         void Agregar(std::uint32_t fin);
         // Adds `cambio`, which may be negative, to the offset of `desde` and all behind it.
         void Mover(std::size_t desde, std::int64_t cambio);
@@ -84,6 +85,7 @@ class ColumnaTexto {
     }
     std::size_t TramoBuscado(std::size_t desde, std::int64_t fila) const;
     Trozo &Propio(std::size_t tramo);
+    void AbrirTramo();
 
     std::vector<Tramo> tramos_;
     std::int64_t filas_ = 0;

@@ -3,6 +3,8 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <cstdint>
+#include <optional>
 
 namespace tarvo {
 
@@ -62,7 +64,20 @@ template <typename Separador> std::size_t Leer(std::string_view texto, Separador
     return hay && numero.enteros.size() <= kMaximoEnteros ? i : 0;
 }
 
+// Powers of ten that a double holds exactly, as it does any whole number of so many digits.
+constexpr std::array<double, 16> kPotencias{1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                            1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
+
+// The double nearest to the number. With few digits one division of two exact numbers is that.
 double Valor(const Decimal &numero) {
+    if (numero.enteros.size() + numero.decimales.size() < kPotencias.size()) {
+        std::int64_t cifras = 0;
+        for (const std::string_view parte : {numero.enteros, numero.decimales})
+            for (const char c : parte)
+                cifras = cifras * 10 + (c - '0');
+        const double valor = static_cast<double>(cifras) / kPotencias[numero.decimales.size()];
+        return numero.negativo ? -valor : valor;
+    }
     std::string texto(numero.negativo ? "-" : "");
     texto.append(numero.enteros.empty() ? "0" : numero.enteros)
         .append(".")
@@ -130,6 +145,51 @@ Digitos DigitosDe(double valor) {
     return digitos;
 }
 
+// The hundredths nearest to an amount, where neither the fifteen digits nor the product can move it across a
+// half; nothing for the others, whose digits have to be looked at.
+std::optional<std::int64_t> CentesimosClaros(double valor) {
+    constexpr double kMayor = 1e11;  // below it both are off by less than a thousandth of a hundredth
+    constexpr double kDudoso = 1e-3; // around the half
+    const double centesimos = std::fabs(valor) * 100;
+    if (!(centesimos < kMayor))
+        return std::nullopt;
+    const double enteros = std::floor(centesimos);
+    const double resto = centesimos - enteros;
+    if (std::fabs(resto - 0.5) < kDudoso)
+        return std::nullopt;
+    return static_cast<std::int64_t>(enteros) + (resto > 0.5 ? 1 : 0);
+}
+
+void AgregarCentesimos(std::string &salida, bool negativo, std::int64_t centesimos,
+                       std::string_view separador) {
+    std::array<char, 20> enteros{};
+    const auto fin = std::to_chars(enteros.data(), enteros.data() + enteros.size(), centesimos / 100);
+    if (negativo && centesimos != 0)
+        salida += '-';
+    salida.append(enteros.data(), fin.ptr).append(separador);
+    salida += static_cast<char>('0' + centesimos / 10 % 10);
+    salida += static_cast<char>('0' + centesimos % 10);
+}
+
+void AgregarDoble(std::string &salida, double valor, std::string_view separador) {
+    if (const auto centesimos = CentesimosClaros(valor)) {
+        AgregarCentesimos(salida, std::signbit(valor), *centesimos, separador);
+        return;
+    }
+    const Digitos digitos = DigitosDe(std::isfinite(valor) ? valor : 0.0);
+    const std::string_view cifras(digitos.cifras.data(), digitos.cifras.size());
+    std::string enteros;
+    std::string decimales;
+    if (digitos.exponente < 0) {
+        decimales.assign(static_cast<std::size_t>(std::min(-digitos.exponente - 1, 3)), '0').append(cifras);
+    } else {
+        enteros.assign(cifras.substr(0, static_cast<std::size_t>(digitos.exponente) + 1));
+        decimales.assign(cifras.substr(enteros.size()));
+        enteros.resize(static_cast<std::size_t>(digitos.exponente) + 1, '0');
+    }
+    AgregarDecimal(salida, {digitos.negativo, enteros, decimales}, separador);
+}
+
 } // namespace
 
 std::size_t BytesDeCaracteres(std::string_view utf8, qsizetype caracteres) {
@@ -163,20 +223,9 @@ void Moneda::AgregarFormato(std::string &salida, std::string_view texto, bool co
 }
 
 void Moneda::AgregarFormato(std::string &salida, double valor, bool conSimbolo) const {
-    const Digitos digitos = DigitosDe(std::isfinite(valor) ? valor : 0.0);
-    const std::string_view cifras(digitos.cifras.data(), digitos.cifras.size());
-    std::string enteros;
-    std::string decimales;
-    if (digitos.exponente < 0) {
-        decimales.assign(static_cast<std::size_t>(std::min(-digitos.exponente - 1, 3)), '0').append(cifras);
-    } else {
-        enteros.assign(cifras.substr(0, static_cast<std::size_t>(digitos.exponente) + 1));
-        decimales.assign(cifras.substr(enteros.size()));
-        enteros.resize(static_cast<std::size_t>(digitos.exponente) + 1, '0');
-    }
     if (conSimbolo)
         salida.append(simbolo8_).append(1, ' ');
-    AgregarDecimal(salida, {digitos.negativo, enteros, decimales}, decimal8_);
+    AgregarDoble(salida, valor, decimal8_);
 }
 
 QString Moneda::FormatoMoneda(const QString &texto, bool conSimbolo) const {
@@ -215,6 +264,14 @@ double Moneda::Numero(std::string_view texto) const {
 
 double Moneda::Numero(const QString &texto) const {
     return Numero(Vista(texto.toUtf8()));
+}
+
+double Moneda::NumeroGuardado(std::string_view texto) {
+    return NumeroInicial(texto, EsSeparador);
+}
+
+double Moneda::NumeroGuardado(const QString &texto) {
+    return NumeroGuardado(Vista(texto.toUtf8()));
 }
 
 double Moneda::NumeroNeutro(std::string_view texto) {

@@ -42,6 +42,9 @@ class Moneda {
     // A number in the machine's locale: the leading number of `texto`, 0 when there is none.
     double Numero(std::string_view texto) const;
     double Numero(const QString &texto) const;
+    // The same with either separator: the leading number of a text that is stored.
+    static double NumeroGuardado(std::string_view texto);
+    static double NumeroGuardado(const QString &texto);
     // Money text as a number: SinSimbolo, then Numero.
     double Importe(const QString &monto) const { return Numero(SinSimbolo(monto)); }
 

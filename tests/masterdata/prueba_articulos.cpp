@@ -122,6 +122,8 @@ class ArticulosAbiertos : public Articulos {
 };
 
 TEST_F(Articulos, ListsPricesFromTheTruePercentageAndColoursOnlyByTheSignOfTheStock) {
+    // With a point, under a comma: both can come into the tables.
+    mundo_.datos.Ejecutar("UPDATE articulos.Articulos SET idtipoiva='5', stock='0.5' WHERE id=4");
     const ListaTexto &lista = Abrir().Lista();
     EXPECT_EQ(Columna(col::kSubtotal), u"$ 100,00|$ 12,50|$ 33,33|$ 10,00");
     EXPECT_EQ(Columna(col::kPVenta), u"$ 121,00|$ 25,00|$ 0,00|$ 11,05");

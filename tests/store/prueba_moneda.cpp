@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <random>
 
 namespace tarvo {
 namespace {
@@ -59,6 +60,19 @@ TEST(Moneda, RoundsADoubleOnItsDecimalReading) {
     for (const auto &[valor, esperado] : casos)
         EXPECT_EQ(kComa.FormatoMoneda(valor, false).toStdString(), esperado) << valor;
     EXPECT_EQ(kComa.FormatoMoneda(1.5e20, false), u"150000000000000000000,00");
+    // As its fifteen digits written out, and read back, at any size and near any half.
+    std::mt19937 azar(20261123);
+    const auto hasta = [&azar](int tope) { return static_cast<int>(azar() % static_cast<unsigned>(tope)); };
+    for (int i = 0; i < 200'000; ++i) {
+        const double mitad = (hasta(1 << (1 + hasta(30))) + 0.5) / 100;
+        const double valor = (i % 2 == 0 ? mitad : -mitad) + (hasta(5) - 2) / std::pow(10, hasta(14));
+        const QString cifras = QString::number(valor, 'g', 15);
+        if (!Moneda::EsNumero(cifras)) // with an exponent
+            continue;
+        ASSERT_EQ(kPunto.FormatoMoneda(valor, false), kPunto.FormatoMoneda(cifras, false))
+            << cifras.toStdString();
+        ASSERT_EQ(kPunto.Numero(cifras), cifras.toDouble()) << cifras.toStdString();
+    }
     EXPECT_EQ(kEuro.FormatoMoneda(3.5, true), u"€ 3,50");
 }
 
@@ -76,7 +90,7 @@ TEST(Moneda, StripsTheSymbolByItsLength) {
     EXPECT_EQ(kPunto.SinSimbolo(QString::fromUtf8("\xF0\x9F\x98\x80x1")), u"1");
 }
 
-TEST(Moneda, ReadsNumbersInItsLocaleAndNeutrally) {
+TEST(Moneda, ReadsNumbersInItsLocaleNeutrallyAndAsStored) {
     const std::tuple<const char *, double, double, double> casos[] = {
         {"12,5", 12.5, 12, 12},  {"12.5", 12, 12.5, 12.5}, {"21%", 21, 21, 21},
         {"10,5%", 10.5, 10, 10}, {" -3", -3, -3, -3},      {"", 0, 0, 0},
@@ -88,6 +102,7 @@ TEST(Moneda, ReadsNumbersInItsLocaleAndNeutrally) {
         EXPECT_EQ(kComa.Numero(texto), coma) << utf8;
         EXPECT_EQ(kPunto.Numero(texto), punto) << utf8;
         EXPECT_EQ(Moneda::NumeroNeutro(texto), neutro) << utf8;
+        EXPECT_EQ(Moneda::NumeroGuardado(texto), std::max(coma, punto)) << utf8;
     }
     EXPECT_EQ(kComa.Importe(u"$ -12,50"_qs), -12.5);
     EXPECT_EQ(kComa.Importe(u"0"_qs), 0);
