@@ -15,18 +15,17 @@ struct ReglaDevolucion {
     const char *tipo;
     const char *descripcion;
     const char *titulo;
-    const char *marca;
     int columnaTotal;
     int columnaImporte; // on the slip
     int columnaId;      // compared with the ids of Ventas
 };
 constexpr std::array<ReglaDevolucion, 3> kReglas{{
     {ListaCuenta::Estado, kFacturaContado, "DevContado", "Devolución contado (%1 - %2)", "Devolución Contado",
-     "Factura contado (D)", movimiento::Haber, movimiento::Debe, movimiento::OrdFecha},
+     movimiento::Haber, movimiento::Debe, movimiento::OrdFecha},
     {ListaCuenta::Estado, kFacturaCredito, "NotaCredito", "Nota de crédito (%1 - %2)", "Nota de crédito",
-     "Factura crédito (D)", movimiento::Subtotal, movimiento::Subtotal, movimiento::Id},
+     movimiento::Subtotal, movimiento::Subtotal, movimiento::Id},
     {ListaCuenta::Contado, kFacturaContado, "DevContado", "Devolución contado (%1 - %2)",
-     "Devolución Contado", "Factura contado (D)", contado::NumComp, contado::NumComp, contado::Subtotal},
+     "Devolución Contado", contado::NumComp, contado::NumComp, contado::Subtotal},
 }};
 
 void EmpezarFila(FrmBases &bases, const QDateTime &momento) {
@@ -74,7 +73,7 @@ std::optional<DocumentoDevuelto> DevolucionDe(const ListaTexto &lista, ListaCuen
                              .titulo = QString::fromUtf8(regla->titulo),
                              .importe = lista.Celda(fila, regla->columnaImporte),
                              .idFactura = lista.Celda(fila, regla->columnaId),
-                             .marca = QString::fromUtf8(regla->marca)};
+                             .marca = QString::fromUtf8(detalle) + QStringLiteral(" (D)")};
 }
 
 bool NoSeDevuelve(const ListaTexto &lista, ListaCuenta cual, int fila) {

@@ -49,6 +49,35 @@ TEST_F(VentanaEstados, OpensEmptyWithTodayInThePickers) {
     EXPECT_EQ(ConFoco(), u"cmdCliente");
 }
 
+// Both Enters of a scanner, and what came before its code stays.
+TEST_F(VentanaEstados, AScannedCodeIsNoAmount) {
+    ElegirCliente("jua");
+    TabHasta("cmdRecibo");
+    Entrar();
+    quint64 momento = 1000;
+    const auto escanear = [&](const char *codigo) {
+        for (const char *letra = codigo; *letra != '\0'; ++letra, ++momento) {
+            const bool fin = *letra == '\r';
+            QKeyEvent tecla(QEvent::KeyPress, fin ? Qt::Key_Return : Qt::Key_0, Qt::NoModifier,
+                            QString(QLatin1Char(*letra)));
+            tecla.setTimestamp(momento);
+            QApplication::sendEvent(QApplication::focusWidget(), &tecla);
+        }
+        momento += 1000;
+    };
+    escanear("12,5");
+    Campo("txtCantidad")->setCursorPosition(1);
+    for (const char *codigo : {"7790001000011\r\r", "AB-7\r"}) {
+        escanear(codigo);
+        EXPECT_EQ(ConFoco() + Texto("txtCantidad"), u"txtCantidad12,5") << codigo;
+    }
+    Campo("txtCantidad")->selectAll();
+    escanear("1500.50\r"); // typed by a program, or by fast hands
+    EXPECT_EQ(ConFoco() + Texto("txtCantidad"), u"cmdAgregar$ 1500,50");
+    escanear("7790001000011\r\r"); // on the button, which it doesn't press
+    EXPECT_TRUE(Habilitado("txtCantidad"));
+}
+
 TEST_F(VentanaEstados, AReceiptAndAReturnByKeysAlone) {
     ElegirCliente("jua");
     EXPECT_EQ(Texto("lblCliente") + Texto("lblIdCliente"), u"Juan2");

@@ -10,6 +10,7 @@
 #include "ui_frmestados.h"
 
 #include <QApplication>
+#include <QToolTip>
 
 #include <algorithm>
 
@@ -18,6 +19,19 @@ namespace tarvo {
 namespace {
 
 constexpr int kDetalleMenor = 600; // twips, on the narrowest screens
+
+constexpr auto kDeImporte = "0123456789.,";
+
+// What came at the pace of a scanner has something that no amount has, or is as many figures as only a
+// barcode has: amounts of so many have a separator.
+bool EsCodigo(const QString &leido) {
+    constexpr int kCifras = 8;
+    constexpr int kSignos = 3;
+    const QString deImporte = QLatin1String(kDeImporte);
+    if (!std::ranges::all_of(leido, [&](QChar c) { return deImporte.contains(c); }))
+        return leido.size() >= kSignos;
+    return leido.size() >= kCifras && std::ranges::all_of(leido, [](QChar c) { return c.isDigit(); });
+}
 
 QString TextoMovimientos(int filas) {
     return filas == 1 ? QStringLiteral("1 movimiento") : QStringLiteral("%1 movimientos").arg(filas);
@@ -50,6 +64,7 @@ FrmEstados::FrmEstados(Servicios servicios, Anfitrion &anfitrion, QWidget *padre
       anfitrion_(anfitrion),
       logica_(servicios, *this) {
     ui_->setupUi(this);
+    SoloCaracteres(ui_->txtCantidad, QLatin1String(kDeImporte)); // before the filter, which hears keys first
     filtro_ = new FiltroCampos(this);
     PrepararControles();
     PrepararClientes();
@@ -82,7 +97,6 @@ void FrmEstados::PrepararClientes() {
 }
 
 void FrmEstados::FiltrarCampos() {
-    SoloCaracteres(ui_->txtCantidad, QStringLiteral("0123456789.,"));
     filtro_->AlFoco(ui_->txtCantidad, [this](bool entra) { logica_.FocoCantidad(entra); });
     filtro_->AlEntrar(ui_->txtCantidad, [this] { EntrarCantidad(); });
 }
@@ -229,17 +243,19 @@ void FrmEstados::EnfocarCantidad() {
     ui_->txtCantidad->setFocus();
 }
 
-// A code that a scanner typed is no amount: the field gives it up and stays.
+// A code that a scanner typed is no amount: the field gets back what it held, and stays.
 void FrmEstados::EntrarCantidad() {
-    constexpr int kCodigoMenor = 8; // figures alone; amounts of as many have a separator
-    const QString texto = ui_->txtCantidad->text();
-    const QString leido = texto.right(filtro_->Leidas());
-    if (leido.size() < kCodigoMenor || !std::ranges::all_of(leido, [](QChar c) { return c.isDigit(); })) {
+    const QString leido = filtro_->Leido();
+    if (!EsCodigo(leido)) {
         ui_->cmdAgregar->setFocus();
         return;
     }
     QApplication::beep();
-    ui_->txtCantidad->setText(texto.chopped(leido.size()));
+    ui_->txtCantidad->setText(filtro_->AntesDeLeer());
+    ui_->txtCantidad->selectAll();
+    QToolTip::showText(ui_->txtCantidad->mapToGlobal(QPoint(0, ui_->txtCantidad->height())),
+                       QStringLiteral("«%1» no es un importe: es un código leído.").arg(leido),
+                       ui_->txtCantidad);
 }
 
 void FrmEstados::AlternarCaja() {

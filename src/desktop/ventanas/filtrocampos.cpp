@@ -189,17 +189,23 @@ bool FiltroCampos::eventFilter(QObject *objeto, QEvent *evento) {
     }
 }
 
-void FiltroCampos::Apuntar(const QObject *recibe, const QKeyEvent &evento) {
-    anterior_ = ultima_;
-    ultima_ = {recibe, evento.key(), evento.timestamp(), evento.isAutoRepeat(), 0};
-    if (!CaracterDe(evento).isEmpty())
-        ultima_.leidas = Leidas() + 1;
+void FiltroCampos::Apuntar(const QWidget *recibe, const QKeyEvent &evento) {
+    if (recibe != ultima_.recibe && recibe->isAncestorOf(ultima_.recibe))
+        return; // left alone by its control, the stroke comes by once more
+    anterior_ = std::exchange(ultima_, {recibe, evento.key(), evento.timestamp(), evento.isAutoRepeat(), {}});
+    const QString caracter = CaracterDe(evento);
+    if (caracter.isEmpty() && !EsEntrar(evento))
+        return;
+    ultima_.leido = Leido() + caracter;
+    if (const auto *campo = qobject_cast<const QLineEdit *>(recibe);
+        campo != nullptr && ultima_.leido.size() == caracter.size())
+        antesDeLeer_ = campo->text();
 }
 
-int FiltroCampos::Leidas() const {
+QString FiltroCampos::Leido() const {
     constexpr quint64 kRitmo = 100; // ms
     const bool seguida = ultima_.momento != 0 && ultima_.momento - anterior_.momento < kRitmo;
-    return seguida && ultima_.recibe == anterior_.recibe ? anterior_.leidas : 0;
+    return seguida && ultima_.recibe == anterior_.recibe ? anterior_.leido : QString();
 }
 
 // A choice is never wheeled; a number or a date is while it is being edited.
@@ -267,7 +273,7 @@ bool FiltroCampos::Entrar(QWidget *control, const QKeyEvent &evento) {
         alEntrar_.value(control)();
         return true;
     }
-    if (qobject_cast<QAbstractButton *>(control) != nullptr && Leidas() > 0)
+    if (qobject_cast<QAbstractButton *>(control) != nullptr && !Leido().isEmpty())
         return true; // the end of a scan
     if (qobject_cast<BotonZel *>(control) != nullptr) {
         const bool otra = evento.isAutoRepeat() && !Sostenida(evento);

@@ -40,9 +40,12 @@ class FiltroCampos : public QObject {
     // A character (not the blank) that is typed on a control of `marco` without text of its own, as on a
     // list.
     void AlEscribir(QWidget *marco, std::function<void(const QString &caracter)> accion);
-    // How many characters came into the control with the focus at the pace of a scanner before the Enter that
-    // is being handled, which ends its codes so. Such an Enter presses no button.
-    int Leidas() const;
+    // The characters that came into the control with the focus at the pace of a scanner before the Enter that
+    // is being handled, which ends its codes so, once or twice; also those that the control doesn't take.
+    // Such an Enter presses no button.
+    QString Leido() const;
+    // What the field held when they began to come.
+    const QString &AntesDeLeer() const { return antesDeLeer_; }
     // Escape anywhere in the window; the action returns false when it had nothing to do.
     void AlEscapar(std::function<bool()> accion);
 
@@ -51,13 +54,13 @@ class FiltroCampos : public QObject {
 
   private:
     struct Pulsacion {
-        const QObject *recibe = nullptr; // only to be compared
+        QPointer<const QWidget> recibe;
         int tecla = 0;
         quint64 momento = 0; // ms
         bool repetida = false;
-        int leidas = 0; // characters at the pace of a scanner, of which it is the last
+        QString leido; // characters at the pace of a scanner, of which it is the last
     };
-    void Apuntar(const QObject *recibe, const QKeyEvent &evento);
+    void Apuntar(const QWidget *recibe, const QKeyEvent &evento);
 
     void Vigilar(QWidget *control);
     QWidget *ControlDe(QWidget *recibe) const;
@@ -81,6 +84,7 @@ class FiltroCampos : public QObject {
     QPointer<QWidget> porRaton_; // field that a mouse button, still down, gave the focus
     Pulsacion ultima_;
     Pulsacion anterior_;
+    QString antesDeLeer_;
     bool escapeVisto_ = false; // this stroke found nothing to do and is on its way up to the window
 };
 
