@@ -54,10 +54,10 @@ ColumnaTexto ColumnaPrecio(const ColumnaTexto &subtotales, const Moneda &moneda)
     return salida;
 }
 
-std::vector<Tono> TonosStock(const ColumnaTexto &stock, const Moneda &moneda) {
+std::vector<Tono> TonosStock(const ColumnaTexto &stock) {
     std::vector<Tono> tonos(static_cast<std::size_t>(stock.Filas()));
     for (std::size_t i = 0; i < tonos.size(); ++i)
-        tonos[i] = TonoStock(moneda.Numero(stock.Celda(static_cast<std::int64_t>(i))));
+        tonos[i] = TonoStock(Moneda::NumeroGuardado(stock.Celda(static_cast<std::int64_t>(i))));
     return tonos;
 }
 
@@ -75,7 +75,7 @@ void LlenarArticulos(FrmBases &bases, ListaTexto &articulos) {
                                      ColumnaIva(tipos, LeerTextosIva(bases)),
                                      bases.camArtId.Columna(),
                                      tipos};
-    articulos.Asignar({std::move(celdas), {{articulo::Stock, TonosStock(stock, bases.moneda())}}});
+    articulos.Asignar({std::move(celdas), {{articulo::Stock, TonosStock(stock)}}});
 }
 
 QString EntradaVendedor(const FrmBases &bases) {
@@ -104,6 +104,16 @@ std::vector<ColumnaLista> ColumnasDetalle() {
             {QStringLiteral("Subtotal"), 1045, true},
             {QStringLiteral("idArticulo"), 0, false, true},
             {QStringLiteral("IVA"), 0, true, true}};
+}
+
+std::vector<ModoBusqueda> ModosArticulos() {
+    return {{QStringLiteral("barras"), QStringLiteral("Código de barras"), QStringLiteral("Código de barras"),
+             articulo::CodBarras},
+            {QStringLiteral("codigo"), QStringLiteral("Buscar por código"),
+             QStringLiteral("Buscar por código"), articulo::Codigo},
+            // The mode searches the barcodes too and not the names: operators rely on it.
+            {QStringLiteral("articulo"), QStringLiteral("Buscar por artículo"),
+             QStringLiteral("Buscar por artículo"), articulo::CodBarras}};
 }
 
 void CargarArticulos(FrmBases &frmBases, ListaTexto &articulos) {

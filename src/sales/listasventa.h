@@ -6,6 +6,7 @@
 #pragma once
 
 #include "desktop/listatexto.h"
+#include "desktop/modobusqueda.h"
 
 #include <QStringList>
 
@@ -25,6 +26,9 @@ enum Columna { Codigo, Nombre, Precio, Cantidad, Subtotal, IdArticulo, Iva };
 
 std::vector<ColumnaLista> ColumnasArticulos();
 std::vector<ColumnaLista> ColumnasDetalle();
+
+// What the search looks into; the first mode is that of the scanner.
+std::vector<ModoBusqueda> ModosArticulos();
 
 void CargarArticulos(FrmBases &frmBases, ListaTexto &articulos);
 

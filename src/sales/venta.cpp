@@ -6,6 +6,7 @@
 #include "store/store.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace tarvo {
 
@@ -179,17 +180,25 @@ Totales Venta::CalcularTotales() const {
                                   frmBases_.moneda());
 }
 
-std::optional<double> Venta::Vuelto(const QString &entregado) const {
+VueltoVenta Venta::Vuelto(const QString &entregado) const {
+    VueltoVenta vuelto{QStringLiteral("Vuelto"), {}};
     if (entregado.trimmed().isEmpty() || !Moneda::EsNumero(entregado))
-        return std::nullopt;
+        return vuelto;
     const Moneda &moneda = frmBases_.moneda();
-    return moneda.Importe(moneda.FormatoMoneda(entregado, true)) -
-           moneda.Importe(CalcularTotales().conDescuento);
+    const double resto = moneda.Importe(moneda.FormatoMoneda(entregado, true)) -
+                         moneda.Importe(CalcularTotales().conDescuento);
+    if (resto < 0)
+        vuelto.rotulo = QStringLiteral("Falta");
+    vuelto.importe = moneda.FormatoMoneda(std::abs(resto), true);
+    return vuelto;
+}
+
+bool Venta::ConBarras(const QString &codigo) const {
+    return articulos_.Buscar(articulo::CodBarras, codigo.toStdString()) >= 0;
 }
 
 int Venta::FilaArticulo(const QString &id) const {
-    const QByteArray utf8 = id.toUtf8();
-    const std::string_view buscado(utf8.constData(), static_cast<std::size_t>(utf8.size()));
+    const std::string buscado = id.toStdString();
     const int conocida = filasConocidas_.value(id, -1);
     if (conocida >= 0 && conocida < articulos_.Filas() &&
         articulos_.CeldaUtf8(conocida, articulo::Id) == buscado)

@@ -29,6 +29,12 @@ struct ResumenArticulo {
     QString stock;  // what is left
 };
 
+// What the customer gets back of what he hands over.
+struct VueltoVenta {
+    QString rotulo;  // "Vuelto", or "Falta" while it is too little
+    QString importe; // money text, never negative; empty when what he hands over is no number
+};
+
 struct ClienteVenta {
     QString nombre;
     QString ruc; // fiscal id
@@ -103,10 +109,11 @@ class Venta {
 
     ImpuestoPersonalizado Impuesto() const { return LeerImpuesto(frmBases_); }
     Totales CalcularTotales() const;
-    // What the customer gets back of what he hands over (a number with either separator) on the amount of the
-    // document; negative while it is too little. Nothing for a text that is no number, or empty.
-    std::optional<double> Vuelto(const QString &entregado) const;
+    // On the amount of the document; `entregado` may have either separator.
+    VueltoVenta Vuelto(const QString &entregado) const;
 
+    // Whether some article has this barcode.
+    bool ConBarras(const QString &codigo) const;
     // Row of LVArticulos of that article, -1 when the list does not have it.
     int FilaArticulo(const QString &id) const;
 

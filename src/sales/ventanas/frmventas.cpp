@@ -10,6 +10,7 @@
 #include "desktop/ventanas/solocaracteres.h"
 #include "documents/impresoras.h"
 #include "masterdata/ventanas/picclientes.h"
+#include "sales/acciones.h"
 #include "sales/ultimocomprobante.h"
 #include "sales/ventanas/camposescaner.h"
 #include "sales/ventanas/tarjetaultimo.h"
@@ -28,16 +29,6 @@ namespace tarvo {
 namespace {
 
 constexpr int kCantidadMayor = 9999; // the upper arrow stops here; more can be typed, and counted on from
-
-std::vector<ModoBusqueda> ModosArticulos() {
-    return {{QStringLiteral("barras"), QStringLiteral("Código de barras"), QStringLiteral("Código de barras"),
-             articulo::CodBarras},
-            {QStringLiteral("codigo"), QStringLiteral("Buscar por código"),
-             QStringLiteral("Buscar por código"), articulo::Codigo},
-            // The mode searches the barcodes too and not the names: operators rely on it.
-            {QStringLiteral("articulo"), QStringLiteral("Buscar por artículo"),
-             QStringLiteral("Buscar por artículo"), articulo::CodBarras}};
-}
 
 } // namespace
 
@@ -162,11 +153,7 @@ void FrmVentas::Atajo(QWidget *control, const QString &ayuda, const QList<QKeySe
 }
 
 void FrmVentas::PrepararEscaner() {
-    const EsBarras esBarras = [this](const QString &texto) {
-        const QByteArray utf8 = texto.toUtf8();
-        return venta_.Articulos().Buscar(articulo::CodBarras,
-                                         {utf8.constData(), static_cast<std::size_t>(utf8.size())}) >= 0;
-    };
+    const EsBarras esBarras = [this](const QString &codigo) { return venta_.ConBarras(codigo); };
     escaner_.Montar(ui_->frArticulos,
                     [this](const QString &codigo, bool agregar) { BuscarBarras(codigo, agregar); });
     for (QWidget *marco : {ui_->frArticulos, ui_->frDetalle, ui_->frDatos})
@@ -247,23 +234,19 @@ void FrmVentas::CompletarCantidad() {
 }
 
 void FrmVentas::Agregar() {
-    CompletarCantidad();
-    const QString cantidad = ui_->txtCantidad->text();
-    const int articulo = ui_->LVArticulos->FilaActual();
-    if (RachaTeclas::EsCodigo(cantidad)) {
-        ui_->txtCantidad->setText(QStringLiteral("1"));
-        BuscarBarras(cantidad, false);
-    } else if (articulo >= 0) {
-        AgregarArticulo(articulo, cantidad.toLongLong());
-    }
-}
-
-void FrmVentas::AgregarArticulo(int articulo, qint64 cantidad) {
-    if (const QString impedimento = venta_.Impedimento(articulo); !impedimento.isEmpty()) {
-        servicios_.preguntas.Informar(impedimento);
+    const QString texto = ui_->txtCantidad->text();
+    if (const std::optional<qint64> cantidad = CantidadPedida(texto)) {
+        const int fila = ui_->LVArticulos->FilaActual();
+        const int renglon = AgregarArticulo(servicios_.preguntas, venta_, fila, *cantidad);
+        if (renglon >= 0)
+            MostrarAgregada(renglon);
         return;
     }
-    const int renglon = venta_.Agregar(articulo, cantidad);
+    ui_->txtCantidad->setText(QStringLiteral("1"));
+    BuscarBarras(texto, false);
+}
+
+void FrmVentas::MostrarAgregada(int renglon) {
     ui_->LVDetalle->SeleccionarFila(renglon);
     anfitrion_.Sugerencia(venta_.TextoLinea(renglon));
     ui_->txtCantidad->setText(QStringLiteral("1"));
@@ -276,10 +259,8 @@ void FrmVentas::AgregarArticulo(int articulo, qint64 cantidad) {
 
 void FrmVentas::Quitar() {
     const int fila = ui_->LVDetalle->FilaActual();
-    if (fila < 0 || !servicios_.preguntas.Confirma(
-                        QStringLiteral("Está seguro de querer quitar artículo de la lista?"), Respuesta::No))
+    if (!QuitarLinea(servicios_.preguntas, venta_, fila))
         return;
-    venta_.Quitar(fila);
     if (venta_.EnCurso())
         ui_->LVDetalle->SeleccionarFila(std::min(fila, venta_.Detalle().Filas() - 1));
     CalcularTotales();
@@ -289,8 +270,7 @@ void FrmVentas::Quitar() {
 }
 
 void FrmVentas::Nueva() {
-    if (!servicios_.preguntas.Confirma(QStringLiteral("Está seguro de querer comenzar una nueva venta?"),
-                                       Respuesta::No))
+    if (!EmpezarNueva(servicios_.preguntas, venta_))
         return;
     MostrarVentaNueva();
     ui_->LVArticulos->setFocus();
@@ -349,6 +329,7 @@ void FrmVentas::Emitir() {
         ui_->cboxVendedores->setFocus();
         break;
     case ResultadoEmision::Emitida:
+        venta_.Reiniciar();
         MostrarVentaNueva();
         MarcarConservados();
         ui_->cboxVendedores->setCurrentIndex(0);

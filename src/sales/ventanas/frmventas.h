@@ -68,7 +68,7 @@ class FrmVentas : public VentanaModulo {
     void CompletarCantidad();
     void BuscarBarras(const QString &codigo, bool agregar);
     void Agregar();
-    void AgregarArticulo(int articulo, qint64 cantidad);
+    void MostrarAgregada(int renglon);
     void Quitar();
     void Nueva();
     void Credito();

@@ -12,8 +12,6 @@
 #include <QBoxLayout>
 #include <QSignalBlocker>
 
-#include <cmath>
-
 namespace tarvo {
 
 void FrmVentas::MostrarHora() {
@@ -65,10 +63,9 @@ void FrmVentas::MostrarSeleccionado() {
 }
 
 void FrmVentas::MostrarVuelto() {
-    const std::optional<double> vuelto = venta_.Vuelto(ui_->txtEntregado->text());
-    ui_->lblVuelto1->setText(vuelto.value_or(0) < 0 ? QStringLiteral("Falta") : QStringLiteral("Vuelto"));
-    ui_->lblVuelto->setText(vuelto ? servicios_.frmBases.moneda().FormatoMoneda(std::abs(*vuelto), true)
-                                   : QString());
+    const VueltoVenta vuelto = venta_.Vuelto(ui_->txtEntregado->text());
+    ui_->lblVuelto1->setText(vuelto.rotulo);
+    ui_->lblVuelto->setText(vuelto.importe);
 }
 
 // What the last issue left for the next document stands out until it is touched.
@@ -86,7 +83,6 @@ void FrmVentas::CargarArticulos() {
 
 // Number and discount stay: the next document goes on from them.
 void FrmVentas::MostrarVentaNueva() {
-    venta_.Reiniciar();
     if (venta_.Articulos().Filas() > 0)
         ui_->LVArticulos->SeleccionarFila(0);
     ui_->txtCantidad->setText(QStringLiteral("1"));
