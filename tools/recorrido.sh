@@ -59,6 +59,11 @@ Esperar 30 "la ventana principal" VentanaPrincipal
 EsperarPrincipal
 Retrato principal
 
+# The windows from here on as large as the screen.
+PantallaLlena() { xdotool getwindowgeometry "$PRINCIPAL" | grep -q 'Geometry: 1280x900'; }
+Tecla F11
+Esperar 10 "la pantalla completa" PantallaLlena
+
 DisenarFactura
 
 # The sale: two scans of one unit; of the third article four units.
