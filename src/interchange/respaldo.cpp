@@ -10,6 +10,9 @@
 
 #include <QDir>
 
+#include <optional>
+#include <vector>
+
 namespace tarvo {
 
 namespace {
@@ -17,34 +20,36 @@ namespace {
 void Vaciar(const QDir &datos, const QString &archivo, Avance &avance) {
     Reemplazo reemplazo(datos.path());
     Archivo plantilla(datos.filePath(QStringLiteral("vacio/") + archivo), Archivo::Modo::Leer);
-    CopiarSeguro(plantilla, reemplazo.Ruta(archivo), avance);
+    CopiarSeguro(plantilla, reemplazo.Ruta(archivo), avance).Exigir(avance);
     reemplazo.Confirmar();
 }
 
+// Before a database is emptied its copy has passed, and all those before it.
 void RespaldarBase(const QDir &datos, const QString &archivo, const PedidoRespaldo &pedido, bool vaciar,
-                   Avance &avance) {
+                   std::vector<Examen> &examenes, Avance &avance) {
     const BaseRetenida retenida(datos.filePath(archivo));
     Archivo viva(datos.filePath(archivo), Archivo::Modo::Leer); // closed last: that lets go of the lock
-    CopiarSeguro(viva, QDir(pedido.destino).filePath(archivo), avance);
+    examenes.push_back(CopiarSeguro(viva, QDir(pedido.destino).filePath(archivo), avance));
     SincronizarCarpeta(pedido.destino);
-    if (vaciar)
-        Vaciar(datos, archivo, avance);
+    if (!vaciar)
+        return;
+    Exigir(examenes, avance);
+    Vaciar(datos, archivo, avance);
 }
 
-// False when there is no such file in the backup.
-bool Preparar(const QDir &datos, const QString &origen, const QString &destino, const QString &archivo,
-              Avance &avance) {
+// Nothing when there is no such file in the backup.
+std::optional<Examen> Preparar(const QDir &datos, const QString &origen, const QString &destino,
+                               const QString &archivo, Avance &avance) {
     if (EnUso(datos.filePath(archivo)))
         throw ErrorDatos(errores::kBaseBloqueada,
                          QStringLiteral("Otro programa está usando \"%1\".").arg(archivo));
     try {
         Archivo respaldo(origen, Archivo::Modo::Leer);
-        CopiarSeguro(respaldo, destino, avance);
-        return true;
+        return CopiarSeguro(respaldo, destino, avance);
     } catch (const ErrorDatos &error) {
         if (error.Numero() != errores::kArchivoNoEncontrado)
             throw;
-        return false;
+        return std::nullopt;
     }
 }
 
@@ -59,15 +64,19 @@ Resultado Respaldar(FrmBases &bases, const PedidoRespaldo &pedido, Avance &avanc
     bases.Cerrar();
     const Cerrojo cerrojo(bases.CarpetaDatos());
     const QDir datos(bases.CarpetaDatos());
+    std::vector<Examen> examenes;
     for (std::size_t i = 0; i < kBases; ++i) {
         if (pedido.respaldar[i]) {
-            if (!avance.Sigue())
+            if (!avance.Sigue()) {
+                Exigir(examenes, avance); // what is told as copied has passed
                 return Resultado::Interrumpido;
-            RespaldarBase(datos, BasesRespaldo()[i].archivo, pedido, pedido.vaciar[i], avance);
+            }
+            RespaldarBase(datos, BasesRespaldo()[i].archivo, pedido, pedido.vaciar[i], examenes, avance);
             vaciadas[i] = pedido.vaciar[i];
         }
         avance.Avanza();
     }
+    Exigir(examenes, avance);
     return Resultado::Completo;
 }
 
@@ -77,19 +86,22 @@ Resultado Recuperar(FrmBases &bases, const PedidoRecuperacion &pedido, Avance &a
     const QDir datos(bases.CarpetaDatos());
     const QDir origen(pedido.origen);
     Reemplazo reemplazo(datos.path());
-    bool alguna = false;
+    std::vector<Examen> examenes;
     for (const std::size_t i : kOrdenRecuperar) {
         const QString &archivo = BasesRespaldo()[i].archivo;
         if (pedido.recuperar[i]) {
             if (!avance.Sigue())
                 return Resultado::Interrumpido;
-            if (Preparar(datos, origen.filePath(archivo), reemplazo.Ruta(archivo), archivo, avance))
-                alguna = true;
+            if (auto examen =
+                    Preparar(datos, origen.filePath(archivo), reemplazo.Ruta(archivo), archivo, avance))
+                examenes.push_back(std::move(*examen));
         }
         avance.Avanza();
     }
-    if (alguna)
+    if (!examenes.empty()) {
+        Exigir(examenes, avance);
         reemplazo.Confirmar();
+    }
     return Resultado::Completo;
 }
 

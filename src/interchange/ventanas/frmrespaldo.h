@@ -74,6 +74,7 @@ class FrmRespaldo : public Dialogo, private Avance {
     bool Sigue() override;
     void Empieza(const QString &archivo, qint64 bytes) override;
     void Hecho(qint64 bytes) override;
+    void Espera() override;
     void Avanza() override;
     void Respirar();
 
