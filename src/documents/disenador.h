@@ -64,6 +64,7 @@ class Disenador : public QObject {
     // The corner of the piece goes to this place, in twips; it may leave the canvas until it is let go.
     void Arrastrar(int numero, const QPointF &lugar);
     void Soltar(int numero);
+    bool Arrastrando() const { return antesDeArrastrar_.has_value(); }
     // Moves by pixels, within the canvas.
     void Mover(int numero, const QPoint &pixeles);
     // Asks, then hides.
@@ -102,7 +103,6 @@ class Disenador : public QObject {
     };
     class Paso;
 
-    bool Arrastrando() const { return antesDeArrastrar_.has_value(); }
     Pieza &Editar(int numero);
     void Limitar(int numero);
     // Runs `cambio` on the layout as one step.

@@ -89,6 +89,8 @@ TEST_F(DisenadorPrueba, DragsByTheMouseAndClampsAtTheDrop) {
     QTest::mousePress(nombre, Qt::LeftButton);
     Mover(nombre, {-50, 1000});
     Tecla(nombre, Qt::Key_Delete); // no key comes between
+    Tecla(nombre, Qt::Key_Escape);
+    EXPECT_TRUE(ventana->isVisible());
     Ctrl(Qt::Key_Z);
     EXPECT_EQ(nombre->pos(), QPoint(-50, 1000));
     QTest::mouseRelease(nombre, Qt::LeftButton);

@@ -35,7 +35,8 @@ FrmFactura::FrmFactura(const Servicios &servicios, const QString &carpetaFactura
     setWindowFlag(Qt::WindowMaximizeButtonHint);
     auto *filtro = new FiltroCampos(this);
     filtro->AlEscapar([this] {
-        reject();
+        if (!disenador_.Arrastrando())
+            reject();
         return true;
     });
     ConectarOrdenes();
