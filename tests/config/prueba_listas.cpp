@@ -16,6 +16,8 @@ struct Panel {
     const char *filas;      // SQL of the first two columns
     const char *modificar, *eliminar, *ultima;
     const char *segundoRepetido; // message; null: it may repeat
+
+    friend std::ostream &operator<<(std::ostream &salida, const Panel &caso) { return salida << caso.nombre; }
 };
 
 const std::vector<const char *> kCamposIva{"txtIVACodigo", "txtIVATipo", "txtIVAPorcentaje"};

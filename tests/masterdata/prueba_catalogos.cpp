@@ -16,6 +16,10 @@ struct Catalogo {
     bool vaciaApaga;      // an empty list turns search and print off
     bool otroTrasGuardar; // a saved new row begins another one
     int exportarAlBorrar; // how often a delete speaks of the export: off and on, or on alone
+
+    friend std::ostream &operator<<(std::ostream &salida, const Catalogo &caso) {
+        return salida << caso.nombre;
+    }
 };
 
 template <typename Ventana> VentanaCatalogo *Crear(const Servicios &servicios, Anfitrion &anfitrion) {

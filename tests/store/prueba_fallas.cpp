@@ -18,6 +18,8 @@ struct Accion {
     std::string Hecha() const {
         return "CONSTA 1 " + std::to_string(vendidos) + " " + std::to_string(marcadas);
     }
+
+    friend std::ostream &operator<<(std::ostream &salida, const Accion &caso) { return salida << caso.orden; }
 };
 constexpr Accion kVenta{"vender", 10, 0, 15};
 constexpr Accion kAcciones[] = {kVenta, {"recibir", 0, 0, 3}, {"devolver", 0, 1, 3}};
