@@ -6,6 +6,7 @@
 #include <QDialog>
 #include <QMenu>
 #include <QSignalSpy>
+#include <QWindow>
 
 namespace tarvo {
 namespace {
@@ -60,6 +61,7 @@ TEST_F(Escaner, FoundWhateverHasTheFocus) {
     menu.popup({});
     QTest::keyClick(&menu, '7');
     EXPECT_FALSE(menu.isVisible());
+    EXPECT_NE(menu.windowHandle()->handle(), nullptr) << "the next keys are on their way to it";
     EXPECT_EQ(Campo("txtBuscar")->text(), QStringLiteral("7"));
     menu.popup({});
     QSignalSpy elegida(salir, &QAction::triggered);

@@ -49,10 +49,15 @@ bool EsEmergenteCerrado(const QWidget &recibe) {
     return recibe.window()->windowType() == Qt::Popup && !recibe.window()->isVisible();
 }
 
+// Hidden first: the keys that are on their way to its window would be lost with it.
 void CerrarMenus() {
-    while (QWidget *menu = QApplication::activePopupWidget())
-        if (!menu->close())
-            return;
+    while (QWidget *menu = QApplication::activePopupWidget()) {
+        menu->hide();
+        QTimer::singleShot(kVuelta, menu, [menu] {
+            if (!menu->isVisible())
+                menu->close();
+        });
+    }
 }
 
 bool EsModificador(int tecla) {
