@@ -25,6 +25,11 @@ QString SinCerosFinales(QString decimal) {
 Calculadora::Calculadora(const QString &sDecimal)
     : separador_(sDecimal == QStringLiteral(".") ? u'.' : u',') {}
 
+void Calculadora::PonerDisplay(const QString &texto) {
+    display_ = nuevaEntrada_ && texto.startsWith(display_) ? texto.mid(display_.size()) : texto;
+    nuevaEntrada_ = false;
+}
+
 void Calculadora::Digito(int digito) {
     if (nuevaEntrada_)
         display_.clear();

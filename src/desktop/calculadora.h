@@ -20,8 +20,9 @@ class Calculadora {
     explicit Calculadora(const QString &sDecimal);
 
     const QString &Display() const { return display_; }
-    // What was put into the display by other means than the keys, as a paste does.
-    void PonerDisplay(const QString &texto) { display_ = texto; }
+    // What stands in the display behind a change by other means than the keys, as a paste: behind a result or
+    // an operator it takes the place of the number that was there.
+    void PonerDisplay(const QString &texto);
     QChar Separador() const { return separador_; }
 
     void Digito(int digito); // 0 to 9

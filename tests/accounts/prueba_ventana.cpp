@@ -149,6 +149,8 @@ TEST_F(VentanaEstados, ThePanelOfTheCashSheetTakesThePlaceOfTheButtons) {
     C<QTimeEdit>("DTPHasta1")->setTime(QTime(23, 58));
     mundo.preguntas.EsperaMensaje(u"La hora inicial debe ser menor o igual a la hora final."_qs);
     EXPECT_EQ(Clic("cmdVerCaja"), u"DTPDesde1");
+    Teclear(C("DTPDesde1"), u"0815"_qs); // over what is selected
+    EXPECT_EQ(Texto("DTPDesde1"), u"08:15");
     ventana->EjecutarContado();
     EXPECT_TRUE(!Se("frCaja") && Se("cmdContinuarDev"));
 }

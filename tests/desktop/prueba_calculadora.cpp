@@ -132,6 +132,11 @@ TEST_F(PruebaFrmCalc, CopiesAndTakesAPaste) {
     Teclear(display, u"*2="_qs);
     Pulsar(Control<QWidget>(*frm, "cmdCopiar"));
     EXPECT_EQ(QApplication::clipboard()->text(), u"25");
+    for (const QString &pegado : {u"40"_qs, u"doce"_qs}) { // the focus is on "=" now
+        QApplication::clipboard()->setText(pegado);
+        Tecla(Control<QWidget>(*frm, "cmdEquals"), Qt::Key_V, Qt::ControlModifier);
+        EXPECT_EQ(Display(), u"40");
+    }
 }
 
 TEST_F(PruebaFrmCalc, StandsAtTheRightEdgeAndClosesByF5) {

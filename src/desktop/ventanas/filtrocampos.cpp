@@ -315,6 +315,10 @@ void FiltroCampos::CambiarFoco(QWidget *ahora) {
     AvisarFoco(control, true);
     if (auto *campo = qobject_cast<QLineEdit *>(ahora); campo != nullptr && campo->hasFocus())
         campo->selectAll();
+    // The Tab key has chosen a part already.
+    if (auto *momento = qobject_cast<QDateTimeEdit *>(control);
+        momento != nullptr && !momento->findChild<QLineEdit *>()->hasSelectedText())
+        momento->setSelectedSection(momento->sectionAt(0));
 }
 
 void FiltroCampos::AvisarFoco(QWidget *control, bool entra) {

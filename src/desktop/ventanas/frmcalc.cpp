@@ -1,6 +1,7 @@
 #include "desktop/ventanas/frmcalc.h"
 
 #include "desktop/ventanas/botonzel.h"
+#include "desktop/ventanas/solocaracteres.h"
 
 #include <QAction>
 #include <QApplication>
@@ -65,8 +66,11 @@ void FrmCalc::CrearDisplay(QGridLayout &rejilla) {
     txtDisplay->setFixedHeight(kAltoDisplay);
     txtDisplay->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     rejilla.addWidget(txtDisplay, 0, 0, 1, 4);
-    connect(txtDisplay, &QLineEdit::textEdited, this,
-            [this](const QString &texto) { calculadora_.PonerDisplay(texto); });
+    SoloCaracteres(txtDisplay, QStringLiteral("0123456789,.-"));
+    connect(txtDisplay, &QLineEdit::textEdited, this, [this](const QString &texto) {
+        calculadora_.PonerDisplay(texto);
+        Mostrar();
+    });
     txtDisplay->setAttribute(Qt::WA_InputMethodEnabled, false);
     connect(txtDisplay, &QLineEdit::cursorPositionChanged, this, [this] {
         if (!txtDisplay->hasSelectedText())
@@ -156,6 +160,10 @@ bool FrmCalc::Tecla(const QObject *recibe, const QKeyEvent &tecla) {
         return close();
     if (tecla.key() == Qt::Key_Return || tecla.key() == Qt::Key_Enter)
         return Caracter(u'=');
+    if (recibe != txtDisplay && (tecla.matches(QKeySequence::Copy) || tecla.matches(QKeySequence::Paste))) {
+        tecla.matches(QKeySequence::Copy) ? Copiar() : txtDisplay->paste();
+        return true;
+    }
     if (tecla.key() == Qt::Key_Backspace || tecla.key() == Qt::Key_Delete)
         return true; // they act when they are let go
     if (tecla.key() == Qt::Key_Space && recibe != txtDisplay)
