@@ -30,7 +30,8 @@ bool EsLetra(int tecla) {
 // what edits text or works inside the windows, as the figures do. Ctrl with Alt writes a character on many
 // keyboards.
 bool EsLibre(QKeyCombination tecla) {
-    static const QList<int> delTexto{Qt::Key_A, Qt::Key_C, Qt::Key_V, Qt::Key_X, Qt::Key_Y, Qt::Key_Z};
+    static const QList<int> delTexto{Qt::Key_A, Qt::Key_C, Qt::Key_D, Qt::Key_U,
+                                     Qt::Key_V, Qt::Key_X, Qt::Key_Y, Qt::Key_Z};
     static const QList<int> deVentanas{Qt::Key_B, Qt::Key_G, Qt::Key_I, Qt::Key_K, Qt::Key_N, Qt::Key_R};
     const Qt::KeyboardModifiers con = tecla.keyboardModifiers();
     if ((con & (Qt::AltModifier | Qt::MetaModifier)) != 0) // the desktop's own

@@ -1,5 +1,6 @@
-// Dates typed as they are written, over a date that stands there.
+// Dates and hours typed as they are written, over what stands there.
 #include "desktop/ventanas/campofecha.h"
+#include "desktop/ventanas/campohora.h"
 #include "desktop/ventanas/filtrocampos.h"
 #include "testkit/manos.h"
 
@@ -38,6 +39,26 @@ TEST(CampoFecha, TakesADateAsItIsWritten) {
     EXPECT_EQ(campo->findChild<QLineEdit *>()->selectedText(), u"01");
     Tecla(campo, Qt::Key_Down, Qt::AltModifier);
     EXPECT_TRUE(campo->calendarWidget()->isVisible());
+}
+
+TEST(CampoHora, TakesAnHourAsItIsWritten) {
+    CampoHora campo;
+    const FiltroCampos filtro(&campo);
+    MostrarVentana(campo);
+    const char *const casos[][2] = {{"0815", "08:15"},   {"23:59", "23:59"}, {"9.05", "09:05"},
+                                    {"1:3", "01:03"},    {"24:00", "02:00"}, {"12:60", "12:06"},
+                                    {"1\b2345", "23:45"}};
+    for (const auto &[teclas, despues] : casos) {
+        campo.setTime(QTime(11, 11));
+        campo.setSelectedSection(QDateTimeEdit::HourSection);
+        for (const char tecla : QByteArray(teclas))
+            tecla == '\b'
+                ? QTest::mouseClick(campo.findChild<QLineEdit *>(), Qt::LeftButton, {}, QPoint(4, 4))
+                : QTest::keyClick(&campo, tecla);
+        EXPECT_EQ(campo.text(), QString::fromUtf8(despues)) << teclas;
+        campo.clearFocus();
+        campo.setFocus();
+    }
 }
 
 } // namespace

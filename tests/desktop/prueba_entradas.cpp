@@ -46,7 +46,7 @@ TEST_F(SoloCaracteresPrueba, AStrangeTextIsRefusedWholeAndSaysWhy) {
     QApplication::sendEvent(&campo, &compuesto);
     EXPECT_EQ(campo.text(), u"-1234");
     EXPECT_EQ(cambios.size(), 0) << "nobody is told of what was never there";
-    EXPECT_TRUE(QToolTip::isVisible());
+    EXPECT_TRUE(QTest::qWaitFor([] { return QToolTip::isVisible(); }));
     EXPECT_TRUE(QToolTip::text().contains(u"este campo sólo admite cifras, «.», «,»"))
         << qPrintable(QToolTip::text());
 

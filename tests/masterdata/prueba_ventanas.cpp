@@ -236,7 +236,8 @@ class PruebaUsuarios : public ConVentana<FrmUsuarios> {
 
 TEST_F(PruebaUsuarios, ANewUserIsAskedForEverythingInTurn) {
     EXPECT_FALSE(Habilitado("txtUsuNombre"));
-    EXPECT_EQ(Clic("cmdUsuNuevo"), u"txtUsuNombre");
+    Tecla(ventana.get(), Qt::Key_N, Qt::ControlModifier);
+    EXPECT_EQ(ConFoco(), u"txtUsuNombre");
     EXPECT_TRUE(Habilitado("txtUsuConfirma"));
     Avisa(u"Debe llenar el campo \"Nombre\""_qs);
     Escribir("txtUsuNombre", u"Ana"_qs);

@@ -31,10 +31,10 @@ const QByteArray kCabeza = Archivo("|[Nerlo-Menus-Shortcuts]|[V-1-0-0]|");
 
 TEST(Atajos, WritesItsFile) {
     Atajos atajos;
-    atajos.Poner(Entrada::Ventas, Tecla("Ctrl+D"));
+    atajos.Poner(Entrada::Ventas, Tecla("Ctrl+L"));
     const QByteArray archivo = atajos.Archivo();
     EXPECT_TRUE(archivo.startsWith(kCabeza + Archivo("I|1|exportar|K|Ctrl+F6|exportar|")));
-    EXPECT_TRUE(archivo.contains(Archivo("|ventas|K|Ctrl+D|ventas|")));
+    EXPECT_TRUE(archivo.contains(Archivo("|ventas|K|Ctrl+L|ventas|")));
     EXPECT_FALSE(archivo.contains("factura")); // it has no key
     EXPECT_EQ(Leidos(archivo), atajos);
 }
@@ -46,16 +46,17 @@ TEST(Atajos, ReadsUpToWhatIsWrong) {
         const char *ventas;   // its key afterwards
         const char *clientes; // likewise
     } casos[] = {
-        {"K|Ctrl+D|ventas|K|Ctrl+F|clientes|", "Ctrl+D", "Ctrl+F"},
-        {"K|Ctrl+D|ventas|X|Ctrl+2|clientes|", "Ctrl+D", "F4"},
-        {"K|Ctrl+D|ventas|K|Ctrl+F", "Ctrl+D", "F4"},
-        {"K|Ctrl+D|nadie|K|Ctrl+F|clientes|", "F8", "Ctrl+F"},
+        {"K|Ctrl+L|ventas|K|Ctrl+F|clientes|", "Ctrl+L", "Ctrl+F"},
+        {"K|Ctrl+L|ventas|X|Ctrl+2|clientes|", "Ctrl+L", "F4"},
+        {"K|Ctrl+L|ventas|K|Ctrl+F", "Ctrl+L", "F4"},
+        {"K|Ctrl+L|nadie|K|Ctrl+F|clientes|", "F8", "Ctrl+F"},
         {"I|5|ventas|I|9|clientes|", "F8", "F4"},
         {"K|A|ventas|K|Ctrl+C|clientes|", "F8", "F4"},                 // they write and edit text
+        {"K|Ctrl+D|ventas|K|Ctrl+U|clientes|", "F8", "F4"},            // as these do
         {"K|F4|ventas|K|F8|clientes|", "F4", "F8"},                    // two that change places
-        {"K|A|factura|K|B|acercade|K|Ctrl+D|ventas|", "Ctrl+D", "F4"}, // entries that start without a key
+        {"K|A|factura|K|B|acercade|K|Ctrl+L|ventas|", "Ctrl+L", "F4"}, // entries that start without a key
         {"K|F4|ventas|", "F8", "F4"},                                  // shared: nothing counts
-        {"K|Ctrl+D, Ctrl+F|ventas|", "F8", "F4"},
+        {"K|Ctrl+L, Ctrl+F|ventas|", "F8", "F4"},
         {"", "F8", "F4"},
     };
     for (const auto &caso : casos) {
@@ -65,7 +66,7 @@ TEST(Atajos, ReadsUpToWhatIsWrong) {
     }
     for (const char *cabeza :
          {"", "|[Nerlo-Menus-Shortcuts]|[V-2-0-0]|", "[Nerlo-Menus-Shortcuts]|[V-1-0-0]|"})
-        EXPECT_EQ(Leidos(Archivo(cabeza) + Archivo("K|Ctrl+D|ventas|")), iniciales) << cabeza;
+        EXPECT_EQ(Leidos(Archivo(cabeza) + Archivo("K|Ctrl+L|ventas|")), iniciales) << cabeza;
 }
 
 TEST(Atajos, AnyBytesLeaveOneKeyForEachEntry) {
@@ -85,12 +86,12 @@ TEST(Atajos, AnyBytesLeaveOneKeyForEachEntry) {
 
 TEST(Atajos, RefusesKeysThatAreTakenOrWriteText) {
     const Atajos atajos;
-    for (const char *tecla : {"F8", "Ctrl+D", "Ctrl+Shift+M", "Shift+F3", "Ctrl+F2"})
+    for (const char *tecla : {"F8", "Ctrl+L", "Ctrl+Shift+M", "Shift+F3", "Ctrl+F2"})
         EXPECT_EQ(atajos.MotivoRechazo(Entrada::Ventas, Tecla(tecla)), QString()) << tecla;
     for (const char *tecla :
          {"A",     "1",          "Shift+B", "Ctrl+V",    "Ctrl+Z",         "Ctrl+N", "Ctrl+K",
           "Alt+V", "Ctrl+Alt+2", "F10",     "Alt+F2",    "Meta+F2",        "Return", "Esc",
-          "Tab",   "Del",        "Left",    "Ctrl+Left", "Ctrl+D, Ctrl+F", "Ctrl+2", ""})
+          "Tab",   "Del",        "Left",    "Ctrl+Left", "Ctrl+L, Ctrl+F", "Ctrl+2", ""})
         EXPECT_NE(atajos.MotivoRechazo(Entrada::Ventas, Tecla(tecla)), QString()) << tecla;
     EXPECT_EQ(atajos.MotivoRechazo(Entrada::Ventas, Tecla("F4")),
               u"La tecla F4 ya es la de \"Clientes\"."_qs);
@@ -115,9 +116,9 @@ TEST(FrmAtajos, AssignsTellsAndRestores) {
     EXPECT_EQ(tecla->keySequence(), Tecla("F8"));
     EXPECT_EQ(cambios, 0);
 
-    asignar("ventas", "Ctrl+D");
-    EXPECT_EQ(atajos.De(Entrada::Ventas), Tecla("Ctrl+D"));
-    EXPECT_EQ(lista->Lista()->Celda(lista->FilaActual(), 1), u"Ctrl+D");
+    asignar("ventas", "Ctrl+L");
+    EXPECT_EQ(atajos.De(Entrada::Ventas), Tecla("Ctrl+L"));
+    EXPECT_EQ(lista->Lista()->Celda(lista->FilaActual(), 1), u"Ctrl+L");
     asignar("factura", "Ctrl+M"); // it starts without a key
     EXPECT_EQ(atajos.De(Entrada::Factura), Tecla("Ctrl+M"));
     for (const Respuesta respuesta : {No, Si}) {

@@ -3,14 +3,12 @@
 #include "desktop/anfitrion.h"
 #include "desktop/reloj.h"
 #include "desktop/twips.h"
+#include "desktop/ventanas/avisarcampo.h"
 #include "desktop/ventanas/filtrocampos.h"
 #include "desktop/ventanas/listavista.h"
 #include "desktop/ventanas/solocaracteres.h"
 #include "masterdata/ventanas/picclientes.h"
 #include "ui_frmestados.h"
-
-#include <QApplication>
-#include <QToolTip>
 
 #include <algorithm>
 
@@ -250,12 +248,9 @@ void FrmEstados::EntrarCantidad() {
         ui_->cmdAgregar->setFocus();
         return;
     }
-    QApplication::beep();
     ui_->txtCantidad->setText(filtro_->AntesDeLeer());
     ui_->txtCantidad->selectAll();
-    QToolTip::showText(ui_->txtCantidad->mapToGlobal(QPoint(0, ui_->txtCantidad->height())),
-                       QStringLiteral("«%1» no es un importe: es un código leído.").arg(leido),
-                       ui_->txtCantidad);
+    AvisarCampo(ui_->txtCantidad, QStringLiteral("«%1» no es un importe: es un código leído.").arg(leido));
 }
 
 void FrmEstados::AlternarCaja() {

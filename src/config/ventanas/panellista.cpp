@@ -1,9 +1,6 @@
 #include "config/ventanas/panellista.h"
 
 #include "desktop/ventanas/listavista.h"
-#include "desktop/ventanas/teclas.h"
-
-#include <QPushButton>
 
 namespace tarvo {
 
@@ -13,8 +10,6 @@ PanelLista::PanelLista(QWidget *panel, ListaVista *lista, const QString &prefijo
       controles_(panel, lista, prefijo),
       logica_(servicios.frmBases, servicios.preguntas, controles_, std::move(reglas)) {
     controles_.Montar(logica_);
-    PonerTecla(controles_.Boton("Nuevo"), Qt::CTRL | Qt::Key_N);
-    PonerTecla(controles_.Boton("Guardar"), Qt::CTRL | Qt::Key_G);
     connect(&controles_, &ControlesDetalle::FilasCambiadas, this,
             [this, lista, ancho] { lista->PonerAncho(1, ancho.Para(logica_.Lista().Filas())); });
 }

@@ -1,5 +1,6 @@
 #include "desktop/ventanas/campofecha.h"
 
+#include "desktop/ventanas/avisarcampo.h"
 #include "desktop/ventanas/filtrocampos.h"
 
 #include <QApplication>
@@ -8,7 +9,6 @@
 #include <QLineEdit>
 #include <QSignalBlocker>
 #include <QTextCharFormat>
-#include <QToolTip>
 
 #include <algorithm>
 #include <utility>
@@ -98,9 +98,9 @@ void CampoFecha::Cifra(int cifra) {
     const int valor = valor_ * 10 + cifra;
     const int cifras = cifras_ + 1;
     if (valor > mayor || (valor == 0 && cifras == 2 && !anio)) {
-        Avisar(QStringLiteral("%1 va de 1 a %2.")
-                   .arg(dia ? QStringLiteral("El día") : QStringLiteral("El mes"))
-                   .arg(mayor));
+        AvisarCampo(this, QStringLiteral("%1 va de 1 a %2.")
+                              .arg(dia ? QStringLiteral("El día") : QStringLiteral("El mes"))
+                              .arg(mayor));
         return;
     }
     valor_ = valor;
@@ -158,19 +158,10 @@ void CampoFecha::Terminar() {
         Poner(date().month(), esAnio ? anio : date().year());
         setSelectedSection(YearSection);
     }
-    if (dia_ > date().day() && date() == puesta_) {
-        Avisar(QStringLiteral("Ese mes tiene %1 días.").arg(date().daysInMonth()));
-    }
+    if (dia_ > date().day() && date() == puesta_)
+        AvisarCampo(this, QStringLiteral("Ese mes tiene %1 días.").arg(date().daysInMonth()));
     dia_ = valor_ = cifras_ = 0;
     pasada_ = false;
-}
-
-// Once the focus is where it goes: its move would hide the tooltip.
-void CampoFecha::Avisar(const QString &texto) {
-    QApplication::beep();
-    QMetaObject::invokeMethod(
-        this, [this, texto] { QToolTip::showText(mapToGlobal(QPoint(0, height())), texto, this); },
-        Qt::QueuedConnection);
 }
 
 // As a click on the arrow does, which is all that opens it.

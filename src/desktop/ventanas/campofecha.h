@@ -32,7 +32,6 @@ class CampoFecha : public QDateEdit {
     void Poner(int mes, int anio);
     void MostrarAnio();
     void Terminar();
-    void Avisar(const QString &texto);
     void AbrirCalendario();
 
     QDate puesta_;        // what was typed so far; another date means that it didn't come from here

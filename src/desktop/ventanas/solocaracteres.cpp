@@ -1,9 +1,9 @@
 #include "desktop/ventanas/solocaracteres.h"
 
-#include <QApplication>
+#include "desktop/ventanas/avisarcampo.h"
+
 #include <QKeyEvent>
 #include <QLineEdit>
-#include <QToolTip>
 #include <QValidator>
 
 #include <algorithm>
@@ -35,8 +35,7 @@ class FiltroCaracteres final : public QValidator {
         const QStringView entrado = QStringView(nuevo).mid(inicio_, qMax(0, cursor - inicio_));
         if (EsDelPrograma() || std::ranges::all_of(entrado, [this](QChar c) { return Admite(c); }))
             return Acceptable;
-        QApplication::beep();
-        QToolTip::showText(campo_->mapToGlobal(QPoint(0, campo_->height())), Motivo(), campo_);
+        AvisarCampo(campo_, Motivo());
         return Invalid;
     }
 

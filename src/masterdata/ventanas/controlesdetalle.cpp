@@ -3,6 +3,7 @@
 #include "desktop/ventanas/estilo.h"
 #include "desktop/ventanas/filtrocampos.h"
 #include "desktop/ventanas/listavista.h"
+#include "desktop/ventanas/teclas.h"
 #include "masterdata/listadetalle.h"
 
 #include <QComboBox>
@@ -31,6 +32,8 @@ void ControlesDetalle::Montar(ListaDetalle &logica) {
     ConectarBoton("Eliminar", &ListaDetalle::Eliminar);
     ConectarBoton("Actualizar", &ListaDetalle::Actualizar);
     ConectarBoton("Cancelar", &ListaDetalle::Cancelar);
+    PonerTecla(Boton("Nuevo"), Qt::CTRL | Qt::Key_N);
+    PonerTecla(Boton("Guardar"), Qt::CTRL | Qt::Key_G);
 }
 
 QPushButton *ControlesDetalle::Boton(const char *accion) const {

@@ -124,8 +124,6 @@ void VentanaCatalogo::ConectarBotones() {
         {ui_->cmdCancelar, "cancelar"}, {ui_->cmdBuscar, "buscar"},     {ui_->cmdImprimir, "imprimir"}};
     for (const auto &[boton, icono] : iconos)
         boton->setIcon(IconoDe(QString::fromUtf8(icono)));
-    PonerTecla(ui_->cmdNuevo, Qt::CTRL | Qt::Key_N);
-    PonerTecla(ui_->cmdGuardar, Qt::CTRL | Qt::Key_G);
     PonerTecla(ui_->cmdBuscar, Qt::CTRL | Qt::Key_B);
     connect(ui_->cmdBuscar, &QPushButton::clicked, this,
             [this] { logica_->AbrirPanel(PanelDetalle::Busqueda); });
