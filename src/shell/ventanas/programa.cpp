@@ -19,6 +19,7 @@
 #include <QGuiApplication>
 #include <QScreen>
 #include <QTimer>
+#include <QWindow>
 
 namespace tarvo {
 
@@ -82,9 +83,11 @@ void Programa::MostrarPrincipal() {
     MostrarAvisos();
     QGuiApplication::setQuitOnLastWindowClosed(true);
     frmPrincipal_->Presentar(ATwips(frmPrincipal_->screen()->size().width()));
-    if (opciones_.usuarios)
-        QTimer::singleShot(0, frmPrincipal_.get(),
-                           [this, servicios] { MostrarUsuarios(servicios, frmPrincipal_.get()); });
+    if (opciones_.usuarios) // once the main window has its place, over which they stand
+        connect(
+            frmPrincipal_->windowHandle(), &QWindow::activeChanged, frmPrincipal_.get(),
+            [this, servicios] { MostrarUsuarios(servicios, frmPrincipal_.get()); },
+            static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
 }
 
 // A restore may have mended what an earlier opening told.
