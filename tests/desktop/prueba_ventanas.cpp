@@ -39,6 +39,10 @@ TEST(EtiquetaElidida, LabelAndComboShowInTheTipWhatTheyCut) {
     etiqueta.setText(QString(40, u'W') + u" & 1"_qs); // no markup: nothing to escape
     etiqueta.grab();
     EXPECT_EQ(etiqueta.toolTip(), etiqueta.text());
+    combo.setPlaceholderText(etiqueta.text()); // a hint is cut as an entry is
+    combo.setCurrentIndex(-1);
+    combo.grab();
+    EXPECT_EQ(combo.toolTip(), etiqueta.text());
     EXPECT_EQ(etiqueta.minimumSizeHint().width(), 0);
     combo.setItemText(0, QString(30, u'W'));
     MostrarVentana(fondo);

@@ -24,8 +24,12 @@ void ComboElidido::paintEvent(QPaintEvent *) {
     initStyleOption(&opcion);
     const int sitio =
         style()->subControlRect(QStyle::CC_ComboBox, &opcion, QStyle::SC_ComboBoxEditField, this).width();
-    opcion.currentText = fontMetrics().elidedText(currentText(), Qt::ElideRight, sitio);
-    setToolTip(opcion.currentText == currentText() ? QString() : AyudaLlana(currentText()));
+    const bool vacio = currentIndex() < 0;
+    if (vacio)
+        opcion.palette.setBrush(QPalette::ButtonText, opcion.palette.placeholderText());
+    const QString texto = vacio ? placeholderText() : currentText();
+    opcion.currentText = fontMetrics().elidedText(texto, conFinal_ ? Qt::ElideMiddle : Qt::ElideRight, sitio);
+    setToolTip(opcion.currentText == texto ? QString() : AyudaLlana(texto));
     pintor.drawComplexControl(QStyle::CC_ComboBox, opcion);
     pintor.drawControl(QStyle::CE_ComboBoxLabel, opcion);
 }

@@ -8,12 +8,17 @@ namespace tarvo {
 
 class ComboElidido : public QComboBox {
     Q_OBJECT
+    // Also the end of an entry can be read, such as a percentage: the middle is left out.
+    Q_PROPERTY(bool conFinal MEMBER conFinal_)
   public:
     using QComboBox::QComboBox;
     void showPopup() override;
 
   protected:
     void paintEvent(QPaintEvent *evento) override;
+
+  private:
+    bool conFinal_ = false;
 };
 
 } // namespace tarvo

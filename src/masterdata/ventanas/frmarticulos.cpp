@@ -1,5 +1,6 @@
 #include "masterdata/ventanas/frmarticulos.h"
 
+#include "desktop/ventanas/comboelidido.h"
 #include "desktop/ventanas/estilo.h"
 #include "desktop/ventanas/filtrocampos.h"
 #include "desktop/ventanas/listavista.h"
@@ -50,7 +51,7 @@ FrmArticulos::FrmArticulos(const Servicios &servicios, Anfitrion &anfitrion, QWi
 FrmArticulos::~FrmArticulos() = default;
 
 void FrmArticulos::CrearFiltro() {
-    cboxFiltrarCategoria = new QComboBox(this);
+    cboxFiltrarCategoria = new ComboElidido(this);
     cboxFiltrarCategoria->setObjectName(QStringLiteral("cboxFiltrarCategoria"));
     cboxFiltrarCategoria->setAccessibleName(QStringLiteral("Filtrar por categoría"));
     cboxFiltrarCategoria->setAccessibleDescription(
