@@ -54,6 +54,8 @@ void ComprobarTablas(const QString &ruta, const QString &archivo) {
     SQLite::Database modelo(":memory:", SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
     modelo.exec(EsquemaDe(archivo).toStdString());
     Examinar(ruta, [&](SQLite::Database &base) {
+        if (base.execAndGet("PRAGMA encoding").getString() != "UTF-8")
+            throw OtraCodificacion();
         SQLite::Statement consulta(modelo, "SELECT t.name, c.name FROM sqlite_master t, "
                                            "pragma_table_info(t.name) c WHERE t.type = 'table' AND t.name "
                                            "NOT LIKE 'sqlite%'");

@@ -18,7 +18,8 @@ namespace tarvo {
 // any thread.
 void ComprobarBase(const QString &ruta, const std::stop_token &parar);
 
-// The file has all tables and columns of the data file `archivo` ("ventas.mdb"). Throws as ComprobarBase.
+// The file can be opened beside the others and has all tables and columns of the data file `archivo`
+// ("ventas.mdb"). Throws as ComprobarBase.
 void ComprobarTablas(const QString &ruta, const QString &archivo);
 
 // While it lives no other process writes the file. What a power cut left half written is first taken back.

@@ -61,6 +61,8 @@ void Conexion::Adjuntar(const QString &archivo, const char *esquema) {
         sentencia.bind(1, Uri(archivo, kEnUso));
         sentencia.exec();
     } catch (const SQLite::Exception &error) {
+        if (error.getExtendedErrorCode() == SQLITE_ERROR) // nothing else of the file ends in it
+            throw OtraCodificacion();
         throw ErrorLectura(error);
     }
     try {
@@ -95,6 +97,8 @@ void Conexion::Asegurar(const QString &archivo, const char *esquema) {
     const std::int64_t tamano = std::atoll(Pragma(esquema, "page_size").c_str());
     if (QFileInfo(archivo).size() < paginas * tamano)
         throw ErrorDatos(errores::kBaseIlegible, QStringLiteral("El archivo está cortado."));
+    if (Pragma(esquema, "encoding") != "UTF-8") // of "main"; the others can't be attached then
+        throw OtraCodificacion();
     if (sqlite3_db_readonly(base_.getHandle(), esquema) != 0)
         throw ErrorDatos(errores::kEscritura, QStringLiteral("El archivo es de solo lectura."));
     Pragma(esquema, "journal_mode=TRUNCATE");
@@ -130,7 +134,7 @@ void ComprobarTabla(sqlite3 *base, const char *esquema, const char *tabla,
             throw ErrorDatos(
                 errores::kBaseIlegible,
                 QStringLiteral("Falta la columna %1 de %2.").arg(QString::fromUtf8(columna), nombre));
-    if (!hay("id") || clave == 0 || sqlite3_stricmp(tipo, "INTEGER") != 0)
+    if (!hay("rowid") || !hay("id") || clave == 0 || sqlite3_stricmp(tipo, "INTEGER") != 0)
         throw ErrorDatos(errores::kBaseIlegible,
                          QStringLiteral("La tabla %1 no tiene el contador id.").arg(nombre));
 }

@@ -28,6 +28,9 @@ class Cursor;
 ErrorDatos ErrorLectura(int codigo, const char *mensaje);
 ErrorDatos ErrorEscritura(int codigo, const char *mensaje);
 
+// Files that are open together must have their text in one encoding, and this is not the one.
+ErrorDatos OtraCodificacion();
+
 // The name under which the engine opens a file, with options such as "mode=rw".
 std::string Uri(const QString &archivo, const char *opciones);
 

@@ -86,6 +86,10 @@ ErrorDatos ErrorLectura(int codigo, const char *mensaje) {
                  QStringLiteral("No se pudo leer la base de datos"), Motivo(codigo, mensaje));
 }
 
+ErrorDatos OtraCodificacion() {
+    return {errores::kBaseIlegible, QStringLiteral("El texto del archivo no está en UTF-8.")};
+}
+
 ErrorDatos ErrorEscritura(int codigo, const char *mensaje) {
     if (Ocupada(codigo))
         return Bloqueada();

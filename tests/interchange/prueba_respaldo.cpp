@@ -106,6 +106,8 @@ TEST_F(PruebaRespaldo, ABackupThatIsNoneOfOursIsRefused) {
         {"no es una base de datos.",
          [&] { Escribir(tienda.Ruta("respaldo/clientes.mdb"), QByteArray(9000, 'x')); }},
         {"falta la tabla Clientes.", [&] { Escribir(tienda.Ruta("respaldo/clientes.mdb"), {}); }},
+        {"el texto del archivo no está en UTF-8.",
+         [&] { TiendaCambio::Sql(clientes, "PRAGMA encoding='UTF-16le'; CREATE TABLE x(y)"); }},
     };
     for (const auto &[motivo, estropear] : casos) {
         estropear();

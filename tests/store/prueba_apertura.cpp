@@ -67,6 +67,12 @@ const Dano kDanos[] = {
      "no es una base de datos."},
     {"truncated by a page", [](const QString &r, const Archivo &) { Recortar(r, 4096); }, "está dañado."},
     {"truncated by a byte", [](const QString &r, const Archivo &) { Recortar(r, 1); }, "está cortado."},
+    {"text in another encoding",
+     [](const QString &r, const Archivo &a) {
+         Escribir(r, {});
+         Sql(r, "PRAGMA encoding='UTF-16le'; CREATE TABLE t(x)", a);
+     },
+     "no está en UTF-8."},
     {"table missing", [](const QString &r, const Archivo &a) { Sql(r, "DROP TABLE %1", a); },
      "falta la tabla ", true},
     {"column missing",
