@@ -66,7 +66,7 @@ TEST_F(Estadisticas, ShowSampleValuesUntilTheSalesAreAskedFor) {
     EXPECT_EQ(rotulos().size(), 30); // nothing before the button
     Clic("cmdBuscar");
     EXPECT_EQ(rotulos().size(), 29);
-    C<QDateEdit>("DTPFecha")->setDate({2026, 11, 1});
+    Teclear(C("DTPFecha"), u"112026"_qs); // by its number as well as by its name
     Clic("cmdBuscar");
     EXPECT_EQ(primera(), 15);
     EXPECT_TRUE(Texto("lblRegla").contains(u"2 comprobantes")) << Texto("lblRegla").toStdString();

@@ -1,5 +1,6 @@
 #include "desktop/ventanas/filtrocampos.h"
 #include "desktop/ventanas/paneles.h"
+#include "desktop/ventanas/teclasostenida.h"
 #include "testkit/manos.h"
 
 #include <QDateEdit>
@@ -74,6 +75,42 @@ TEST(FiltroCampos, AHeldEnterPressesOnceAndASecondOneAtOnceIsItsOwn) {
     tecla(ventana.txtUno, Qt::Key_5, 3000, true);
     tecla(ventana.cmdCuatro, Qt::Key_Return, 3001, true);
     EXPECT_EQ(pulsado.size(), 2);
+}
+
+// The strokes of a held Enter, as the system tells them: the first one, marked and unmarked ones.
+TEST(TeclaSostenida, ActsInItsOwnWindowOnly) {
+    TeclaSostenida sostenida;
+    qApp->installEventFilter(&sostenida);
+    QLineEdit uno;
+    QLineEdit otro;
+    MostrarVentana(uno);
+    MostrarVentana(otro);
+    const auto llega = [](const QWidget &ventana, quint64 momento, bool marcada) {
+        QKeyEvent suelta(QEvent::KeyRelease, Qt::Key_A, Qt::NoModifier, u"a"_qs, marcada);
+        QKeyEvent baja(QEvent::KeyPress, Qt::Key_A, Qt::NoModifier, u"a"_qs, marcada);
+        for (QKeyEvent *evento : {&suelta, &baja}) {
+            evento->setTimestamp(momento);
+            QApplication::sendEvent(ventana.windowHandle(), evento);
+        }
+    };
+    llega(uno, 1000, false);
+    llega(uno, 1002, false); // as a scanner does
+    llega(uno, 1660, true);
+    EXPECT_EQ(uno.text(), u"aaa");
+    llega(uno, 1700, false);
+    for (const bool marcada : {true, false})
+        llega(otro, 1740, marcada);
+    llega(uno, 1780, true);
+    EXPECT_EQ(uno.text() + otro.text(), u"aaa") << "held, and once in another window";
+    llega(otro, 1900, false);
+    EXPECT_EQ(otro.text(), u"") << "the key has not gone up";
+    QKeyEvent arriba(QEvent::KeyRelease, Qt::Key_A, Qt::NoModifier);
+    arriba.setTimestamp(1950);
+    QApplication::sendEvent(otro.windowHandle(), &arriba);
+    QKeyEvent nueva(QEvent::KeyPress, Qt::Key_A, Qt::NoModifier, u"a"_qs);
+    nueva.setTimestamp(2000);
+    QApplication::sendEvent(otro.windowHandle(), &nueva);
+    EXPECT_EQ(otro.text(), u"a");
 }
 
 TEST(FiltroCampos, AWindowNamesItsExceptions) {

@@ -39,7 +39,6 @@ QString AvisoIlegibles(int cuantos) {
 FrmStats::FrmStats(const Servicios &servicios, Anfitrion &, QWidget *padre)
     : VentanaModulo(padre), servicios_(servicios), ui_(std::make_unique<Ui::FrmStats>()) {
     ui_->setupUi(this);
-    ui_->DTPFecha->setLocale(QLocale(QLocale::Spanish));
     ui_->DTPFecha->setDate(servicios_.reloj.Ahora().date());
     CrearGrafico();
     connect(ui_->cmdBuscar, &QPushButton::clicked, this, &FrmStats::cmdBuscar_Click);

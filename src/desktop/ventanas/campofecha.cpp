@@ -52,7 +52,7 @@ void CampoFecha::keyPressEvent(QKeyEvent *evento) {
         Cifra(caracter.front().digitValue());
     } else if (SeparaPartes(caracter)) {
         Separar();
-    } else if (PideCalendario(*evento)) {
+    } else if (calendarPopup() && PideCalendario(*evento)) {
         Terminar();
         AbrirCalendario();
     } else {
@@ -147,7 +147,8 @@ void CampoFecha::Poner(int mes, int anio) {
 void CampoFecha::MostrarAnio() {
     puesta_ = date();
     const QSignalBlocker callado(lineEdit());
-    lineEdit()->setText(date().toString(QStringLiteral("dd/MM/")) + QString::number(valor_));
+    const QString antes = displayFormat().remove(QStringLiteral("yyyy"));
+    lineEdit()->setText(locale().toString(date(), antes) + QString::number(valor_));
 }
 
 // What was typed becomes a date. A year of three figures is none, and the old one stays.

@@ -4,7 +4,8 @@
 // Qt's own field cuts each part to what stands in the others at that moment: 31 typed over a date in November
 // is the 30th before December can be typed behind it. This one keeps the day until the month and the year are
 // there. Where the day doesn't exist then, the field shows the last one of the month and says so. A year of
-// two figures is one of this century. Alt+Down opens the calendar.
+// two figures is one of this century. Alt+Down opens the calendar. A month that is shown by its name is typed
+// by its name or its number.
 #pragma once
 
 #include <QDateEdit>

@@ -152,8 +152,10 @@ bool FrmCalc::eventFilter(QObject *objeto, QEvent *evento) {
 // presses the button that has the focus.
 bool FrmCalc::Tecla(const QObject *recibe, const QKeyEvent &tecla) {
     if (QAction *const entrada = EntradaDe(tecla)) {
-        if (!tecla.isAutoRepeat())
+        if (!tecla.isAutoRepeat()) {
+            parentWidget()->activateWindow(); // the next keys are for what it opens
             entrada->trigger();
+        }
         return true;
     }
     if (tecla.key() == Qt::Key_F5)

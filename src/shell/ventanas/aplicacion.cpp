@@ -1,6 +1,7 @@
 #include "shell/ventanas/aplicacion.h"
 
 #include "desktop/ventanas/estilo.h"
+#include "desktop/ventanas/teclasostenida.h"
 #include "shell/ventanas/traduccionteclas.h"
 
 #include <QLibraryInfo>
@@ -18,6 +19,7 @@ Aplicacion::Aplicacion(int &argc, char **argv, Preguntas &preguntas)
     if (traduccion->load(QStringLiteral("qtbase_es"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         installTranslator(traduccion);
     installTranslator(new TraduccionTeclas(this));
+    installEventFilter(new TeclaSostenida(this));
     AplicarEstilo(*this);
 }
 
