@@ -4,6 +4,7 @@
 #include "testkit/manos.h"
 
 #include <QAccessible>
+#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QMainWindow>
 
@@ -92,6 +93,20 @@ TEST(Tamano, TypeAndSpacingFollowTheWidthOfTheMainWindow) {
         EXPECT_EQ(QApplication::font().pointSizeF(), letra);
         EXPECT_EQ(fila->spacing(), 20);
         EXPECT_EQ(fila->contentsMargins().left(), 10);
+    }
+}
+
+TEST(Tamano, AirChangesTheVerticalRoomAndTakesNoGapAway) {
+    QWidget ventana;
+    auto *rejilla = new QGridLayout(&ventana);
+    rejilla->setContentsMargins(9, 3, 9, 3);
+    rejilla->setHorizontalSpacing(8);
+    rejilla->setVerticalSpacing(1);
+    for (const auto &[aire, margen, hueco] : {std::tuple{0.4, 1, 1}, {2.0, 6, 2}, {1.0, 3, 1}}) {
+        PonerAire({rejilla}, aire);
+        EXPECT_EQ(rejilla->contentsMargins(), QMargins(9, margen, 9, margen)) << aire;
+        EXPECT_EQ(rejilla->verticalSpacing(), hueco) << aire;
+        EXPECT_EQ(rejilla->horizontalSpacing(), 8) << aire;
     }
 }
 

@@ -228,6 +228,7 @@ TEST_F(VentanaVentas, CreditNeedsACustomerAndTheTaxFollowsHisFiscalId) {
     EXPECT_TRUE(Habilitado("frDatos"));
     const auto cliente = [this] { return Texto("lblIdCliente") + Texto("lblCliente") + Texto("lblRUC"); };
     EXPECT_EQ(cliente(), u"1Ñandú S.A.30-71234567-1");
+    EXPECT_EQ(C<QLabel>("lblCliente")->accessibleName(), QString());
     EXPECT_FALSE(C<QCheckBox>("chkFinal")->isChecked());
     EXPECT_EQ(Texto("lblImpPersonalizado"), u"$ 3,00");
     Clic("cmdVCredito");
@@ -236,6 +237,7 @@ TEST_F(VentanaVentas, CreditNeedsACustomerAndTheTaxFollowsHisFiscalId) {
         C<QCheckBox>("chkFinal")->click();
         EXPECT_TRUE(C<QCheckBox>("chkFinal")->isChecked());
         EXPECT_EQ(cliente(), QString());
+        EXPECT_EQ(C<QLabel>("lblCliente")->accessibleName(), u"Sin cliente");
         EXPECT_TRUE(Se("shVContado"));
         EXPECT_EQ(Texto("lblTotal"), u"$ 121,00");
     }

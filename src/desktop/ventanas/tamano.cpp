@@ -8,6 +8,7 @@
 #include <QRegularExpression>
 #include <QScreen>
 
+#include <algorithm>
 #include <utility>
 
 namespace tarvo {
@@ -16,6 +17,7 @@ namespace {
 
 // The sizes that the form gives are kept with the layout, so that steps back and forth don't add up.
 constexpr auto kDelFormulario = "espacioDelFormulario";
+constexpr auto kAire = "aire";
 
 using Medidas = QList<QVariant>;
 
@@ -30,15 +32,35 @@ Medidas Leer(const QLayout &disposicion) {
             rejilla == nullptr ? disposicion.spacing() : rejilla->verticalSpacing()};
 }
 
+bool Apila(const QLayout &disposicion) {
+    const auto *caja = qobject_cast<const QBoxLayout *>(&disposicion);
+    return caja != nullptr && caja->direction() == QBoxLayout::TopToBottom;
+}
+
 void Escribir(QLayout *disposicion, const Medidas &medidas, double factor) {
+    const QVariant aire = disposicion->property(kAire);
     const auto medida = [&](qsizetype i) { return qRound(medidas[i].toInt() * factor); };
-    disposicion->setContentsMargins(medida(0), medida(1), medida(2), medida(3));
+    const auto vertical = [&](qsizetype i) {
+        const int delFormulario = medidas[i].toInt();
+        return std::max(qRound(delFormulario * factor * (aire.isValid() ? aire.toDouble() : 1)),
+                        std::min(delFormulario, 1));
+    };
+    disposicion->setContentsMargins(medida(0), vertical(1), medida(2), vertical(3));
     if (auto *rejilla = qobject_cast<QGridLayout *>(disposicion)) {
         rejilla->setHorizontalSpacing(medida(4));
-        rejilla->setVerticalSpacing(medida(5));
+        rejilla->setVerticalSpacing(vertical(5));
     } else {
-        disposicion->setSpacing(medida(4));
+        disposicion->setSpacing(Apila(*disposicion) ? vertical(4) : medida(4));
     }
+}
+
+void Espaciar(QLayout *disposicion, double factor) {
+    Medidas medidas = disposicion->property(kDelFormulario).toList();
+    if (medidas.isEmpty()) {
+        medidas = Leer(*disposicion);
+        disposicion->setProperty(kDelFormulario, medidas);
+    }
+    Escribir(disposicion, medidas, factor);
 }
 
 QFont LetraDelPrograma(double puntos) {
@@ -56,6 +78,17 @@ QFont LetraDelPrograma(double puntos) {
 QSize LoQueCabe(const QWidget &ventana, const QSize &medida) {
     const QSize marco(16, 40);
     return medida.boundedTo(ventana.screen()->availableSize() - marco);
+}
+
+double Crecido() {
+    return QApplication::font().pointSizeF() / Tamano::kLetra;
+}
+
+void PonerAire(std::initializer_list<QLayout *> disposiciones, double aire) {
+    for (QLayout *disposicion : disposiciones) {
+        disposicion->setProperty(kAire, aire);
+        Espaciar(disposicion, Crecido());
+    }
 }
 
 Tamano::Tamano(QApplication &aplicacion, QString hoja)
@@ -90,18 +123,9 @@ void Tamano::Poner(bool grande) {
 void Tamano::EspaciarVentana(QWidget *control) const {
     if (control->layout() == nullptr)
         return;
-    Espaciar(control->layout());
+    Espaciar(control->layout(), Factor());
     for (QLayout *interior : control->layout()->findChildren<QLayout *>())
-        Espaciar(interior);
-}
-
-void Tamano::Espaciar(QLayout *disposicion) const {
-    Medidas medidas = disposicion->property(kDelFormulario).toList();
-    if (medidas.isEmpty()) {
-        medidas = Leer(*disposicion);
-        disposicion->setProperty(kDelFormulario, medidas);
-    }
-    Escribir(disposicion, medidas, Factor());
+        Espaciar(interior, Factor());
 }
 
 // Every size of the sheet but lines, which stay thin.

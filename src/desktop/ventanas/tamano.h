@@ -5,6 +5,8 @@
 #include <QObject>
 #include <QSize>
 
+#include <initializer_list>
+
 class QApplication;
 class QLayout;
 class QWidget;
@@ -13,6 +15,13 @@ namespace tarvo {
 
 // As much of `medida` as the screen of `ventana` has room for, beside what the desktop puts around a window.
 QSize LoQueCabe(const QWidget &ventana, const QSize &medida);
+
+// What type and spacing have grown by.
+double Crecido();
+
+// Makes the vertical room in and between what these layouts hold `aire` times that of the form; no gap that
+// the form has goes away.
+void PonerAire(std::initializer_list<QLayout *> disposiciones, double aire);
 
 class Tamano final : public QObject {
     Q_OBJECT
@@ -32,7 +41,6 @@ class Tamano final : public QObject {
 
   private:
     void Poner(bool grande);
-    void Espaciar(QLayout *disposicion) const;
     void EspaciarVentana(QWidget *control) const;
     QString Hoja() const;
     double Factor() const { return grande_ ? kPaso : 1; }

@@ -37,6 +37,8 @@ FrmArticulos::FrmArticulos(const Servicios &servicios, Anfitrion &anfitrion, QWi
                       padre),
       ficha_(std::make_unique<Ui::FichaArticulos>()) {
     ficha_->setupUi(Ficha());
+    constexpr int kLetrasCodigo = 16; // of a barcode, with its margins
+    ficha_->txtCodBarras1->setMinimumWidth(kLetrasCodigo * fontMetrics().horizontalAdvance(u'0'));
     CrearFiltro();
     auto logica = std::make_unique<ArticulosLogica>(servicios.frmBases, servicios.preguntas, Controles(),
                                                     *this, &anfitrion);
@@ -56,6 +58,8 @@ void FrmArticulos::CrearFiltro() {
     cboxFiltrarCategoria->setAccessibleName(QStringLiteral("Filtrar por categoría"));
     cboxFiltrarCategoria->setAccessibleDescription(
         cboxFiltrarCategoria->accessibleName()); // a name is its entry
+    constexpr int kLetrasCodigo = 16;            // of a barcode, with its margins
+    ficha_->txtCodBarras1->setMinimumWidth(kLetrasCodigo * fontMetrics().horizontalAdvance(u'0'));
     cboxFiltrarCategoria->setMinimumContentsLength(28);
     cboxFiltrarCategoria->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     PonerSobreLista(cboxFiltrarCategoria);

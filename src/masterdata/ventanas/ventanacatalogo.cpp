@@ -7,6 +7,7 @@
 #include "desktop/ventanas/iconos.h"
 #include "desktop/ventanas/listavista.h"
 #include "desktop/ventanas/paneles.h"
+#include "desktop/ventanas/tamano.h"
 #include "desktop/ventanas/teclas.h"
 #include "documents/impresoras.h"
 #include "masterdata/ventanas/controlesdetalle.h"
@@ -215,7 +216,8 @@ int VentanaCatalogo::AnchoListaTwips() const {
 }
 
 // The row of buttons says how narrow the window can be, the list how low: where the window would be scrolled
-// the buttons move closer together, and captions and a row and a half are enough.
+// the buttons move closer together, and captions and a row and a half are enough. What stands between them
+// has its share of the height.
 void VentanaCatalogo::Compactar() {
     constexpr int kLetrasHolgadas = 95;
     const int sitio = parentWidget() == nullptr ? width() : parentWidget()->width();
@@ -225,6 +227,13 @@ void VentanaCatalogo::Compactar() {
             Marcar(boton, "compacto", compacto);
     constexpr double kRenglones = 3.75;
     LV().setMinimumHeight(qRound(kRenglones * fontMetrics().height()));
+    constexpr int kBajo = 24; // lines
+    constexpr int kAlto = 40;
+    const int renglones =
+        (parentWidget() == nullptr ? height() : parentWidget()->height()) / fontMetrics().height();
+    PonerAire({ui_->cuerpo, ui_->controles, Ficha()->layout()}, renglones < kBajo   ? 0.5
+                                                                : renglones < kAlto ? 1
+                                                                                    : 1.5);
 }
 
 // The list gets its new width after the window, which itself stays as wide as its buttons.

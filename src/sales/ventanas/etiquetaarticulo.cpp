@@ -56,6 +56,8 @@ QSize EtiquetaArticulo::minimumSizeHint() const {
 }
 
 void EtiquetaArticulo::paintEvent(QPaintEvent *) {
+    constexpr qsizetype kMasQueLaVentana = 1000; // only the beginning can be seen
+    const QString nombre = EnUnaLinea(articulo_.nombre.left(kMasQueLaVentana));
     std::vector<Parte> partes;
     if (!articulo_.conIva.isEmpty()) {
         partes.push_back({QStringLiteral("con IVA"), font(), colores::kTextoTenue});
@@ -63,13 +65,15 @@ void EtiquetaArticulo::paintEvent(QPaintEvent *) {
     }
     if (!articulo_.stock.isEmpty())
         partes.push_back({QStringLiteral("quedan ") + articulo_.stock, font(), colores::kTextoTenue});
-    int libre = width();
+    int libre = width() - kHueco;
     for (const Parte &parte : partes)
         libre -= parte.Ancho();
-    constexpr qsizetype kMasQueLaVentana = 1000; // only the beginning can be seen
-    const QString nombre = EnUnaLinea(articulo_.nombre.left(kMasQueLaVentana));
-    const QString cabe =
-        QFontMetrics(Negrita()).elidedText(nombre, Qt::ElideRight, std::max(libre - kHueco, 0));
+    const QFontMetrics negrita(Negrita());
+    if (!articulo_.conIva.isEmpty() && negrita.horizontalAdvance(nombre) > libre) { // the caption gives way
+        libre += partes.front().Ancho();
+        partes.erase(partes.begin());
+    }
+    const QString cabe = negrita.elidedText(nombre, Qt::ElideRight, std::max(libre, 0));
     setToolTip(cabe == nombre ? QString() : AyudaLlana(nombre));
     partes.insert(partes.begin(), {cabe, Negrita(), palette().color(foregroundRole())});
 

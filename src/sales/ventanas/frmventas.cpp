@@ -45,6 +45,7 @@ FrmVentas::FrmVentas(Servicios servicios, Anfitrion &anfitrion, UltimoComprobant
     pie_ = new QBoxLayout(QBoxLayout::TopToBottom);
     ui_->columnaDatos->insertLayout(ui_->columnaDatos->indexOf(ui_->cmdNuevo), pie_);
     frUltimo = new TarjetaUltimo(ultimo_, servicios_.preguntas);
+    pie_->setSpacing(ui_->columnaDatos->spacing());
     pie_->addWidget(ui_->cmdNuevo, 2);
     pie_->addWidget(frUltimo, 3);
     filtro_ = new FiltroCampos(this);

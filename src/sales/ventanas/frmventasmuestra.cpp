@@ -2,6 +2,7 @@
 #include "desktop/anfitrion.h"
 #include "desktop/reloj.h"
 #include "desktop/ventanas/estilo.h"
+#include "desktop/ventanas/tamano.h"
 #include "masterdata/ventanas/picclientes.h"
 #include "sales/ventanas/frmventas.h"
 #include "sales/ventanas/tarjetaultimo.h"
@@ -32,6 +33,9 @@ void FrmVentas::MostrarTotales(const Totales &totales) {
 void FrmVentas::MostrarCliente() {
     const QSignalBlocker sinEventos(ui_->chkFinal);
     ui_->lblCliente->setText(venta_.Cliente().nombre);
+    // Its hint is painted, and has to be spoken too.
+    ui_->lblCliente->setAccessibleName(
+        venta_.Cliente().nombre.isEmpty() ? ui_->lblCliente->property("sugerencia").toString() : QString());
     ui_->lblRUC->setText(venta_.Cliente().ruc);
     ui_->lblIdCliente->setText(venta_.Cliente().id);
     ui_->chkFinal->setChecked(venta_.ConsumidorFinal());
@@ -108,15 +112,16 @@ void FrmVentas::resizeEvent(QResizeEvent *evento) {
     VentanaModulo::resizeEvent(evento);
     constexpr int kAltoHolgado = 640; // pixels; below it the card is one line, and all stands closer
     constexpr int kAltoJusto = 440;   // below it that line is shared
+    constexpr int kRenglonesDeSobra = 42;
     const bool plegada = height() < kAltoHolgado;
     const bool compartida = height() < kAltoJusto;
+    const bool sobra = height() > kRenglonesDeSobra * fontMetrics().height();
     pie_->setDirection(compartida ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
-    for (QBoxLayout *columna :
-         std::initializer_list<QBoxLayout *>{ui_->columnaDatos, ui_->columnaFicha, pie_})
-        columna->setSpacing(plegada ? 2 : 4);
-    for (QLayout *tarjeta : std::initializer_list<QLayout *>{ui_->rejillaCliente, ui_->rejillaPago,
-                                                             ui_->rejillaTotales, ui_->columnaTotal})
-        tarjeta->setContentsMargins(9, plegada ? 1 : 3, 9, plegada ? 1 : 3);
+    PonerAire({ui_->columnaDatos, ui_->columnaFicha, pie_, ui_->rejillaCliente, ui_->rejillaPago,
+               ui_->rejillaTotales, ui_->columnaTotal},
+              plegada ? 0.4
+              : sobra ? 2
+                      : 1);
     Marcar(ui_->cmdNuevo, "compacto", plegada);
     frUltimo->Plegar(plegada);
     picClientes->Colocar(rect().adjusted(0, ui_->lblTitulo->height(), 0, 0));

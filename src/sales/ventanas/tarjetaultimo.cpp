@@ -4,6 +4,7 @@
 #include "desktop/ventanas/estilo.h"
 #include "desktop/ventanas/etiquetaelidida.h"
 #include "desktop/ventanas/iconos.h"
+#include "desktop/ventanas/tamano.h"
 #include "desktop/ventanas/teclas.h"
 #include "sales/ultimocomprobante.h"
 
@@ -68,7 +69,7 @@ void TarjetaUltimo::Plegar(bool plegada) {
     for (QWidget *control :
          std::initializer_list<QWidget *>{lblUltimo, lblUltimoTotal, cmdReimprimir, cmdFactura})
         rejilla->removeWidget(control);
-    rejilla->setContentsMargins(plegada ? QMargins(4, 0, 0, 0) : QMargins(9, 4, 9, 4));
+    rejilla->setContentsMargins(plegada ? QMargins(4, 0, 0, 0) : QMargins(9, 6, 9, 6) * Crecido());
     rejilla->setSpacing(plegada ? 2 : 4);
     lblUltimo->setVisible(!plegada);
     for (QPushButton *boton : {cmdReimprimir, cmdFactura}) {
