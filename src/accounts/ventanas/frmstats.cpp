@@ -13,6 +13,7 @@
 #include <QBarSet>
 #include <QChart>
 #include <QChartView>
+#include <QGraphicsLayout>
 #include <QValueAxis>
 
 #include <algorithm>
@@ -59,12 +60,11 @@ void FrmStats::CrearGrafico() {
     grafico->addSeries(serie);
     grafico->legend()->hide();
     grafico->setMargins({4, 4, 4, 4});
+    grafico->layout()->setContentsMargins(0, 0, 0, 0); // it stands on a card
+    grafico->setBackgroundRoundness(0);
     ejeDias_ = new QBarCategoryAxis(grafico);
     ejeValores_ = new QValueAxis(grafico);
     ejeDias_->setLabelsColor(colores::kTexto);
-    QFont dias = font();
-    dias.setPointSizeF(dias.pointSizeF() * 0.75); // thirty-one of them stand side by side
-    ejeDias_->setLabelsFont(dias);
     ejeDias_->setTruncateLabels(false);
     ejeDias_->setGridLineVisible(false);
     ejeValores_->setLabelsColor(colores::kTexto);
@@ -94,12 +94,18 @@ void FrmStats::cmdBuscar_Click() {
     ui_->lblRegla->setText(kRegla + AvisoIlegibles(ventas.ilegibles));
 }
 
-// The days stand upright where they don't fit side by side.
+// The days are written smaller where they don't fit side by side, and stand upright where that isn't enough.
 void FrmStats::resizeEvent(QResizeEvent *evento) {
     VentanaModulo::resizeEvent(evento);
-    const int anchoDia = ui_->Chart1->width() / (DiasDelMes(1) + 3);
-    ejeDias_->setLabelsAngle(
-        QFontMetrics(ejeDias_->labelsFont()).horizontalAdvance(QStringLiteral("30 ")) > anchoDia ? -90 : 0);
+    const int anchoDia = width() / (DiasDelMes(1) + 4);
+    const auto cabe = [anchoDia](const QFont &letra) {
+        return QFontMetrics(letra).horizontalAdvance(QStringLiteral("30 ")) <= anchoDia;
+    };
+    QFont dias = font();
+    if (!cabe(dias))
+        dias.setPointSizeF(dias.pointSizeF() * 0.75);
+    ejeDias_->setLabelsFont(dias);
+    ejeDias_->setLabelsAngle(cabe(dias) ? 0 : -90);
 }
 
 void FrmStats::Mostrar(const std::vector<double> &valores, int dias) {
