@@ -3,6 +3,7 @@
 #include "desktop/preguntas.h"
 #include "desktop/ventanas/estilo.h"
 #include "desktop/ventanas/filtrocampos.h"
+#include "desktop/ventanas/tamano.h"
 #include "masterdata/usuarioslogica.h"
 #include "masterdata/ventanas/controlesdetalle.h"
 #include "store/errordatos.h"
@@ -48,6 +49,7 @@ FrmUsuarios::FrmUsuarios(const Servicios &servicios, QWidget *padre)
     ConectarTeclas();
     logica_->LlenarLista();
     controles_->EnfocarLista();
+    resize(LoQueCabe(*this, size() * Crecido()));
 }
 
 FrmUsuarios::~FrmUsuarios() = default;

@@ -2,6 +2,7 @@
 
 #include "desktop/preguntas.h"
 #include "desktop/ventanas/filtrocampos.h"
+#include "desktop/ventanas/tamano.h"
 #include "ui_frmatajos.h"
 
 #include <QKeyEvent>
@@ -47,6 +48,7 @@ FrmAtajos::FrmAtajos(Atajos &atajos, Preguntas &preguntas, std::function<void()>
     ui_->LVAtajos->SeleccionarFila(0);
     MostrarTecla();
     ui_->LVAtajos->setFocus();
+    resize(LoQueCabe(*this, size() * Crecido()));
 }
 
 FrmAtajos::~FrmAtajos() = default;
