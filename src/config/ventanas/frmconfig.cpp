@@ -31,7 +31,7 @@ FrmConfig::FrmConfig(const Servicios &servicios, bool abrirDisenador, QWidget *p
     Llenar();
     ConectarTeclas();
     SeleccionarNodo(abrirDisenador ? kNodoImpresion : 0);
-    resize(LoQueCabe(*this, size().expandedTo(sizeHint())));
+    resize(LoQueCabe(*this, (size() * Crecido()).expandedTo(sizeHint())));
     const auto disenar = [this, servicios] { FrmFactura(servicios, this).exec(); };
     connect(frImpresion, &PanelImpresion::DisenadorPedido, this, disenar);
     if (abrirDisenador) // behind the showing of this window

@@ -83,7 +83,13 @@ void FrmFactura::Presentar() {
     mesa.setColor(QPalette::Window, colores::kEncabezado);
     ui_->mesa->setPalette(mesa);
     ui_->mesa->setAutoFillBackground(true);
-    resize(LoQueCabe(*this, kTamano));
+    const QSize medida = kTamano * Crecido();
+    resize(LoQueCabe(*this, medida));
+    if (width() >= medida.width())
+        return;
+    QSizePolicy politica = ui_->lblTeclas->sizePolicy();
+    politica.setHorizontalPolicy(QSizePolicy::Ignored); // the sheet needs the room more than the hints
+    ui_->lblTeclas->setSizePolicy(politica);
 }
 
 void FrmFactura::MostrarPosicion() {
