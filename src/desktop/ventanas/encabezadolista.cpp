@@ -35,7 +35,7 @@ QSize EncabezadoLista::sectionSizeFromContents(int seccion) const {
     initStyleOption(&opcion);
     initStyleOptionForIndex(&opcion, seccion);
     const QSize texto = style()->sizeFromContents(QStyle::CT_HeaderSection, &opcion, QSize(), this);
-    return {texto.width() + LadoIcono(), texto.height()};
+    return {texto.width() + (sectionsClickable() ? LadoIcono() : 0), texto.height()};
 }
 
 // Tells the key that does what a click does.
