@@ -37,9 +37,11 @@ QStringList Pendientes(const QDir &decididos) {
     return pendientes;
 }
 
+} // namespace
+
 // A journal that a power cut left beside a live file must never be played back into the one that follows it:
 // it is gone from the disk before that one comes.
-void Terminar(const QString &datos) {
+void TerminarReemplazo(const QString &datos) {
     const QDir decididos(Decididos(datos));
     if (!decididos.exists())
         return;
@@ -54,10 +56,8 @@ void Terminar(const QString &datos) {
     QDir(datos).rmdir(decididos.dirName()); // nothing is left in it to do
 }
 
-} // namespace
-
 Reemplazo::Reemplazo(const QString &carpetaDatos) : datos_(carpetaDatos) {
-    Terminar(datos_);
+    TerminarReemplazo(datos_);
     QuitarPreparacion(datos_);
     CrearCarpeta(EnPreparacion(datos_));
 }
@@ -75,7 +75,7 @@ void Reemplazo::Confirmar() {
     Renombrar(EnPreparacion(datos_), Decididos(datos_));
     try {
         SincronizarCarpeta(datos_);
-        Terminar(datos_);
+        TerminarReemplazo(datos_);
     } catch (const ErrorDatos &error) {
         throw ErrorDatos(error.Numero(),
                          error.Descripcion() +
@@ -86,12 +86,14 @@ void Reemplazo::Confirmar() {
 ResultadoApertura AbrirBases(FrmBases &bases) {
     try {
         const Cerrojo cerrojo(bases.CarpetaDatos());
-        Terminar(bases.CarpetaDatos());
+        TerminarReemplazo(bases.CarpetaDatos());
         QuitarPreparacion(bases.CarpetaDatos());
         return bases.AbrirInsistiendo();
     } catch (const ErrorDatos &error) {
-        if (error.Numero() != errores::kBaseBloqueada)
+        if (error.Numero() != errores::kBaseBloqueada) {
+            bases.NoAbrir(error.Descripcion());
             throw;
+        }
         return {EstadoApertura::Bloqueada, QString(), error.Motivo()};
     }
 }

@@ -29,6 +29,10 @@ class Reemplazo {
     QString datos_;
 };
 
+// Finishes what was decided and cut short. Until it has, the live files are old and new ones mixed. Throws
+// ErrorDatos.
+void TerminarReemplazo(const QString &carpetaDatos);
+
 // Opens the data, having first finished or taken back what was cut short. Throws ErrorDatos when that can't
 // be done: the data stay closed then, since they may be old and new ones mixed.
 ResultadoApertura AbrirBases(FrmBases &bases);

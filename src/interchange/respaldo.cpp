@@ -64,6 +64,7 @@ Resultado Respaldar(FrmBases &bases, const PedidoRespaldo &pedido, Avance &avanc
     bases.Cerrar();
     const Cerrojo cerrojo(bases.CarpetaDatos());
     const QDir datos(bases.CarpetaDatos());
+    TerminarReemplazo(datos.path()); // no copy of old and new files mixed
     std::vector<Examen> examenes;
     for (std::size_t i = 0; i < kBases; ++i) {
         if (pedido.respaldar[i]) {

@@ -126,6 +126,11 @@ ResultadoApertura FrmBases::Abrir() {
     return resultado;
 }
 
+void FrmBases::NoAbrir(const QString &motivo) {
+    if (alAbrirse_)
+        alAbrirse_({EstadoApertura::Parcial, QString(), motivo});
+}
+
 ResultadoApertura FrmBases::AbrirArchivos() {
     Cerrar();
     ResultadoApertura resultado;

@@ -46,6 +46,8 @@ class FrmBases {
     // The same; while a file is busy it tries again for `plazo`, with waits of random length in between, so
     // that of two processes that start at once one gets the files.
     ResultadoApertura AbrirInsistiendo(std::chrono::milliseconds plazo = std::chrono::milliseconds(1500));
+    // The files stay closed: tells whoever listens to their opening why.
+    void NoAbrir(const QString &motivo);
     // Opens datUsuarios, which no opening of the files does; makes its table in config.mdb when it isn't
     // there. Throws ErrorDatos when the files are closed or the disk refuses.
     void AbrirUsuarios();

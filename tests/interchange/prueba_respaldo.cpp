@@ -82,6 +82,23 @@ TEST_F(PruebaRespaldo, AJournalIsNotPlayedBackIntoARestoredFile) {
     EXPECT_EQ(tienda.Marcas("Datos"), kNuevas);
 }
 
+// Until it is finished the live files are a mixture.
+TEST_F(PruebaRespaldo, ACutReplacementIsFinishedBeforeABackup) {
+    QString dicho;
+    bases.AlAbrirse([&](const ResultadoApertura &resultado) { dicho = resultado.motivo; });
+    QDir(tienda.Carpeta()).mkdir(u"Datos/nuevos"_qs);
+    QFile::copy(tienda.Ruta("respaldo/ventas.mdb"), tienda.Ruta("Datos/nuevos/ventas.mdb"));
+    QDir(tienda.Carpeta()).mkpath(u"Datos/ventas.mdb-journal/lleno"_qs); // can't be taken away
+    const std::string motivo = TextoDe([&] { Respalda(kTodas); });
+    EXPECT_EQ(tienda.Marcas("copia"), "falta falta falta falta falta");
+    EXPECT_EQ(TextoDe([&] { AbrirBases(bases); }), motivo);
+    EXPECT_EQ(dicho.toStdString(), motivo);
+    QDir(tienda.Ruta("Datos/ventas.mdb-journal")).removeRecursively();
+    QDir(tienda.Ruta("copia")).removeRecursively();
+    Respalda(kTodas);
+    EXPECT_EQ(tienda.Marcas("copia"), "viejo nuevo viejo viejo viejo");
+}
+
 TEST_F(PruebaRespaldo, EndsBetweenFilesWhenAskedTo) {
     int archivos = 0;
     avance.antes = [&] { return ++archivos < 3; };
