@@ -4,6 +4,8 @@
 #include "desktop/preguntas.h"
 #include "store/store.h"
 
+#include <algorithm>
+
 namespace tarvo {
 
 QString LineasDetalle::Cargar() {
@@ -20,7 +22,10 @@ bool LineasDetalle::Escribir(const QString &texto) {
 }
 
 bool LineasDetalle::Admite(const QString &texto) {
-    if (Moneda::NumeroNeutro(texto) <= kMaximo)
+    // More digits than a number has read as none, and are more lines than any.
+    const bool desmedido =
+        !Moneda::EsNumero(texto) && std::ranges::all_of(texto, [](QChar c) { return c.isDigit(); });
+    if (!desmedido && Moneda::NumeroNeutro(texto) <= kMaximo)
         return true;
     servicios_.preguntas.Informar(
         QStringLiteral("La cantidad de lineas de detalle debe ser menor o igual a 30."));

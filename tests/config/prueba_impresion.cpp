@@ -71,10 +71,12 @@ TEST_F(Impresion, MoreThanThirtyLinesAreRefusedOnLeavingTheField) {
     EXPECT_EQ(CantLineas(), u"30");
     EXPECT_EQ(Campo("txtLinDetalle")->selectedText(), u"30");
 
-    Teclear("txtLinDetalle", "31");
-    EsperaMensaje(mensaje);
-    PulsarNodo(0);
-    EXPECT_EQ(CantLineas(), u"30");
+    for (const std::string &lineas : {std::string("31"), std::string(101, '4')}) {
+        Campo("txtLinDetalle")->setText(QString::fromStdString(lineas));
+        EsperaMensaje(mensaje);
+        PulsarNodo(0);
+        EXPECT_EQ(CantLineas(), u"30");
+    }
     EXPECT_EQ(ConFoco(), u"txtLinDetalle");
     EXPECT_EQ(Campo("txtLinDetalle")->selectedText(), u"30");
     PulsarNodo(0);
