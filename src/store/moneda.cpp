@@ -124,24 +124,29 @@ void AgregarDecimal(std::string &salida, const Decimal &numero, std::string_view
         salida.insert(signo, 1, '-');
 }
 
-// The decimal digits of a double: 15 significant ones, written out without an exponent.
+// The decimal digits of a double, written out without an exponent: 15 significant ones, or as many as tell it
+// from its neighbours where 15 don't reach the hundredths.
 struct Digitos {
-    std::array<char, 15> cifras{};
+    std::string cifras;
     int exponente = 0; // of ten, of the first digit
     bool negativo = false;
 };
 
 Digitos DigitosDe(double valor) {
+    constexpr double kGrande = 1e13;
     std::array<char, 32> bufer{};
-    const auto fin = std::to_chars(bufer.data(), bufer.data() + bufer.size(), std::fabs(valor),
-                                   std::chars_format::scientific, 14);
-    Digitos digitos;
-    digitos.negativo = std::signbit(valor);
-    digitos.cifras[0] = bufer[0];
-    for (std::size_t i = 1; i < digitos.cifras.size(); ++i)
-        digitos.cifras[i] = bufer[i + 1];
-    const char *exponente = bufer.data() + 17; // behind "d.dddddddddddddde"
-    std::from_chars(*exponente == '+' ? exponente + 1 : exponente, fin.ptr, digitos.exponente);
+    char *const limite = bufer.data() + bufer.size();
+    const double magnitud = std::fabs(valor);
+    const char *const fin =
+        magnitud < kGrande
+            ? std::to_chars(bufer.data(), limite, magnitud, std::chars_format::scientific, 14).ptr
+            : std::to_chars(bufer.data(), limite, magnitud, std::chars_format::scientific).ptr;
+    const std::string_view texto(bufer.data(), static_cast<std::size_t>(fin - bufer.data()));
+    const std::size_t mantisa = texto.find('e'); // "d.dddde+13"
+    const char *const exponente = bufer.data() + mantisa + 1;
+    Digitos digitos{std::string(texto.substr(0, mantisa)), 0, std::signbit(valor)};
+    std::erase(digitos.cifras, '.');
+    std::from_chars(*exponente == '+' ? exponente + 1 : exponente, fin, digitos.exponente);
     return digitos;
 }
 
@@ -177,7 +182,7 @@ void AgregarDoble(std::string &salida, double valor, std::string_view separador)
         return;
     }
     const Digitos digitos = DigitosDe(std::isfinite(valor) ? valor : 0.0);
-    const std::string_view cifras(digitos.cifras.data(), digitos.cifras.size());
+    const std::string_view cifras(digitos.cifras);
     std::string enteros;
     std::string decimales;
     if (digitos.exponente < 0) {
