@@ -1,4 +1,5 @@
 #include "desktop/ventanas/filtrocampos.h"
+#include "desktop/ventanas/kitmenu.h"
 #include "desktop/ventanas/paneles.h"
 #include "desktop/ventanas/teclasostenida.h"
 #include "testkit/manos.h"
@@ -7,6 +8,7 @@
 #include <QDialog>
 #include <QHBoxLayout>
 #include <QKeyEvent>
+#include <QMenu>
 #include <QSpinBox>
 
 namespace tarvo {
@@ -57,23 +59,26 @@ TEST(FiltroCampos, EnterWalksTheFieldsAndPressesButtons) {
     EXPECT_EQ(ventana.txtUno->text(), u"uno");
 }
 
+// A stroke at a time in ms.
+void Golpear(QWidget *control, int tecla, quint64 momento, bool repetida = false) {
+    const QString texto = tecla < Qt::Key_Escape ? QString(QChar(tecla)) : QString();
+    QKeyEvent evento(QEvent::KeyPress, tecla, Qt::NoModifier, texto, repetida);
+    evento.setTimestamp(momento);
+    QApplication::sendEvent(control, &evento);
+}
+
 // What the system calls a repeated key is one only when it comes as late as those do: a scanner sends its
 // Enter twice at once, also behind two equal figures.
 TEST(FiltroCampos, AHeldEnterPressesOnceAndASecondOneAtOnceIsItsOwn) {
     VentanaDeCampos ventana;
     const QSignalSpy pulsado(ventana.cmdCuatro, &QPushButton::clicked);
-    const auto tecla = [](QWidget *control, Qt::Key cual, quint64 momento, bool repetida) {
-        QKeyEvent evento(QEvent::KeyPress, cual, Qt::NoModifier, QString(), repetida);
-        evento.setTimestamp(momento);
-        QApplication::sendEvent(control, &evento);
-    };
-    tecla(ventana.cmdCuatro, Qt::Key_Return, 1000, false);
+    Golpear(ventana.cmdCuatro, Qt::Key_Return, 1000);
     for (const quint64 momento : {1500U, 1530U, 1560U})
-        tecla(ventana.cmdCuatro, Qt::Key_Return, momento, true);
+        Golpear(ventana.cmdCuatro, Qt::Key_Return, momento, true);
     EXPECT_EQ(pulsado.size(), 1);
-    tecla(ventana.txtUno, Qt::Key_5, 3000, false);
-    tecla(ventana.txtUno, Qt::Key_5, 3000, true);
-    tecla(ventana.cmdCuatro, Qt::Key_Return, 3001, true);
+    Golpear(ventana.txtUno, Qt::Key_5, 3000);
+    Golpear(ventana.txtUno, Qt::Key_5, 3000, true);
+    Golpear(ventana.cmdCuatro, Qt::Key_Return, 3001, true);
     EXPECT_EQ(pulsado.size(), 2);
 }
 
@@ -111,6 +116,19 @@ TEST(TeclaSostenida, ActsInItsOwnWindowOnly) {
     nueva.setTimestamp(2000);
     QApplication::sendEvent(otro.windowHandle(), &nueva);
     EXPECT_EQ(otro.text(), u"a");
+}
+
+TEST(FiltroCampos, TheEnterOfAScanChoosesNoEntryOfAMenu) {
+    QMenu menu;
+    LlenarMenu(&menu, {{u"salir"_qs, u"Salir"_qs}});
+    const QSignalSpy elegida(menu.actions().constFirst(), &QAction::triggered);
+    menu.popup({});
+    menu.setActiveAction(menu.actions().constFirst());
+    for (const int tecla : std::initializer_list<int>{'7', '7', '9', Qt::Key_Return, Qt::Key_Return})
+        Golpear(&menu, tecla, 1000);
+    EXPECT_EQ(elegida.size(), 0);
+    Golpear(&menu, Qt::Key_Return, 2000);
+    EXPECT_EQ(elegida.size(), 1);
 }
 
 TEST(FiltroCampos, AWindowNamesItsExceptions) {

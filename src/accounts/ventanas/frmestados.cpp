@@ -243,12 +243,12 @@ void FrmEstados::EnfocarCantidad() {
 
 // A code that a scanner typed is no amount: the field gets back what it held, and stays.
 void FrmEstados::EntrarCantidad() {
-    const QString leido = filtro_->Leido();
+    const QString leido = filtro_->Ritmo().Leido();
     if (!EsCodigo(leido)) {
         ui_->cmdAgregar->setFocus();
         return;
     }
-    ui_->txtCantidad->setText(filtro_->AntesDeLeer());
+    ui_->txtCantidad->setText(filtro_->Ritmo().AntesDeLeer());
     ui_->txtCantidad->selectAll();
     AvisarCampo(ui_->txtCantidad, QStringLiteral("«%1» no es un importe: es un código leído.").arg(leido));
 }

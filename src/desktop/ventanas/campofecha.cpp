@@ -1,7 +1,7 @@
 #include "desktop/ventanas/campofecha.h"
 
 #include "desktop/ventanas/avisarcampo.h"
-#include "desktop/ventanas/filtrocampos.h"
+#include "desktop/ventanas/ritmoteclas.h"
 
 #include <QApplication>
 #include <QCalendarWidget>

@@ -1,7 +1,7 @@
 #include "desktop/ventanas/campohora.h"
 
 #include "desktop/ventanas/avisarcampo.h"
-#include "desktop/ventanas/filtrocampos.h"
+#include "desktop/ventanas/ritmoteclas.h"
 
 #include <QKeyEvent>
 #include <QLineEdit>

@@ -33,10 +33,6 @@ void SinFocoPorRueda(QWidget *control) {
         control->setFocusPolicy(Qt::StrongFocus);
 }
 
-bool EsEntrar(const QKeyEvent &evento) {
-    return evento.key() == Qt::Key_Return || evento.key() == Qt::Key_Enter;
-}
-
 bool SinModificador(const QKeyEvent &evento) {
     return (evento.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
 }
@@ -85,13 +81,6 @@ void Anotar(QObject *filtro, QHash<QObject *, Accion> &tabla, QWidget *control, 
 }
 
 } // namespace
-
-QString CaracterDe(const QKeyEvent &evento) {
-    const bool conOrden =
-        (evento.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) != 0;
-    const QString texto = evento.text();
-    return conOrden || texto.isEmpty() || !texto.front().isPrint() ? QString() : texto;
-}
 
 FiltroCampos::FiltroCampos(QWidget *ventana) : QObject(ventana), ventana_(ventana) {
     Vigilar(ventana);
@@ -166,7 +155,7 @@ bool FiltroCampos::eventFilter(QObject *objeto, QEvent *evento) {
         return false;
     case QEvent::KeyPress: {
         auto *const tecla = static_cast<QKeyEvent *>(evento);
-        Apuntar(recibe, *tecla);
+        ritmo_.Apuntar(recibe, *tecla);
         return recibe->window() == ventana_->window() && Tecla(recibe, tecla);
     }
     case QEvent::FocusIn:
@@ -187,25 +176,6 @@ bool FiltroCampos::eventFilter(QObject *objeto, QEvent *evento) {
     default:
         return false;
     }
-}
-
-void FiltroCampos::Apuntar(const QWidget *recibe, const QKeyEvent &evento) {
-    if (recibe != ultima_.recibe && recibe->isAncestorOf(ultima_.recibe))
-        return; // left alone by its control, the stroke comes by once more
-    anterior_ = std::exchange(ultima_, {recibe, evento.key(), evento.timestamp(), evento.isAutoRepeat(), {}});
-    const QString caracter = CaracterDe(evento);
-    if (caracter.isEmpty() && !EsEntrar(evento))
-        return;
-    ultima_.leido = Leido() + caracter;
-    if (const auto *campo = qobject_cast<const QLineEdit *>(recibe);
-        campo != nullptr && ultima_.leido.size() == caracter.size())
-        antesDeLeer_ = campo->text();
-}
-
-QString FiltroCampos::Leido() const {
-    constexpr quint64 kRitmo = 100; // ms
-    const bool seguida = ultima_.momento != 0 && ultima_.momento - anterior_.momento < kRitmo;
-    return seguida && ultima_.recibe == anterior_.recibe ? anterior_.leido : QString();
 }
 
 // A choice is never wheeled; a number or a date is while it is being edited.
@@ -231,7 +201,7 @@ bool FiltroCampos::Tecla(QWidget *recibe, QKeyEvent *evento) {
         return true;
     if (!SinModificador(*evento))
         return false;
-    if (EsEntrar(*evento))
+    if (EsEntrar(evento->key()))
         return Entrar(control, *evento);
     if (evento->key() == Qt::Key_Delete && alSuprimir_.contains(control)) {
         alSuprimir_.value(control)();
@@ -258,31 +228,21 @@ bool FiltroCampos::Escribir(QWidget *control, const QKeyEvent &evento) {
     return false;
 }
 
-// The system takes the second of two strokes for a held key when it comes as the first one ends, as from a
-// scanner that sends its Enter twice. A key that is held begins to repeat much later.
-bool FiltroCampos::Sostenida(const QKeyEvent &evento) const {
-    constexpr quint64 kEsperaMenor = 100; // ms
-    const bool enSerie = anterior_.repetida && anterior_.tecla == evento.key();
-    const bool segunda =
-        evento.timestamp() != 0 && !enSerie && evento.timestamp() - anterior_.momento < kEsperaMenor;
-    return evento.isAutoRepeat() && !segunda;
-}
-
 bool FiltroCampos::Entrar(QWidget *control, const QKeyEvent &evento) {
     if (alEntrar_.contains(control)) {
         alEntrar_.value(control)();
         return true;
     }
-    if (qobject_cast<QAbstractButton *>(control) != nullptr && !Leido().isEmpty())
+    if (qobject_cast<QAbstractButton *>(control) != nullptr && !ritmo_.Leido().isEmpty())
         return true; // the end of a scan
     if (qobject_cast<BotonZel *>(control) != nullptr) {
-        const bool otra = evento.isAutoRepeat() && !Sostenida(evento);
+        const bool otra = evento.isAutoRepeat() && !ritmo_.Sostenida();
         if (otra)
             PulsarDeNuevo(*control, evento);
         return otra; // else the button takes the key itself
     }
     if (auto *boton = qobject_cast<QAbstractButton *>(control); boton != nullptr && !boton->isCheckable()) {
-        if (!Sostenida(evento))
+        if (!ritmo_.Sostenida())
             boton->click();
         return true;
     }

@@ -8,6 +8,8 @@
 // behind.
 #pragma once
 
+#include "desktop/ventanas/ritmoteclas.h"
+
 #include <QHash>
 #include <QObject>
 #include <QPointer>
@@ -18,9 +20,6 @@ class QKeyEvent;
 class QWidget;
 
 namespace tarvo {
-
-// The character that this key types, empty when it types none.
-QString CaracterDe(const QKeyEvent &evento);
 
 class FiltroCampos : public QObject {
     Q_OBJECT
@@ -40,12 +39,8 @@ class FiltroCampos : public QObject {
     // A character (not the blank) that is typed on a control of `marco` without text of its own, as on a
     // list.
     void AlEscribir(QWidget *marco, std::function<void(const QString &caracter)> accion);
-    // The characters that came into the control with the focus at the pace of a scanner before the Enter that
-    // is being handled, which ends its codes so, once or twice; also those that the control doesn't take.
-    // Such an Enter presses no button.
-    QString Leido() const;
-    // What the field held when they began to come.
-    const QString &AntesDeLeer() const { return antesDeLeer_; }
+    // Of the strokes that came to the controls of the window. The Enter of a scan presses no button.
+    const RitmoTeclas &Ritmo() const { return ritmo_; }
     // Escape anywhere in the window; the action returns false when it had nothing to do.
     void AlEscapar(std::function<bool()> accion);
 
@@ -53,22 +48,12 @@ class FiltroCampos : public QObject {
     bool eventFilter(QObject *objeto, QEvent *evento) override;
 
   private:
-    struct Pulsacion {
-        QPointer<const QWidget> recibe;
-        int tecla = 0;
-        quint64 momento = 0; // ms
-        bool repetida = false;
-        QString leido; // characters at the pace of a scanner, of which it is the last
-    };
-    void Apuntar(const QWidget *recibe, const QKeyEvent &evento);
-
     void Vigilar(QWidget *control);
     QWidget *ControlDe(QWidget *recibe) const;
     bool AdmiteRueda(QWidget *recibe) const;
     bool Tecla(QWidget *recibe, QKeyEvent *evento);
     bool Escribir(QWidget *control, const QKeyEvent &evento);
     bool Entrar(QWidget *control, const QKeyEvent &evento);
-    bool Sostenida(const QKeyEvent &evento) const;
     bool Escapar();
     void CambiarFoco(QWidget *ahora);
     void AvisarFoco(QWidget *control, bool entra);
@@ -82,9 +67,7 @@ class FiltroCampos : public QObject {
     std::function<bool()> alEscapar_;
     QPointer<QWidget> enfocado_; // control whose entering was told; stays it while another window is active
     QPointer<QWidget> porRaton_; // field that a mouse button, still down, gave the focus
-    Pulsacion ultima_;
-    Pulsacion anterior_;
-    QString antesDeLeer_;
+    RitmoTeclas ritmo_;
     bool escapeVisto_ = false; // this stroke found nothing to do and is on its way up to the window
 };
 

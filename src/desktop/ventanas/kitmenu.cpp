@@ -1,8 +1,10 @@
 #include "desktop/ventanas/kitmenu.h"
 
 #include "desktop/ventanas/iconos.h"
+#include "desktop/ventanas/ritmoteclas.h"
 
 #include <QAction>
+#include <QKeyEvent>
 #include <QKeySequence>
 #include <QMenu>
 #include <QToolBar>
@@ -20,9 +22,28 @@ void Vestir(QAction *accion, const EntradaMenu &entrada) {
     accion->setShortcut(QKeySequence(entrada.atajo, QKeySequence::PortableText));
 }
 
+// The Enter of a scan chooses no entry.
+class SinLectura final : public QObject {
+  public:
+    using QObject::QObject;
+
+  protected:
+    bool eventFilter(QObject *menu, QEvent *evento) override {
+        if (evento->type() != QEvent::KeyPress)
+            return false;
+        const auto &tecla = *static_cast<QKeyEvent *>(evento);
+        ritmo_.Apuntar(static_cast<QWidget *>(menu), tecla);
+        return EsEntrar(tecla.key()) && !ritmo_.Leido().isEmpty();
+    }
+
+  private:
+    RitmoTeclas ritmo_;
+};
+
 } // namespace
 
 void LlenarMenu(QMenu *menu, const QList<EntradaMenu> &entradas) {
+    menu->installEventFilter(new SinLectura(menu));
     for (const EntradaMenu &entrada : entradas) {
         if (entrada.EsSeparador()) {
             menu->addSeparator();

@@ -24,8 +24,8 @@ struct EntradaMenu {
     bool EsSeparador() const { return clave.isEmpty() && texto.isEmpty(); }
 };
 
-// Adds the entries to `menu`. The actions belong to it and carry their key as objectName; a submenu's action
-// too.
+// Adds the entries to `menu`, of which the Enter of a scan chooses none. The actions belong to it and carry
+// their key as objectName; a submenu's action too.
 void LlenarMenu(QMenu *menu, const QList<EntradaMenu> &entradas);
 // Lets the Tab key reach the buttons of `barra`, which come right after `anterior` (null: where they stand).
 // Returns the last one.

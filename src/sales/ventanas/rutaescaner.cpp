@@ -1,6 +1,6 @@
 #include "sales/ventanas/rutaescaner.h"
 
-#include "desktop/ventanas/filtrocampos.h"
+#include "desktop/ventanas/ritmoteclas.h"
 
 #include <QAbstractItemView>
 #include <QAction>
