@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QEvent>
 #include <QFocusFrame>
+#include <QMenuBar>
 #include <QPainter>
 
 namespace tarvo {
@@ -22,6 +23,12 @@ bool Recorta(const QWidget *parte) {
 
 QRect EnVentana(const QWidget *parte) {
     return {parte->mapTo(parte->window(), QPoint()), parte->size()};
+}
+
+// A window as a whole needs no ring; a menu bar and a list that has opened show what is chosen in them.
+bool MarcaLoSuyo(const QWidget &control) {
+    return control.isWindow() || control.window()->windowType() == Qt::Popup ||
+           qobject_cast<const QMenuBar *>(&control) != nullptr;
 }
 
 } // namespace
@@ -85,7 +92,7 @@ void MarcoFoco::Seguir(QWidget *control) {
         if (parte != nullptr)
             parte->removeEventFilter(this);
     camino_.clear();
-    control_ = control == nullptr || control->isWindow() ? nullptr : control;
+    control_ = control == nullptr || MarcaLoSuyo(*control) ? nullptr : control;
     for (QWidget *parte = control_; parte != nullptr;
          parte = parte->isWindow() ? nullptr : parte->parentWidget()) {
         parte->installEventFilter(this);
