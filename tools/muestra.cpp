@@ -14,7 +14,7 @@ namespace {
 
 int Usar() {
     QTextStream(stderr) << "Uso: muestra <carpeta> [articulos clientes ventas]\n"
-                           "Crea en <carpeta> una carpeta Datos con una tienda de muestra. Sin medidas: "
+                           "Crea en <carpeta> una tienda de muestra: las carpetas Datos y facturas. Sin medidas: "
                         << MedidaTienda().articulos << " artículos, " << MedidaTienda().clientes
                         << " clientes y " << MedidaTienda().ventas << " ventas.\n";
     return 2;
@@ -43,7 +43,7 @@ int Hacer(const QString &carpeta, const MedidaTienda &medida) {
 
 int main(int argc, char **argv) {
     MedidaTienda medida;
-    if (argc != 2 && argc != 5)
+    if ((argc != 2 && argc != 5) || argv[1][0] == '-')
         return Usar();
     if (argc == 5 &&
         !(Leer(argv[2], medida.articulos) && Leer(argv[3], medida.clientes) && Leer(argv[4], medida.ventas)))
