@@ -13,10 +13,11 @@ using namespace tarvo;
 namespace {
 
 int Usar() {
-    QTextStream(stderr) << "Uso: muestra <carpeta> [articulos clientes ventas]\n"
-                           "Crea en <carpeta> una tienda de muestra: las carpetas Datos y facturas. Sin medidas: "
-                        << MedidaTienda().articulos << " artículos, " << MedidaTienda().clientes
-                        << " clientes y " << MedidaTienda().ventas << " ventas.\n";
+    QTextStream(stderr)
+        << "Uso: muestra <carpeta> [articulos clientes ventas]\n"
+           "Crea en <carpeta> una tienda de muestra: las carpetas Datos y facturas. Sin medidas: "
+        << MedidaTienda().articulos << " artículos, " << MedidaTienda().clientes << " clientes y "
+        << MedidaTienda().ventas << " ventas.\n";
     return 2;
 }
 
