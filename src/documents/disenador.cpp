@@ -18,6 +18,7 @@ namespace tarvo {
 namespace {
 
 constexpr int kMinimoEtiqueta = 10; // pixels
+constexpr double kAsidero = 120;    // twips of a piece that the mouse can take well
 constexpr int kMaximoEtiqueta = 600;
 constexpr int kPasos = 1000; // that can be undone
 
@@ -96,11 +97,12 @@ QRect Disenador::EnLienzo(int numero) const {
     const QSizeF tamano = Tamano(numero);
     const double ancho = std::clamp<double>(tamano.width(), kMinimoEtiqueta * kTwipsPorPixel,
                                             std::max<double>(kAnchoLienzo, Logo().width() * kTwipsPorPixel));
-    const bool suelta = numero != arrastrada_;
-    // A logo larger than the canvas keeps its place at the upper left corner.
-    const double x = suelta ? std::max(Dentro(de.left, ancho, kAnchoLienzo), 0.0F) : de.left;
-    const double y = suelta ? std::max(Dentro(de.top, tamano.height(), kAltoLienzo), 0.0F) : de.top;
-    return {APixeles(x), APixeles(y), APixeles(ancho), APixeles(tamano.height())};
+    QRectF lugar(de.left, de.top, ancho, tamano.height());
+    const QRectF visto = lugar & QRectF(0, 0, kAnchoLienzo, kAltoLienzo);
+    if (numero != arrastrada_ && (visto.width() < kAsidero || visto.height() < kAsidero))
+        lugar.moveTo(std::max(Dentro(de.left, ancho, kAnchoLienzo), 0.0F),
+                     std::max(Dentro(de.top, tamano.height(), kAltoLienzo), 0.0F));
+    return {APixeles(lugar.x()), APixeles(lugar.y()), APixeles(ancho), APixeles(tamano.height())};
 }
 
 QString Disenador::Rotulo(int numero) const {

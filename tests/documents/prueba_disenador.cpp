@@ -102,6 +102,22 @@ TEST_F(DisenadorPrueba, DragsByTheMouseAndClampsAtTheDrop) {
     EXPECT_EQ(nombre->pos(), QPoint(0, 401));
 }
 
+// Where only a part of the sheet is seen, it moves below a piece that is held at the border.
+TEST_F(DisenadorPrueba, TheSheetMovesBelowAHeldPieceAndThePieceStaysAtTheCursor) {
+    ventana->resize(500, 300);
+    QLabel *nombre = Pieza("lblCliCodigo");
+    QWidget *lienzo = C("picFactura");
+    const QPoint antes = lienzo->mapToGlobal(QPoint(0, 0));
+    QTest::mousePress(nombre, Qt::LeftButton);
+    const QPoint cursor(C("areaHoja")->width() - 30, 60);
+    Mover(nombre, cursor);
+    const QPoint fijo = lienzo->mapToGlobal(cursor);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return lienzo->mapToGlobal(QPoint(0, 0)).x() < antes.x() - 50; }));
+    EXPECT_EQ(nombre->pos(), lienzo->mapFromGlobal(fijo));
+    QTest::mouseRelease(nombre, Qt::LeftButton);
+    EXPECT_EQ(nombre->pos(), lienzo->mapFromGlobal(fijo));
+}
+
 TEST_F(DisenadorPrueba, KeysMoveHideUndoAndWalk) {
     QLabel *codigo = Pieza("lblCliCodigo");
     codigo->setFocus();
@@ -299,6 +315,11 @@ TEST_F(DisenadorPrueba, PicksLogoAndBackground) {
     EXPECT_EQ(Pieza("imgLogo")->size(), QSize(160, 90));
     espera("cmdSelImagen", kLogo, buena);
     EXPECT_EQ(Pieza("imgLogo")->geometry(), QRect(16, 16, 40, 30));
+    const QString grande = carpeta.filePath(u"grande.bmp"_qs);
+    QImage(800, 30, QImage::Format_RGB32).save(grande);
+    espera("cmdSelImagen", kLogo, grande);
+    EXPECT_EQ(Pieza("imgLogo")->geometry(), QRect(16, 16, 800, 30)) << "where the paper has it";
+    espera("cmdSelImagen", kLogo, buena);
     espera("cmdSelFondo", "Seleccione una imagen de fondo para prueba...", buena);
     EXPECT_EQ(C("picFactura")->grab().toImage().pixelColor(5, 5), QColor(Qt::red));
 

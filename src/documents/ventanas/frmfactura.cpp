@@ -9,14 +9,27 @@
 #include "ui_frmfactura.h"
 
 #include <QFileInfo>
+#include <QScrollBar>
 #include <QShortcut>
+
+#include <algorithm>
+#include <chrono>
 
 namespace tarvo {
 
 namespace {
 
 constexpr QSize kTamano{980, 620};
-constexpr int kBordeVisible = 24; // of the sheet, beyond the cursor that drags a piece
+constexpr int kBorde = 24; // pixels inside what is seen of the sheet, where a held piece moves the sheet
+constexpr int kPasoMayor = 24;
+constexpr std::chrono::milliseconds kCuadro{30};
+
+// Pixels by which the sheet moves at a time, for a cursor at `valor` of `largo`.
+int Paso(int valor, int largo) {
+    constexpr int kFreno = 3;
+    const int dentro = std::clamp(valor, kBorde, std::max(kBorde, largo - kBorde));
+    return std::clamp((valor - dentro) / kFreno, -kPasoMayor, kPasoMayor);
+}
 
 QString Milimetros(float twips) {
     constexpr double kTwipsPorMilimetro = 1440 / 25.4;
@@ -62,13 +75,32 @@ void FrmFactura::ConectarOrdenes() {
     connect(ui_->cmdSelFondo, &QPushButton::clicked, &disenador_, &Disenador::ElegirFondo);
     connect(ui_->cmdImprimir, &QPushButton::clicked, &disenador_, &Disenador::Imprimir);
     connect(ui_->picFactura, &Lienzo::TrabajoCambiado, this, &FrmFactura::MostrarPosicion);
-    connect(ui_->picFactura, &Lienzo::CursorMovido, this, [this](const QPoint &lugar) {
-        const QPoint enMesa = ui_->picFactura->mapTo(ui_->mesa, lugar);
-        ui_->areaHoja->ensureVisible(enMesa.x(), enMesa.y(), kBordeVisible, kBordeVisible);
-    });
+    connect(ui_->picFactura, &Lienzo::CursorMovido, this, &FrmFactura::VigilarBorde);
+    connect(ui_->picFactura, &Lienzo::PiezaSoltada, &desplazamiento_, &QTimer::stop);
+    connect(&desplazamiento_, &QTimer::timeout, this, &FrmFactura::Desplazar);
     connect(&disenador_, &Disenador::NoGuardado, this, [this](const QString &motivo) {
         ui_->lblPosicion->setText(QStringLiteral("No se guardó: %1").arg(motivo));
     });
+}
+
+// While a piece is held at the border of what is seen of the sheet, the sheet moves: the faster the farther
+// out.
+void FrmFactura::VigilarBorde(const QPoint &lugar) {
+    const QWidget *vista = ui_->areaHoja->viewport();
+    const QPoint enVista = ui_->picFactura->mapTo(vista, lugar);
+    paso_ = {Paso(enVista.x(), vista->width()), Paso(enVista.y(), vista->height())};
+    if (paso_.isNull())
+        desplazamiento_.stop();
+    else if (!desplazamiento_.isActive())
+        desplazamiento_.start(kCuadro);
+}
+
+void FrmFactura::Desplazar() {
+    QScrollBar *const horizontal = ui_->areaHoja->horizontalScrollBar();
+    QScrollBar *const vertical = ui_->areaHoja->verticalScrollBar();
+    horizontal->setValue(horizontal->value() + paso_.x());
+    vertical->setValue(vertical->value() + paso_.y());
+    ui_->picFactura->Seguir();
 }
 
 void FrmFactura::CrearTeclas() {

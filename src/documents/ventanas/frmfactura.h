@@ -5,6 +5,8 @@
 #include "desktop/ventanas/dialogo.h"
 #include "documents/disenador.h"
 
+#include <QTimer>
+
 #include <memory>
 
 namespace tarvo {
@@ -27,11 +29,15 @@ class FrmFactura : public Dialogo {
     void CrearTeclas();
     void Presentar();
     void MostrarPosicion();
+    void VigilarBorde(const QPoint &lugar);
+    void Desplazar();
     void InsertarEtiqueta();
     void AdministrarCampos();
 
     Disenador disenador_;
     std::unique_ptr<Ui::FrmFactura> ui_;
+    QTimer desplazamiento_; // runs while a held piece moves the sheet by paso_
+    QPoint paso_;
 };
 
 } // namespace tarvo

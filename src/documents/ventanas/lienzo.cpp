@@ -114,10 +114,11 @@ void Lienzo::CrearPieza(int numero) {
 void Lienzo::ConectarPieza(PiezaLienzo &pieza) {
     const int numero = pieza.Numero();
     connect(&pieza, &PiezaLienzo::Arrastrada, this,
-            [this, &pieza](const QPointF &cursor) { Arrastrar(pieza, cursor); });
+            [this, numero](const QPointF &cursor) { Arrastrar(numero, cursor); });
     connect(&pieza, &PiezaLienzo::Soltada, this, [this, numero] {
-        arrastrando_ = false;
+        arrastrada_ = -1;
         disenador_->Soltar(numero);
+        emit PiezaSoltada();
     });
     connect(&pieza, &PiezaLienzo::DobleClic, this, [this, numero] { disenador_->Ocultar(numero); });
     connect(&pieza, &PiezaLienzo::Suprimida, this, [this, numero] { disenador_->Ocultar(numero); });
@@ -131,11 +132,17 @@ void Lienzo::ConectarPieza(PiezaLienzo &pieza) {
 }
 
 // The corner of the piece goes where the cursor is, wherever it was taken.
-void Lienzo::Arrastrar(PiezaLienzo &pieza, const QPointF &cursor) {
-    const QPointF lugar = mapFromGlobal(cursor);
-    arrastrando_ = true;
-    disenador_->Arrastrar(pieza.Numero(), QPointF(lugar.toPoint()) * kTwipsPorPixel);
-    emit CursorMovido(lugar.toPoint());
+void Lienzo::Arrastrar(int numero, const QPointF &cursor) {
+    const QPoint lugar = mapFromGlobal(cursor).toPoint();
+    arrastrada_ = numero;
+    cursor_ = cursor;
+    disenador_->Arrastrar(numero, QPointF(lugar) * kTwipsPorPixel);
+    emit CursorMovido(lugar);
+}
+
+void Lienzo::Seguir() {
+    if (arrastrada_ >= 0)
+        Arrastrar(arrastrada_, cursor_);
 }
 
 void Lienzo::Vestir(PiezaLienzo &pieza) {
@@ -182,7 +189,7 @@ void Lienzo::Trazar() {
         marco = piezas_[static_cast<std::size_t>(numero)]->geometry();
         std::vector<QRect> otras;
         for (const PiezaLienzo *otra : piezas_)
-            if (arrastrando_ && !otra->isHidden() && otra->Numero() != numero)
+            if (arrastrada_ >= 0 && !otra->isHidden() && otra->Numero() != numero)
                 otras.push_back(otra->geometry());
         guias = GuiasDe(marco, otras, size());
     }

@@ -21,12 +21,15 @@ class Lienzo : public QWidget {
     void Mostrar(Disenador &disenador);
     // The piece under work, -1 when there is none or it is hidden.
     int EnTrabajo() const;
+    // The canvas has moved below the cursor: the piece that is dragged goes with the cursor.
+    void Seguir();
 
   signals:
     // Another piece is under work, or it was moved.
     void TrabajoCambiado();
     // A piece follows the cursor, which is at this place of the canvas.
     void CursorMovido(const QPoint &lugar);
+    void PiezaSoltada();
 
   protected:
     void paintEvent(QPaintEvent *evento) override;
@@ -38,7 +41,7 @@ class Lienzo : public QWidget {
     void ConectarPieza(PiezaLienzo &pieza);
     void Actualizar();
     void Vestir(PiezaLienzo &pieza);
-    void Arrastrar(PiezaLienzo &pieza, const QPointF &cursor);
+    void Arrastrar(int numero, const QPointF &cursor);
     void Trazar();
 
     Disenador *disenador_ = nullptr;
@@ -46,7 +49,8 @@ class Lienzo : public QWidget {
     Trazos *trazos_;
     int enTrabajo_ = -1;
     qint64 logo_ = 0; // the picture that is shown
-    bool arrastrando_ = false;
+    int arrastrada_ = -1;
+    QPointF cursor_; // on the screen, while a piece is dragged
 };
 
 } // namespace tarvo
