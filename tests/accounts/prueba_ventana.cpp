@@ -76,6 +76,12 @@ TEST_F(VentanaEstados, AScannedCodeIsNoAmount) {
     EXPECT_EQ(ConFoco() + Texto("txtCantidad"), u"cmdAgregar$ 1500,50");
     escanear("7790001000011\r\r"); // on the button, which it doesn't press
     EXPECT_TRUE(Habilitado("txtCantidad"));
+    Clic("cmdCaja");
+    const QString fecha = Texto("DTPDesde");
+    escanear("7790001000011\r\r");
+    EXPECT_EQ(ConFoco() + Texto("DTPDesde"), u"DTPDesde"_qs + fecha);
+    escanear("15/02/2026\r");
+    EXPECT_EQ(ConFoco() + Texto("DTPDesde"), u"DTPDesde115/02/2026");
 }
 
 TEST_F(VentanaEstados, AReceiptAndAReturnByKeysAlone) {

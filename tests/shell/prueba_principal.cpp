@@ -123,6 +123,10 @@ TEST_F(PrincipalAbierta, LettersOfTheModuleWinOverTheMenus) {
     ASSERT_NE(menu->activeAction(), nullptr);
     EXPECT_EQ(menu->activeAction()->text(), u"&Clientes");
     EXPECT_EQ(pulsado.size(), 3);
+    for (const QString &texto : {u"&Ver"_qs, u"&Ventas"_qs}) { // two of one letter
+        Tecla(menu->activeAction()->menu(), Qt::Key_V);
+        EXPECT_EQ(menu->activeAction()->text(), texto);
+    }
 }
 
 TEST_F(PrincipalAbierta, CalculatorTogglesAndResetsItsEntryWhenClosed) {

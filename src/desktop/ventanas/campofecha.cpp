@@ -38,6 +38,7 @@ CampoFecha::CampoFecha(QWidget *padre) : QDateEdit(padre) {
     lineEdit()->installEventFilter(this);
     QCalendarWidget &calendario = *calendarWidget();
     calendario.setLocale(espanol);
+    calendario.setDateEditEnabled(false); // it would read the parts of a date as a year of its own
     calendario.setFirstDayOfWeek(Qt::Monday);
     calendario.setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
     for (const Qt::DayOfWeek dia : {Qt::Saturday, Qt::Sunday})

@@ -1,5 +1,6 @@
 #include "desktop/ventanas/filtrocampos.h"
 
+#include "desktop/ventanas/avisarcampo.h"
 #include "desktop/ventanas/botonzel.h"
 
 #include <QAbstractButton>
@@ -248,7 +249,21 @@ bool FiltroCampos::Entrar(QWidget *control, const QKeyEvent &evento) {
     }
     if (!EsCampo(control) && qobject_cast<QAbstractButton *>(control) == nullptr)
         return false;
-    PasarAlSiguiente(control);
+    if (!DevolverMomento(control))
+        PasarAlSiguiente(control);
+    return true;
+}
+
+// A code has more figures than any date; the date or hour that it was scanned into is again what it was.
+bool FiltroCampos::DevolverMomento(QWidget *control) {
+    constexpr int kFecha = 8;
+    auto *const momento = qobject_cast<QDateTimeEdit *>(control);
+    const QString leido = ritmo_.Leido();
+    if (momento == nullptr || std::ranges::count_if(leido, [](QChar c) { return c.isDigit(); }) <= kFecha)
+        return false;
+    AvisarCampo(momento, QStringLiteral("«%1» es un código leído.").arg(leido));
+    momento->setDateTime(ritmo_.MomentoAntesDeLeer());
+    momento->setSelectedSection(momento->sectionAt(0));
     return true;
 }
 
@@ -275,9 +290,8 @@ void FiltroCampos::CambiarFoco(QWidget *ahora) {
     AvisarFoco(control, true);
     if (auto *campo = qobject_cast<QLineEdit *>(ahora); campo != nullptr && campo->hasFocus())
         campo->selectAll();
-    // The Tab key has chosen a part already.
-    if (auto *momento = qobject_cast<QDateTimeEdit *>(control);
-        momento != nullptr && !momento->findChild<QLineEdit *>()->hasSelectedText())
+    // A date is typed day first, also by who comes back to it; a click chooses its part later.
+    if (auto *momento = qobject_cast<QDateTimeEdit *>(control); momento != nullptr)
         momento->setSelectedSection(momento->sectionAt(0));
 }
 

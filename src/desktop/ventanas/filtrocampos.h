@@ -54,6 +54,7 @@ class FiltroCampos : public QObject {
     bool Tecla(QWidget *recibe, QKeyEvent *evento);
     bool Escribir(QWidget *control, const QKeyEvent &evento);
     bool Entrar(QWidget *control, const QKeyEvent &evento);
+    bool DevolverMomento(QWidget *control);
     bool Escapar();
     void CambiarFoco(QWidget *ahora);
     void AvisarFoco(QWidget *control, bool entra);

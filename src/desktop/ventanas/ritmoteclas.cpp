@@ -1,5 +1,6 @@
 #include "desktop/ventanas/ritmoteclas.h"
 
+#include <QDateTimeEdit>
 #include <QKeyEvent>
 #include <QLineEdit>
 
@@ -26,9 +27,12 @@ void RitmoTeclas::Apuntar(const QWidget *recibe, const QKeyEvent &evento) {
     if (caracter.isEmpty() && !EsEntrar(evento.key()))
         return;
     ultima_.leido = Leido() + caracter;
-    if (const auto *campo = qobject_cast<const QLineEdit *>(recibe);
-        campo != nullptr && ultima_.leido.size() == caracter.size())
+    if (ultima_.leido.size() != caracter.size())
+        return;
+    if (const auto *campo = qobject_cast<const QLineEdit *>(recibe))
         antesDeLeer_ = campo->text();
+    else if (const auto *momento = qobject_cast<const QDateTimeEdit *>(recibe))
+        momentoAntesDeLeer_ = momento->dateTime();
 }
 
 QString RitmoTeclas::Leido() const {

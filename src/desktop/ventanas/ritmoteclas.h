@@ -2,6 +2,7 @@
 // with an Enter or two, and what is a key held down.
 #pragma once
 
+#include <QDateTime>
 #include <QPointer>
 #include <QString>
 #include <QWidget>
@@ -23,8 +24,9 @@ class RitmoTeclas {
     // The characters that came into its control at the pace of a scanner before this Enter, also those that
     // the control doesn't take.
     QString Leido() const;
-    // What the field held when they began to come.
+    // What the field, or the date or hour, held when they began to come.
     const QString &AntesDeLeer() const { return antesDeLeer_; }
+    const QDateTime &MomentoAntesDeLeer() const { return momentoAntesDeLeer_; }
     // It repeats because the key is held.
     bool Sostenida() const;
 
@@ -39,6 +41,7 @@ class RitmoTeclas {
     Pulsacion ultima_;
     Pulsacion anterior_;
     QString antesDeLeer_;
+    QDateTime momentoAntesDeLeer_;
 };
 
 } // namespace tarvo

@@ -284,6 +284,9 @@ bool FrmPrincipal::eventFilter(QObject *objeto, QEvent *evento) {
             if (foco_ != nullptr && foco_->isVisible() && foco_->isEnabled())
                 foco_->setFocus();
         });
+    if (evento->type() == QEvent::KeyPress &&
+        PasarDeMenu(*ui_->mnuBarra, objeto, *static_cast<QKeyEvent *>(evento)))
+        return true;
     if (evento->type() == QEvent::KeyRelease || evento->type() == QEvent::ApplicationStateChange)
         ActualizarEstado();
     return QMainWindow::eventFilter(objeto, evento);

@@ -4,6 +4,7 @@
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QMenu>
 #include <QMenuBar>
 
 namespace tarvo {
@@ -28,6 +29,12 @@ QList<QWidget *> ConLetra(const QWidget &raiz, const QKeySequence &letra) {
     return hallados;
 }
 
+QList<QAction *> ConLetra(QList<QAction *> entradas, const QKeySequence &letra) {
+    entradas.removeIf(
+        [&](const QAction *entrada) { return QKeySequence::mnemonic(entrada->text()) != letra; });
+    return entradas;
+}
+
 } // namespace
 
 bool PulsarLetra(const QWidget &raiz, const QKeySequence &letra) {
@@ -49,6 +56,20 @@ void EntrarAlMenu(QMenuBar &menu) {
     QCoreApplication::sendEvent(menu.window(), &baja);
     QKeyEvent sube(QEvent::KeyRelease, Qt::Key_Alt, Qt::NoModifier);
     QCoreApplication::sendEvent(menu.window(), &sube);
+}
+
+bool PasarDeMenu(QMenuBar &menu, const QObject *recibe, const QKeyEvent &tecla) {
+    QAction *const actual = menu.activeAction();
+    const QKeySequence letra(QKeyCombination(Qt::AltModifier, static_cast<Qt::Key>(tecla.key())));
+    const bool enMenu = actual != nullptr && recibe == actual->menu();
+    if ((tecla.modifiers() & ~Qt::AltModifier) != 0 ||
+        (recibe != &menu && (!enMenu || !ConLetra(actual->menu()->actions(), letra).isEmpty())))
+        return false;
+    const QList<QAction *> todas = ConLetra(menu.actions(), letra);
+    if (todas.size() < 2)
+        return false;
+    menu.setActiveAction(todas.at((todas.indexOf(actual) + 1) % todas.size()));
+    return true;
 }
 
 } // namespace tarvo
