@@ -15,7 +15,7 @@ FrmFacturaAdmin::FrmFacturaAdmin(Disenador &disenador, QWidget *padre)
       ui_(std::make_unique<Ui::FrmFacturaAdmin>()),
       campos_({{.titulo = QStringLiteral("Campo"), .ancho = 6000}}) {
     ui_->setupUi(this);
-    resize(LoQueCabe(*this, size()));
+    resize(LoQueCabe(*this, size() * Crecido()));
     auto *filtro = new FiltroCampos(this);
     filtro->AlEscapar([this] {
         reject();
