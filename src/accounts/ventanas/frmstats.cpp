@@ -112,11 +112,14 @@ void FrmStats::Mostrar(const std::vector<double> &valores, int dias) {
     ui_->Chart1->chart()->setTitle(
         ui_->DTPFecha->locale().toString(ui_->DTPFecha->date(), QStringLiteral("MMMM 'de' yyyy")));
     QStringList rotulos;
+    QStringList hablado; // for who doesn't see the bars
     QList<qreal> barras;
     for (int dia = 1; dia <= dias; ++dia) {
         rotulos += QString::number(dia);
         barras += valores[std::size_t(dia - 1)];
+        hablado += QStringLiteral("%1: %L2").arg(dia).arg(barras.last(), 0, 'f', 2);
     }
+    ui_->Chart1->setAccessibleDescription(hablado.join(QStringLiteral("; ")));
     valores_->remove(0, valores_->count());
     valores_->append(barras);
     ejeDias_->setCategories(rotulos);

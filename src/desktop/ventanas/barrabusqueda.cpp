@@ -31,6 +31,7 @@ BarraBusqueda::BarraBusqueda(const ControlesBusqueda &controles, std::vector<Mod
     buscar_->setCheckable(true);
     buscar_->setChecked(true);
     c_.barra->addAction(buscar_);
+    c_.barra->setAccessibleName(QStringLiteral("Búsqueda"));
     PonerMenu();
     c_.boton->setText(std::ranges::find(modos_, inicial, &ModoBusqueda::clave)->titulo);
     connect(buscar_, &QAction::toggled, this, &BarraBusqueda::Usar);

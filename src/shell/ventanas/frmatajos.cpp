@@ -6,6 +6,7 @@
 #include "ui_frmatajos.h"
 
 #include <QKeyEvent>
+#include <QLineEdit>
 
 namespace tarvo {
 
@@ -32,6 +33,8 @@ FrmAtajos::FrmAtajos(Atajos &atajos, Preguntas &preguntas, std::function<void()>
     connect(ui_->cmdRestablecer, &QPushButton::clicked, this, &FrmAtajos::cmdRestablecer_Click);
     connect(ui_->cmdRestablecerTodo, &QPushButton::clicked, this, &FrmAtajos::cmdRestablecerTodo_Click);
     connect(ui_->cmdCerrar, &QPushButton::clicked, this, &QDialog::accept);
+    ui_->kseTecla->findChild<QLineEdit *>()->setAccessibleName(
+        QStringLiteral("Tecla nueva")); // it gets the focus
     // One stroke is a key; of more the last one counts.
     connect(ui_->kseTecla, &QKeySequenceEdit::keySequenceChanged, this, [this](const QKeySequence &teclas) {
         if (teclas.count() > 1)
