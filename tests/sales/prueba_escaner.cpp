@@ -5,6 +5,7 @@
 
 #include <QDialog>
 #include <QMenu>
+#include <QMessageBox>
 #include <QSignalSpy>
 #include <QWindow>
 
@@ -184,6 +185,20 @@ TEST_F(EscanerConCuadros, AScanIntoABoxAnswersNoQuestionAndIsSearchedBehindIt) {
     EXPECT_TRUE(QTest::qWaitFor([&] { return hallado() && Linea(1, linea::Cantidad) == u"2"_qs; }));
     EXPECT_EQ(Linea(0, linea::Cantidad), u"2");
     EXPECT_EQ(cuadros.abiertos, 2);
+}
+
+// The main window asks whether to leave the sale.
+TEST_F(Escaner, AScanIntoABoxOfAnotherWindowIsSearchedBehindItToo) {
+    Abrir();
+    QMessageBox cuadro;
+    cuadro.addButton(QMessageBox::No);
+    cuadro.open();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&cuadro));
+    Escanear(kAzucar);
+    EXPECT_TRUE(cuadro.isVisible());
+    cuadro.reject();
+    ventana->activateWindow();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return Lineas() == 1; }));
 }
 
 // What follows in one burst behind a code that nobody has: its second Enter adds nothing, the next is sold.

@@ -127,6 +127,8 @@ void RutaEscaner::Reanudar() {
 
 // The box of another question may be up again by now, or a panel: what is pending waits for its end.
 void RutaEscaner::BuscarPendiente() {
+    if (!preguntando_ && ConCuadroAbierto() && !cola_.isEmpty()) // nobody tells of its end
+        calma_.start(kVuelta);
     if (!Libre())
         return;
     if (CalmaEn() > 0)
@@ -139,8 +141,14 @@ void RutaEscaner::BuscarPendiente() {
     Reanudar();
 }
 
+// One of the sale, or one of the main window over it, such as the question whether to leave the sale.
+bool RutaEscaner::ConCuadroAbierto() const {
+    const QWidget *const modal = QApplication::activeModalWidget();
+    return preguntando_ || (modal != nullptr && modal->inherits("QMessageBox"));
+}
+
 bool RutaEscaner::Libre() const {
-    return !preguntando_ && venta_->isEnabled();
+    return !ConCuadroAbierto() && venta_->isEnabled();
 }
 
 bool RutaEscaner::eventFilter(QObject *objeto, QEvent *evento) {
@@ -149,7 +157,7 @@ bool RutaEscaner::eventFilter(QObject *objeto, QEvent *evento) {
     if (!objeto->isWidgetType())
         return false;
     auto *const recibe = static_cast<QWidget *>(objeto);
-    if (preguntando_ && recibe->window() == venta_->window() && DetrasDelCuadro(*evento))
+    if (ConCuadroAbierto() && recibe->window() == venta_->window() && DetrasDelCuadro(*evento))
         return true;
     if (evento->type() != QEvent::KeyPress)
         return false;
@@ -164,7 +172,7 @@ bool RutaEscaner::eventFilter(QObject *objeto, QEvent *evento) {
     if (foco != nullptr && recibe != foco && QApplication::activePopupWidget() == nullptr)
         return false;
     desdeTecla_.start();
-    if (preguntando_ || (Libre() && (!cola_.isEmpty() || !racha_.En(this).isEmpty())))
+    if (ConCuadroAbierto() || (Libre() && (!cola_.isEmpty() || !racha_.En(this).isEmpty())))
         return Recoger(tecla);
     return Tecla(recibe, tecla);
 }
@@ -212,9 +220,10 @@ bool RutaEscaner::Recoger(const QKeyEvent &evento) {
         return esperando_;
     }
     const bool deLectura = RachaTeclas::EsCodigo(codigo) || (seguida && (leida_ || !codigo.isEmpty()));
-    if (codigo.size() >= kCodigoMenor && deLectura)
+    if (codigo.size() >= kCodigoMenor && deLectura) {
         cola_.append({codigo, false});
-    else if (deLectura && leida_ && !cola_.isEmpty())
+        Reanudar();
+    } else if (deLectura && leida_ && !cola_.isEmpty())
         cola_.last().agregar = true;
     leida_ = deLectura;
     ultima_ = evento.timestamp();

@@ -73,6 +73,7 @@ class RutaEscaner : public QObject, public Preguntas {
     void RetenerTeclado();
     void Reanudar();
     void BuscarPendiente();
+    bool ConCuadroAbierto() const;
     bool Libre() const;
     bool DetrasDelCuadro(QEvent &evento);
     bool Recoger(const QKeyEvent &evento);
