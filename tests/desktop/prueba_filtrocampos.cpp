@@ -159,6 +159,12 @@ TEST(FiltroCampos, AFieldThatGetsTheFocusHasItsTextSelected) {
     });
     ventana.txtUno->setFocus();
     EXPECT_EQ(ventana.txtUno->selectedText(), u"12") << "what the window put there is selected";
+    Pulsar(ventana.txtUno);
+    EXPECT_EQ(ventana.txtUno->selectedText(), u"12") << "the first click, though it has the focus";
+    ventana.txtCinco->setFocus();
+    QTest::keyClick(ventana.txtCinco, 'x');
+    Pulsar(ventana.txtCinco);
+    EXPECT_FALSE(ventana.txtCinco->hasSelectedText()) << "it has been typed in";
 }
 
 TEST(FiltroCampos, TheFocusIsToldOnceAndNotWhileAnotherWindowAsks) {

@@ -1,5 +1,6 @@
 #include "desktop/ventanas/comboelidido.h"
 
+#include "desktop/unalinea.h"
 #include "desktop/ventanas/etiquetaelidida.h"
 
 #include <QAbstractItemView>
@@ -27,7 +28,7 @@ void ComboElidido::paintEvent(QPaintEvent *) {
     const bool vacio = currentIndex() < 0;
     if (vacio)
         opcion.palette.setBrush(QPalette::ButtonText, opcion.palette.placeholderText());
-    const QString texto = vacio ? placeholderText() : currentText();
+    const QString texto = EnUnaLinea(vacio ? placeholderText() : currentText());
     opcion.currentText = fontMetrics().elidedText(texto, conFinal_ ? Qt::ElideMiddle : Qt::ElideRight, sitio);
     setToolTip(opcion.currentText == texto ? QString() : AyudaLlana(texto));
     pintor.drawComplexControl(QStyle::CC_ComboBox, opcion);

@@ -44,6 +44,12 @@ bool EsLetraSuelta(const QKeyEvent &evento) {
     return orden == Qt::AltModifier && !evento.text().isEmpty() && evento.text().front().isPrint();
 }
 
+// From another control, and not back from another window or a menu.
+bool VieneDeOtro(const QFocusEvent &foco) {
+    return foco.reason() != Qt::ActiveWindowFocusReason && foco.reason() != Qt::PopupFocusReason &&
+           foco.reason() != Qt::MenuBarFocusReason;
+}
+
 // A key with Ctrl that the window has given to one of its entries. Fields would take some of these letters as
 // editing keys before the entry could get them.
 bool EsAtajo(const QWidget &control, const QKeyEvent &evento) {
@@ -157,22 +163,23 @@ bool FiltroCampos::eventFilter(QObject *objeto, QEvent *evento) {
     case QEvent::KeyPress: {
         auto *const tecla = static_cast<QKeyEvent *>(evento);
         ritmo_.Apuntar(recibe, *tecla);
+        intacto_ = nullptr;
         return recibe->window() == ventana_->window() && Tecla(recibe, tecla);
     }
     case QEvent::FocusIn:
-        if (static_cast<QFocusEvent *>(evento)->reason() == Qt::MouseFocusReason)
-            porRaton_ = recibe;
+        if (VieneDeOtro(*static_cast<QFocusEvent *>(evento)))
+            intacto_ = recibe;
         return false;
     case QEvent::MouseButtonRelease:
-        // The click that brought the focus has put the cursor somewhere; a text dragged over stays as
-        // selected.
+        // The click that brought the focus, or followed it, has put the cursor somewhere; a text dragged over
+        // stays as selected.
         if (auto *campo = qobject_cast<QLineEdit *>(recibe);
-            campo != nullptr && campo == porRaton_ && !campo->hasSelectedText())
+            campo != nullptr && campo == intacto_ && !campo->hasSelectedText())
             campo->selectAll();
         // Of a date or an hour the part that was clicked.
         if (auto *momento = qobject_cast<QDateTimeEdit *>(ControlDe(recibe)); momento != nullptr)
             momento->setSelectedSection(momento->currentSection());
-        porRaton_ = nullptr;
+        intacto_ = nullptr;
         return false;
     default:
         return false;

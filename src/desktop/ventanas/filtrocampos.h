@@ -67,7 +67,7 @@ class FiltroCampos : public QObject {
     QHash<QObject *, std::function<void(const QString &)>> alEscribir_;
     std::function<bool()> alEscapar_;
     QPointer<QWidget> enfocado_; // control whose entering was told; stays it while another window is active
-    QPointer<QWidget> porRaton_; // field that a mouse button, still down, gave the focus
+    QPointer<QWidget> intacto_;  // field that got the focus and was neither clicked nor typed in since
     RitmoTeclas ritmo_;
     bool escapeVisto_ = false; // this stroke found nothing to do and is on its way up to the window
 };
