@@ -2,7 +2,8 @@
 //
 // All rounding is half away from zero on the decimal reading of the number: 2.675 gives 2,68.
 // A double is read as the decimal number of 15 significant digits nearest to it before it is rounded; from
-// 1e13 on as the shortest number that tells it from other doubles, since 15 digits don't reach the hundredths.
+// 1e13 on as the shortest number that tells it from other doubles, since 15 digits don't reach the
+// hundredths.
 #pragma once
 
 #include <QString>
