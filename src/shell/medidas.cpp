@@ -6,9 +6,9 @@ namespace tarvo {
 
 TamanoInicial TamanoPorPantalla(int anchoPantalla) {
     if (anchoPantalla == 12000)
-        return {Tamano{9600, 7200}, true};
+        return {MedidaVentana{9600, 7200}, true};
     if (anchoPantalla >= 15360)
-        return {Tamano{12000, 9000}, false};
+        return {MedidaVentana{12000, 9000}, false};
     return {std::nullopt, anchoPantalla == 9600};
 }
 

@@ -8,14 +8,14 @@
 
 namespace tarvo {
 
-struct Tamano {
+struct MedidaVentana {
     int ancho = 0; // twips
     int alto = 0;
-    bool operator==(const Tamano &) const = default;
+    bool operator==(const MedidaVentana &) const = default;
 };
 
 struct TamanoInicial {
-    std::optional<Tamano> tamano; // none: the design size stays
+    std::optional<MedidaVentana> tamano; // none: the design size stays
     bool maximizada = false;
     bool operator==(const TamanoInicial &) const = default;
 };

@@ -13,11 +13,14 @@ namespace tarvo {
 namespace {
 
 TEST(Medidas, WindowSizeFollowsTheScreenWidth) {
-    const std::pair<int, TamanoInicial> casos[] = {
-        {640, {std::nullopt, true}},          {639, {std::nullopt, false}},
-        {800, {Tamano{9600, 7200}, true}},    {801, {std::nullopt, false}},
-        {1023, {std::nullopt, false}},        {1024, {Tamano{12000, 9000}, false}},
-        {1280, {Tamano{12000, 9000}, false}}, {3840, {Tamano{12000, 9000}, false}}};
+    const std::pair<int, TamanoInicial> casos[] = {{640, {std::nullopt, true}},
+                                                   {639, {std::nullopt, false}},
+                                                   {800, {MedidaVentana{9600, 7200}, true}},
+                                                   {801, {std::nullopt, false}},
+                                                   {1023, {std::nullopt, false}},
+                                                   {1024, {MedidaVentana{12000, 9000}, false}},
+                                                   {1280, {MedidaVentana{12000, 9000}, false}},
+                                                   {3840, {MedidaVentana{12000, 9000}, false}}};
     for (const auto &[pixeles, esperado] : casos)
         EXPECT_EQ(TamanoPorPantalla(ATwips(pixeles)), esperado) << pixeles;
 }
