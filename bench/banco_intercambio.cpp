@@ -30,7 +30,6 @@ class SinAvance final : public Avance {
     bool Sigue() override { return true; }
     void Empieza(const QString &, qint64) override {}
     void Hecho(qint64) override {}
-    void Espera() override {}
     void Avanza() override {}
 };
 

@@ -46,23 +46,9 @@ int NumeroDe(int error) {
     Fallar(NumeroDe(error), error, que, ruta);
 }
 
-// What memory has of a file that is on the disk.
-void Olvidar(int fd) {
-    ::posix_fadvise(fd, 0, 0, POSIX_FADV_DONTNEED);
-}
-
-// Of LeerDisco: not every file system can read past the memory.
 int Abrir(const QString &ruta, Archivo::Modo modo) {
-    const QByteArray nombre = QFile::encodeName(ruta);
-    if (modo == Archivo::Modo::Crear)
-        return ::open(nombre.constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
-    const int directo = modo == Archivo::Modo::LeerDisco ? O_DIRECT : 0;
-    const int fd = ::open(nombre.constData(), O_RDONLY | O_CLOEXEC | directo);
-    if (fd >= 0 || directo == 0 || errno != EINVAL)
-        return fd;
-    const int otro = ::open(nombre.constData(), O_RDONLY | O_CLOEXEC);
-    Olvidar(otro);
-    return otro;
+    const int banderas = modo == Archivo::Modo::Leer ? O_RDONLY : O_WRONLY | O_CREAT | O_TRUNC;
+    return ::open(QFile::encodeName(ruta).constData(), banderas | O_CLOEXEC, 0666);
 }
 
 QString CarpetaDe(const QString &ruta) {
@@ -145,7 +131,7 @@ Archivo::Archivo(const QString &ruta, Modo modo) : ruta_(ruta), fd_(Abrir(ruta, 
     const int error = errno;
     if (modo == Modo::Leer && error == ENOENT && QFileInfo(CarpetaDe(ruta)).isDir())
         Fallar(errores::kArchivoNoEncontrado, error, "leer", ruta);
-    Fallar(NumeroDe(error), error, modo == Modo::Crear ? "escribir" : "leer", ruta);
+    Fallar(NumeroDe(error), error, modo == Modo::Leer ? "leer" : "escribir", ruta);
 }
 
 Archivo::~Archivo() {
@@ -167,20 +153,10 @@ qint64 Archivo::Leer(char *datos, qint64 bytes) {
             break;
         if (n > 0)
             leidos += n;
-        else if (errno != EINTR && !(errno == EINVAL && LeerPorMemoria()))
+        else if (errno != EINTR)
             Fallar("leer", ruta_);
     }
     return leidos;
-}
-
-// A file system that can't do else, or the last piece of a file, which is no whole block. False: it does
-// already.
-bool Archivo::LeerPorMemoria() const {
-    const int banderas = ::fcntl(fd_, F_GETFL);
-    if ((banderas & O_DIRECT) == 0)
-        return false;
-    Olvidar(fd_);
-    return ::fcntl(fd_, F_SETFL, banderas & ~O_DIRECT) == 0;
 }
 
 void Archivo::Rebobinar() {
@@ -215,6 +191,7 @@ void Archivo::EsperarEscritura(qint64 desde, qint64 bytes) const {
 void Archivo::Sincronizar() const {
     if (::fsync(fd_) != 0)
         Fallar("escribir", ruta_);
+    ::posix_fadvise(fd_, 0, 0, POSIX_FADV_DONTNEED);
 }
 
 void CrearCarpeta(const QString &ruta) {

@@ -16,10 +16,8 @@ bool EnUso(const QString &ruta);
 // One file, open from beginning to end of an object.
 class Archivo {
   public:
-    // LeerDisco reads what the disk holds, not what memory has of it; the reader's memory is aligned to
-    // kAlineacion. Crear empties a file that is there.
-    enum class Modo { Leer, LeerDisco, Crear };
-    static constexpr std::size_t kAlineacion = 4096;
+    enum class Modo { Leer, Crear };
+    // Crear empties a file that is there.
     Archivo(const QString &ruta, Modo modo);
     ~Archivo();
     Archivo(const Archivo &) = delete;
@@ -36,12 +34,10 @@ class Archivo {
     // promise.
     void AnunciarEscritura() const;
     void EsperarEscritura(qint64 desde, qint64 bytes) const;
-    // Brings the file to the disk.
+    // Brings the file to the disk, and has it read from there, not from memory, the next time.
     void Sincronizar() const;
 
   private:
-    bool LeerPorMemoria() const;
-
     QString ruta_;
     int fd_;
 };

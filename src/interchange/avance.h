@@ -13,10 +13,9 @@ class Avance {
     virtual bool Sigue() = 0;
     // The work on a file of `bytes` begins.
     virtual void Empieza(const QString &archivo, qint64 bytes) = 0;
-    // So many of its bytes are done, 0 to all of them. Called some hundred times for each second of work.
+    // So many of its bytes are done, 0 to all of them. Called some hundred times for each second of work,
+    // with the same number while something is checked.
     virtual void Hecho(qint64 bytes) = 0;
-    // Copies are made and still being checked. Called as often.
-    virtual void Espera() = 0;
     // One of the five databases is behind.
     virtual void Avanza() = 0;
 };

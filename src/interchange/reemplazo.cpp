@@ -90,10 +90,9 @@ ResultadoApertura AbrirBases(FrmBases &bases) {
         QuitarPreparacion(bases.CarpetaDatos());
         return bases.AbrirInsistiendo();
     } catch (const ErrorDatos &error) {
-        if (error.Numero() != errores::kBaseBloqueada) {
-            bases.NoAbrir(error.Descripcion());
+        bases.NoAbrir(error.Descripcion());
+        if (error.Numero() != errores::kBaseBloqueada)
             throw;
-        }
         return {EstadoApertura::Bloqueada, QString(), error.Motivo()};
     }
 }

@@ -10,9 +10,6 @@
 
 #include <QDir>
 
-#include <optional>
-#include <vector>
-
 namespace tarvo {
 
 namespace {
@@ -20,36 +17,34 @@ namespace {
 void Vaciar(const QDir &datos, const QString &archivo, Avance &avance) {
     Reemplazo reemplazo(datos.path());
     Archivo plantilla(datos.filePath(QStringLiteral("vacio/") + archivo), Archivo::Modo::Leer);
-    CopiarSeguro(plantilla, reemplazo.Ruta(archivo), avance).Exigir(avance);
+    CopiarSeguro(plantilla, reemplazo.Ruta(archivo), avance);
     reemplazo.Confirmar();
 }
 
-// Before a database is emptied its copy has passed, and all those before it.
 void RespaldarBase(const QDir &datos, const QString &archivo, const PedidoRespaldo &pedido, bool vaciar,
-                   std::vector<Examen> &examenes, Avance &avance) {
+                   Avance &avance) {
     const BaseRetenida retenida(datos.filePath(archivo));
     Archivo viva(datos.filePath(archivo), Archivo::Modo::Leer); // closed last: that lets go of the lock
-    examenes.push_back(CopiarSeguro(viva, QDir(pedido.destino).filePath(archivo), avance));
+    CopiarSeguro(viva, QDir(pedido.destino).filePath(archivo), avance);
     SincronizarCarpeta(pedido.destino);
-    if (!vaciar)
-        return;
-    Exigir(examenes, avance);
-    Vaciar(datos, archivo, avance);
+    if (vaciar)
+        Vaciar(datos, archivo, avance);
 }
 
-// Nothing when there is no such file in the backup.
-std::optional<Examen> Preparar(const QDir &datos, const QString &origen, const QString &destino,
-                               const QString &archivo, Avance &avance) {
+// False when there is no such file in the backup.
+bool Preparar(const QDir &datos, const QString &origen, const QString &destino, const QString &archivo,
+              Avance &avance) {
     if (EnUso(datos.filePath(archivo)))
         throw ErrorDatos(errores::kBaseBloqueada,
                          QStringLiteral("Otro programa está usando \"%1\".").arg(archivo));
     try {
         Archivo respaldo(origen, Archivo::Modo::Leer);
-        return CopiarSeguro(respaldo, destino, avance);
+        CopiarSeguro(respaldo, destino, avance);
+        return true;
     } catch (const ErrorDatos &error) {
         if (error.Numero() != errores::kArchivoNoEncontrado)
             throw;
-        return std::nullopt;
+        return false;
     }
 }
 
@@ -60,24 +55,20 @@ QString NombreRespaldo(const QDateTime &momento) {
 }
 
 Resultado Respaldar(FrmBases &bases, const PedidoRespaldo &pedido, Avance &avance, Elegidas &vaciadas) {
-    CrearCarpeta(pedido.destino);
     bases.Cerrar();
     const Cerrojo cerrojo(bases.CarpetaDatos());
     const QDir datos(bases.CarpetaDatos());
     TerminarReemplazo(datos.path()); // no copy of old and new files mixed
-    std::vector<Examen> examenes;
+    CrearCarpeta(pedido.destino);
     for (std::size_t i = 0; i < kBases; ++i) {
         if (pedido.respaldar[i]) {
-            if (!avance.Sigue()) {
-                Exigir(examenes, avance); // what is told as copied has passed
+            if (!avance.Sigue())
                 return Resultado::Interrumpido;
-            }
-            RespaldarBase(datos, BasesRespaldo()[i].archivo, pedido, pedido.vaciar[i], examenes, avance);
+            RespaldarBase(datos, BasesRespaldo()[i].archivo, pedido, pedido.vaciar[i], avance);
             vaciadas[i] = pedido.vaciar[i];
         }
         avance.Avanza();
     }
-    Exigir(examenes, avance);
     return Resultado::Completo;
 }
 
@@ -87,22 +78,19 @@ Resultado Recuperar(FrmBases &bases, const PedidoRecuperacion &pedido, Avance &a
     const QDir datos(bases.CarpetaDatos());
     const QDir origen(pedido.origen);
     Reemplazo reemplazo(datos.path());
-    std::vector<Examen> examenes;
+    bool alguna = false;
     for (const std::size_t i : kOrdenRecuperar) {
         const QString &archivo = BasesRespaldo()[i].archivo;
         if (pedido.recuperar[i]) {
             if (!avance.Sigue())
                 return Resultado::Interrumpido;
-            if (auto examen =
-                    Preparar(datos, origen.filePath(archivo), reemplazo.Ruta(archivo), archivo, avance))
-                examenes.push_back(std::move(*examen));
+            if (Preparar(datos, origen.filePath(archivo), reemplazo.Ruta(archivo), archivo, avance))
+                alguna = true;
         }
         avance.Avanza();
     }
-    if (!examenes.empty()) {
-        Exigir(examenes, avance);
+    if (alguna)
         reemplazo.Confirmar();
-    }
     return Resultado::Completo;
 }
 

@@ -12,7 +12,7 @@ namespace tarvo {
 
 namespace {
 
-constexpr int kPasos = 20'000; // of the engine between two looks at whether to stop: some hundred a second
+constexpr int kPasos = 20'000; // of the engine between two pauses: some hundred a second
 
 [[noreturn]] void NoSirve(const QString &ruta, const QString &motivo) {
     throw ErrorDatos(errores::kBaseIlegible,
@@ -25,8 +25,9 @@ SQLite::Database Abrir(const QString &ruta) {
     return SQLite::Database(Uri(ruta, "mode=ro&immutable=1"), SQLITE_OPEN_READONLY | SQLITE_OPEN_URI);
 }
 
-int Parado(void *parar) {
-    return static_cast<const std::stop_token *>(parar)->stop_requested() ? 1 : 0;
+int Pausar(void *pausa) {
+    (*static_cast<const std::function<void()> *>(pausa))();
+    return 0;
 }
 
 template <typename Examen> void Examinar(const QString &ruta, Examen examen) {
@@ -42,9 +43,11 @@ template <typename Examen> void Examinar(const QString &ruta, Examen examen) {
 
 } // namespace
 
-void ComprobarBase(const QString &ruta, const std::stop_token &parar) {
+void ComprobarBase(const QString &ruta, const std::function<void()> &pausa) {
     Examinar(ruta, [&](SQLite::Database &base) {
-        sqlite3_progress_handler(base.getHandle(), kPasos, Parado, const_cast<std::stop_token *>(&parar));
+        if (pausa)
+            sqlite3_progress_handler(base.getHandle(), kPasos, Pausar,
+                                     const_cast<std::function<void()> *>(&pausa));
         if (base.execAndGet("PRAGMA integrity_check(1)").getString() != "ok")
             NoSirve(ruta, QStringLiteral("está dañado."));
     });

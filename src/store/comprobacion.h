@@ -4,8 +4,8 @@
 
 #include <QString>
 
+#include <functional>
 #include <memory>
-#include <stop_token>
 
 namespace SQLite {
 class Database;
@@ -14,9 +14,8 @@ class Database;
 namespace tarvo {
 
 // Reads the file from end to end as the engine does. Throws ErrorDatos(kBaseIlegible) with the name of the
-// file and what is wrong with it; soon, whatever the file is, once `parar` has been asked to stop. Runs on
-// any thread.
-void ComprobarBase(const QString &ruta, const std::stop_token &parar);
+// file and what is wrong with it. `pausa` is called now and then.
+void ComprobarBase(const QString &ruta, const std::function<void()> &pausa = {});
 
 // The file can be opened beside the others and has all tables and columns of the data file `archivo`
 // ("ventas.mdb"). Throws as ComprobarBase.

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <cstring>
 #include <sqlite3.h>
 
 namespace tarvo {
@@ -61,7 +62,7 @@ void Conexion::Adjuntar(const QString &archivo, const char *esquema) {
         sentencia.bind(1, Uri(archivo, kEnUso));
         sentencia.exec();
     } catch (const SQLite::Exception &error) {
-        if (error.getExtendedErrorCode() == SQLITE_ERROR) // nothing else of the file ends in it
+        if (std::strstr(error.what(), "encoding") != nullptr) // has no error code of its own
             throw OtraCodificacion();
         throw ErrorLectura(error);
     }

@@ -105,7 +105,6 @@ class AvancePrueba final : public Avance {
         total_ = bytes;
     }
     void Hecho(qint64 bytes) override { EXPECT_TRUE(bytes >= 0 && bytes <= total_); }
-    void Espera() override {}
     void Avanza() override { ++avanzados; }
 
   private:

@@ -67,10 +67,18 @@ const Dano kDanos[] = {
      "no es una base de datos."},
     {"truncated by a page", [](const QString &r, const Archivo &) { Recortar(r, 4096); }, "está dañado."},
     {"truncated by a byte", [](const QString &r, const Archivo &) { Recortar(r, 1); }, "está cortado."},
+    {"an id that no new row gets",
+     [](const QString &r, const Archivo &a) {
+         Sql(r,
+             "PRAGMA writable_schema=1; UPDATE sqlite_master SET sql=replace(sql, 'AUTOINCREMENT', '') || ' "
+             "WITHOUT ROWID' WHERE name='%1'",
+             a);
+     },
+     "no tiene el contador id.", true},
     {"text in another encoding",
      [](const QString &r, const Archivo &a) {
          Escribir(r, {});
-         Sql(r, "PRAGMA encoding='UTF-16le'; CREATE TABLE t(x)", a);
+         Sql(r, "PRAGMA encoding='UTF-16le'; CREATE TABLE %1(x)", a);
      },
      "no está en UTF-8."},
     {"table missing", [](const QString &r, const Archivo &a) { Sql(r, "DROP TABLE %1", a); },

@@ -298,11 +298,6 @@ void FrmRespaldo::Hecho(qint64 bytes) {
     Respirar();
 }
 
-void FrmRespaldo::Espera() {
-    marcha_->detalle->setText(QStringLiteral("se comprueban las copias"));
-    Respirar();
-}
-
 void FrmRespaldo::Avanza() {
     marcha_->barra->PonerParte(0);
     marcha_->barra->setValue(std::min<int>(marcha_->barra->value() + 1, marcha_->barra->maximum()));

@@ -34,7 +34,6 @@ class FrmRespaldo : public Dialogo, private Avance {
   public slots:
     void done(int resultado) override;
 
-  protected:
   private:
     using Casillas = std::array<QCheckBox *, kBases>;
     // What an operation moves while it runs.
@@ -74,7 +73,6 @@ class FrmRespaldo : public Dialogo, private Avance {
     bool Sigue() override;
     void Empieza(const QString &archivo, qint64 bytes) override;
     void Hecho(qint64 bytes) override;
-    void Espera() override;
     void Avanza() override;
     void Respirar();
 
