@@ -150,7 +150,7 @@ Retrato contado
 Tecla Tab space
 Tecla Return Return Return Return Return
 Retrato caja
-Tecla $(printf 'shift+Tab %.0s' {1..12}) space
+Tecla $(printf 'shift+Tab %.0s' {1..6}) space
 Retrato caja-botones
 Tecla Tab Tab space
 EsperarCuadro "la pregunta por la planilla"
