@@ -30,5 +30,14 @@ TEST_F(Arranque, FirstStartMakesTheDataAndASecondProcessIsRefused) {
     EXPECT_EQ(carpeta_.Valor("config.mdb", "SELECT count(*) FROM Ticket"), "1");
 }
 
+TEST_F(Arranque, TheUsersOpenOverTheMainWindow) {
+    ProgramaEnPantalla programa(carpeta_, kDirecto + QStringList{u"--usuarios"_qs});
+    programa.EsperarCuadro();
+    programa.Teclas("Escape");
+    programa.EsperarPrincipal();
+    programa.Teclas("alt+F4");
+    EXPECT_EQ(programa.CodigoSalida(), 0);
+}
+
 } // namespace
 } // namespace tarvo

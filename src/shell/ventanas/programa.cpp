@@ -83,11 +83,23 @@ void Programa::MostrarPrincipal() {
     MostrarAvisos();
     QGuiApplication::setQuitOnLastWindowClosed(true);
     frmPrincipal_->Presentar(ATwips(frmPrincipal_->screen()->size().width()));
-    if (opciones_.usuarios) // once the main window has its place, over which they stand
-        connect(
-            frmPrincipal_->windowHandle(), &QWindow::activeChanged, frmPrincipal_.get(),
-            [this, servicios] { MostrarUsuarios(servicios, frmPrincipal_.get()); },
-            static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
+    if (opciones_.usuarios)
+        AbrirUsuarios(servicios);
+}
+
+// They stand over the main window, which has its place once it is active; where the desktop keeps the focus
+// from it they don't wait for that.
+void Programa::AbrirUsuarios(const Servicios &servicios) {
+    constexpr int kEsperaMayor = 1000; // ms
+    const QWindow *const ventana = frmPrincipal_->windowHandle();
+    auto *const espera = new QTimer(frmPrincipal_.get());
+    espera->setSingleShot(true);
+    espera->callOnTimeout([this, servicios] { MostrarUsuarios(servicios, frmPrincipal_.get()); });
+    connect(ventana, &QWindow::activeChanged, espera, [espera] {
+        if (espera->isActive())
+            espera->start(0);
+    });
+    espera->start(ventana->isActive() ? 0 : kEsperaMayor);
 }
 
 // A restore may have mended what an earlier opening told.

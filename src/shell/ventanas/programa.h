@@ -18,6 +18,7 @@ class FrmSplash;
 class PedidosBotones;
 class Impresoras;
 struct ResultadoApertura;
+struct Servicios;
 
 // What the command line asks for.
 struct OpcionesInicio {
@@ -41,6 +42,7 @@ class Programa : public QObject {
     void Arrancar();
     ResultadoApertura AbrirDatos();
     void MostrarPrincipal();
+    void AbrirUsuarios(const Servicios &servicios);
     // What the status bar tells of the data: where they are, what an opening came to, what was found damaged
     // since then.
     void AnotarApertura(const ResultadoApertura &resultado);
