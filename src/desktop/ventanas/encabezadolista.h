@@ -1,5 +1,5 @@
 // The header of a list: a sort icon stands beside its caption, on the inner side, and has its room reserved
-// in every column, so that sorting by another column moves no border.
+// in every column of a list that sorts, so that sorting by another column moves no border.
 #pragma once
 
 #include <QHeaderView>
@@ -10,7 +10,7 @@ class EncabezadoLista final : public QHeaderView {
     Q_OBJECT
   public:
     explicit EncabezadoLista(QWidget *padre = nullptr);
-    // What the caption and its sort icon need, also while the column is hidden.
+    // What the caption needs, and the sort icon of a list that sorts, also while the column is hidden.
     QSize sectionSizeFromContents(int seccion) const override;
 
   protected:

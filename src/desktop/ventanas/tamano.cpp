@@ -37,7 +37,8 @@ bool Apila(const QLayout &disposicion) {
     return caja != nullptr && caja->direction() == QBoxLayout::TopToBottom;
 }
 
-void Escribir(QLayout *disposicion, const Medidas &medidas, double factor) {
+void Escribir(QLayout *disposicion, const Medidas &medidas) {
+    const double factor = Crecido();
     const QVariant aire = disposicion->property(kAire);
     const auto medida = [&](qsizetype i) { return qRound(medidas[i].toInt() * factor); };
     const auto vertical = [&](qsizetype i) {
@@ -54,13 +55,21 @@ void Escribir(QLayout *disposicion, const Medidas &medidas, double factor) {
     }
 }
 
-void Espaciar(QLayout *disposicion, double factor) {
+void Espaciar(QLayout *disposicion) {
     Medidas medidas = disposicion->property(kDelFormulario).toList();
     if (medidas.isEmpty()) {
         medidas = Leer(*disposicion);
         disposicion->setProperty(kDelFormulario, medidas);
     }
-    Escribir(disposicion, medidas, factor);
+    Escribir(disposicion, medidas);
+}
+
+void EspaciarVentana(QWidget *control) {
+    if (control->layout() == nullptr)
+        return;
+    Espaciar(control->layout());
+    for (QLayout *interior : control->layout()->findChildren<QLayout *>())
+        Espaciar(interior);
 }
 
 QFont LetraDelPrograma(double puntos) {
@@ -87,8 +96,14 @@ double Crecido() {
 void PonerAire(std::initializer_list<QLayout *> disposiciones, double aire) {
     for (QLayout *disposicion : disposiciones) {
         disposicion->setProperty(kAire, aire);
-        Espaciar(disposicion, Crecido());
+        Espaciar(disposicion);
     }
+}
+
+void PonerMedidas(QLayout *disposicion, const QMargins &margenes, int separacion) {
+    disposicion->setProperty(kDelFormulario, Medidas{margenes.left(), margenes.top(), margenes.right(),
+                                                     margenes.bottom(), separacion, separacion});
+    Espaciar(disposicion);
 }
 
 Tamano::Tamano(QApplication &aplicacion, QString hoja)
@@ -113,19 +128,11 @@ void Tamano::Poner(bool grande) {
     if (grande_ == grande)
         return;
     grande_ = grande;
-    QApplication::setFont(LetraDelPrograma(kLetra * Factor()));
+    QApplication::setFont(LetraDelPrograma(grande ? kLetra * kPaso : kLetra));
     aplicacion_.setStyleSheet(Hoja());
     for (QWidget *control : QApplication::allWidgets())
         EspaciarVentana(control);
     emit Cambiado();
-}
-
-void Tamano::EspaciarVentana(QWidget *control) const {
-    if (control->layout() == nullptr)
-        return;
-    Espaciar(control->layout(), Factor());
-    for (QLayout *interior : control->layout()->findChildren<QLayout *>())
-        Espaciar(interior, Factor());
 }
 
 // Every size of the sheet but lines, which stay thin.
@@ -136,7 +143,7 @@ QString Tamano::Hoja() const {
     for (const QRegularExpressionMatch &una : medida.globalMatch(hoja_)) {
         const int valor = una.captured(1).toInt();
         hoja += hoja_.mid(hasta, una.capturedStart() - hasta);
-        hoja += (valor > 2 ? QString::number(qRound(valor * Factor())) : una.captured(1)) + una.captured(2);
+        hoja += (valor > 2 ? QString::number(qRound(valor * Crecido())) : una.captured(1)) + una.captured(2);
         hasta = una.capturedEnd();
     }
     return hoja + hoja_.mid(hasta);

@@ -1,7 +1,9 @@
-// The size of type and spacing of the whole program: one step larger while the main window is 1600 pixels
-// wide or wider. Follows the main window by itself, and brings along each window that is opened meanwhile.
+// The size of type, spacing and pictures of the whole program: one step larger while the main window is 1600
+// pixels wide or wider. Follows the main window by itself, and brings along each window that is opened
+// meanwhile.
 #pragma once
 
+#include <QMargins>
 #include <QObject>
 #include <QSize>
 
@@ -16,19 +18,22 @@ namespace tarvo {
 // As much of `medida` as the screen of `ventana` has room for, beside what the desktop puts around a window.
 QSize LoQueCabe(const QWidget &ventana, const QSize &medida);
 
-// What type and spacing have grown by.
+// What type, spacing and pictures have grown by.
 double Crecido();
 
 // Makes the vertical room in and between what these layouts hold `aire` times that of the form; no gap that
 // the form has goes away.
 void PonerAire(std::initializer_list<QLayout *> disposiciones, double aire);
 
+// Gives a layout margins and gaps in the place of those of its form; they grow as those do.
+void PonerMedidas(QLayout *disposicion, const QMargins &margenes, int separacion);
+
 class Tamano final : public QObject {
     Q_OBJECT
   public:
     static constexpr int kAnchoGrande = 1600;
     static constexpr double kLetra = 9;       // points
-    static constexpr double kPaso = 11.0 / 9; // what type and spacing grow by
+    static constexpr double kPaso = 11.0 / 9; // what all of them grow by
 
     // `hoja` is the style sheet at the small size.
     Tamano(QApplication &aplicacion, QString hoja);
@@ -41,9 +46,7 @@ class Tamano final : public QObject {
 
   private:
     void Poner(bool grande);
-    void EspaciarVentana(QWidget *control) const;
     QString Hoja() const;
-    double Factor() const { return grande_ ? kPaso : 1; }
 
     QApplication &aplicacion_;
     QString hoja_;

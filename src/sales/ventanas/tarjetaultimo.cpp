@@ -69,8 +69,7 @@ void TarjetaUltimo::Plegar(bool plegada) {
     for (QWidget *control :
          std::initializer_list<QWidget *>{lblUltimo, lblUltimoTotal, cmdReimprimir, cmdFactura})
         rejilla->removeWidget(control);
-    rejilla->setContentsMargins(plegada ? QMargins(4, 0, 0, 0) : QMargins(9, 6, 9, 6) * Crecido());
-    rejilla->setSpacing(plegada ? 2 : 4);
+    PonerMedidas(rejilla, plegada ? QMargins(4, 0, 0, 0) : QMargins(9, 6, 9, 6), plegada ? 2 : 4);
     lblUltimo->setVisible(!plegada);
     for (QPushButton *boton : {cmdReimprimir, cmdFactura}) {
         boton->setText(plegada ? QString() : boton->accessibleName());
