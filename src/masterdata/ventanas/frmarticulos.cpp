@@ -58,8 +58,6 @@ void FrmArticulos::CrearFiltro() {
     cboxFiltrarCategoria->setAccessibleName(QStringLiteral("Filtrar por categoría"));
     cboxFiltrarCategoria->setAccessibleDescription(
         cboxFiltrarCategoria->accessibleName()); // a name is its entry
-    constexpr int kLetrasCodigo = 16;            // of a barcode, with its margins
-    ficha_->txtCodBarras1->setMinimumWidth(kLetrasCodigo * fontMetrics().horizontalAdvance(u'0'));
     cboxFiltrarCategoria->setMinimumContentsLength(28);
     cboxFiltrarCategoria->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     PonerSobreLista(cboxFiltrarCategoria);
