@@ -52,8 +52,8 @@ class Disenador : public QObject {
     const Pieza &De(int numero) const;
     // Size in twips.
     QSizeF Tamano(int numero) const;
-    // Where the piece is shown, in pixels: as it stands; but what lies beyond the canvas and is not being
-    // dragged is at its border, where it can be reached, though the layout keeps its value.
+    // Where the piece is shown, in pixels: as it stands; but one that reaches into the canvas by less than
+    // the mouse can take, and is not being dragged, is at its border, though the layout keeps its value.
     QRect EnLienzo(int numero) const;
     // "Nombre Cliente", "Logotipo", or the text of a label.
     QString Rotulo(int numero) const;
