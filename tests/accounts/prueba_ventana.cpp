@@ -67,10 +67,8 @@ TEST_F(VentanaEstados, AScannedCodeIsNoAmount) {
     };
     escanear("12,5");
     Campo("txtCantidad")->setCursorPosition(1);
-    for (const char *codigo : {"7790001000011\r\r", "AB-7\r"}) {
-        escanear(codigo);
-        EXPECT_EQ(ConFoco() + Texto("txtCantidad"), u"txtCantidad12,5") << codigo;
-    }
+    escanear("7790001000011\r\r");
+    EXPECT_EQ(ConFoco() + Texto("txtCantidad"), u"txtCantidad12,5");
     Campo("txtCantidad")->selectAll();
     escanear("1500.50\r"); // typed by a program, or by fast hands
     EXPECT_EQ(ConFoco() + Texto("txtCantidad"), u"cmdAgregar$ 1500,50");
@@ -78,10 +76,16 @@ TEST_F(VentanaEstados, AScannedCodeIsNoAmount) {
     EXPECT_TRUE(Habilitado("txtCantidad"));
     Clic("cmdCaja");
     const QString fecha = Texto("DTPDesde");
-    escanear("7790001000011\r\r");
-    EXPECT_EQ(ConFoco() + Texto("DTPDesde"), u"DTPDesde"_qs + fecha);
+    for (const char *codigo : {"7790001000011\r\r", "96385074\r\r", "AB-7\r"}) {
+        escanear(codigo);
+        EXPECT_EQ(ConFoco() + Texto("DTPDesde"), u"DTPDesde"_qs + fecha) << codigo;
+    }
     escanear("15/02/2026\r");
     EXPECT_EQ(ConFoco() + Texto("DTPDesde"), u"DTPDesde115/02/2026");
+    escanear("0360002914521\r\r");
+    EXPECT_EQ(Texto("DTPDesde1"), u"00:00");
+    escanear("0815");
+    EXPECT_EQ(Texto("DTPDesde1"), u"08:15");
 }
 
 TEST_F(VentanaEstados, AReceiptAndAReturnByKeysAlone) {

@@ -99,14 +99,15 @@ TEST(TeclaSostenida, ActsInItsOwnWindowOnly) {
         }
     };
     llega(uno, 1000, false);
-    llega(uno, 1002, false); // as a scanner does
+    for (const quint64 despues : {15U, 30U, 45U, 60U, 75U, 90U, 105U, 120U}) // as a scanner does
+        llega(uno, 1000 + despues, false);
     llega(uno, 1660, true);
-    EXPECT_EQ(uno.text(), u"aaa");
+    EXPECT_EQ(uno.text(), u"aaaaaaaaaa");
     llega(uno, 1700, false);
     for (const bool marcada : {true, false})
         llega(otro, 1740, marcada);
     llega(uno, 1780, true);
-    EXPECT_EQ(uno.text() + otro.text(), u"aaa") << "held, and once in another window";
+    EXPECT_EQ(uno.text() + otro.text(), u"aaaaaaaaaa") << "held, and once in another window";
     llega(otro, 1900, false);
     EXPECT_EQ(otro.text(), u"") << "the key has not gone up";
     QKeyEvent arriba(QEvent::KeyRelease, Qt::Key_A, Qt::NoModifier);

@@ -1,6 +1,7 @@
 #include "desktop/ventanas/botonzel.h"
 
 #include "desktop/ventanas/pintorboton.h"
+#include "desktop/ventanas/ritmoteclas.h"
 
 #include <QApplication>
 #include <QBitmap>
@@ -287,7 +288,7 @@ void BotonZel::keyPressEvent(QKeyEvent *evento) {
     const int tecla = evento->key();
     emit KeyDown(tecla);
     emit KeyPress(evento->text());
-    if (tecla != Qt::Key_Return && tecla != Qt::Key_Enter && tecla != Qt::Key_Space) {
+    if (!EsEntrar(tecla) && tecla != Qt::Key_Space) {
         QPushButton::keyPressEvent(evento);
         return;
     }

@@ -20,8 +20,14 @@ namespace {
 const QString kFormaFecha = QStringLiteral("dd/MM/yyyy");
 constexpr int kCifrasAnio = 4;
 
-bool SeparaPartes(const QString &texto) {
-    return texto == QLatin1String("/") || texto == QLatin1String("-") || texto == QLatin1String(".");
+bool SeparaPartes(QChar signo) {
+    return signo == u'/' || signo == u'-' || signo == u'.';
+}
+
+// Both separators have been written, or all figures without them.
+bool EsFechaEntera(const QString &escrito) {
+    const auto separadores = std::ranges::count_if(escrito, SeparaPartes);
+    return separadores == 2 || (separadores == 0 && CampoFecha::EsDiaMesAnio(escrito));
 }
 
 bool PideCalendario(const QKeyEvent &evento) {
@@ -47,12 +53,19 @@ CampoFecha::CampoFecha(QWidget *padre) : QDateEdit(padre) {
     calendario.setMinimumSize(fontMetrics().height() * QSize(18, 14));
 }
 
+bool CampoFecha::EsDiaMesAnio(const QString &cifras) {
+    constexpr int kDiaMayor = 31;
+    constexpr int kPrimerAnio = 1752; // before it no date is taken
+    const int dia = cifras.left(2).toInt();
+    return cifras.size() == 8 && dia >= 1 && dia <= kDiaMayor &&
+           cifras.right(kCifrasAnio).toInt() > kPrimerAnio &&
+           QDate(cifras.right(kCifrasAnio).toInt(), cifras.mid(2, 2).toInt(), 1).isValid();
+}
+
 void CampoFecha::keyPressEvent(QKeyEvent *evento) {
     const QString caracter = CaracterDe(*evento);
-    if (caracter.size() == 1 && caracter.front().isDigit()) {
-        Cifra(caracter.front().digitValue());
-    } else if (SeparaPartes(caracter)) {
-        Separar();
+    if (caracter.size() == 1 && (caracter.front().isDigit() || SeparaPartes(caracter.front()))) {
+        Escribir(caracter.front());
     } else if (calendarPopup() && PideCalendario(*evento)) {
         Terminar();
         AbrirCalendario();
@@ -89,6 +102,28 @@ void CampoFecha::focusOutEvent(QFocusEvent *evento) {
     QDateEdit::focusOutEvent(evento);
 }
 
+// A whole date that was begun over another part than the first is typed once more, over that one.
+void CampoFecha::Escribir(QChar signo) {
+    if (escrito_.isEmpty()) {
+        comienzo_ = currentSection();
+        antes_ = date();
+    }
+    escrito_ += signo;
+    Signo(signo);
+    if (comienzo_ == sectionAt(0) || !EsFechaEntera(escrito_))
+        return;
+    Olvidar();
+    setDate(antes_);
+    comienzo_ = sectionAt(0);
+    setSelectedSection(comienzo_);
+    for (const QChar otra : std::as_const(escrito_))
+        Signo(otra);
+}
+
+void CampoFecha::Signo(QChar signo) {
+    SeparaPartes(signo) ? Separar() : Cifra(signo.digitValue());
+}
+
 void CampoFecha::Cifra(int cifra) {
     if (date() != puesta_)
         dia_ = valor_ = cifras_ = 0;
@@ -107,7 +142,7 @@ void CampoFecha::Cifra(int cifra) {
     valor_ = valor;
     cifras_ = cifras;
     if (anio)
-        return cifras == kCifrasAnio ? Terminar() : MostrarAnio();
+        return cifras == kCifrasAnio ? Completar() : MostrarAnio();
     if (dia && valor > 0)
         dia_ = valor;
     Poner(dia || valor == 0 ? date().month() : valor, date().year());
@@ -133,6 +168,7 @@ void CampoFecha::Pasar() {
 void CampoFecha::DejarParte() {
     if (currentSection() == YearSection)
         Terminar();
+    escrito_.clear();
     valor_ = cifras_ = 0;
     pasada_ = false;
 }
@@ -153,7 +189,7 @@ void CampoFecha::MostrarAnio() {
 }
 
 // What was typed becomes a date. A year of three figures is none, and the old one stays.
-void CampoFecha::Terminar() {
+void CampoFecha::Completar() {
     const int anio = cifras_ <= 2 ? 2000 + valor_ : valor_;
     if (currentSection() == YearSection && cifras_ > 0) {
         const bool esAnio = cifras_ <= 2 || QDate(anio, 1, 1) >= minimumDate();
@@ -162,6 +198,15 @@ void CampoFecha::Terminar() {
     }
     if (dia_ > date().day() && date() == puesta_)
         AvisarCampo(this, QStringLiteral("Ese mes tiene %1 días.").arg(date().daysInMonth()));
+    Olvidar();
+}
+
+void CampoFecha::Terminar() {
+    Completar();
+    escrito_.clear();
+}
+
+void CampoFecha::Olvidar() {
     dia_ = valor_ = cifras_ = 0;
     pasada_ = false;
 }

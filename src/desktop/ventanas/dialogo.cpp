@@ -1,11 +1,13 @@
 #include "desktop/ventanas/dialogo.h"
 
+#include "desktop/ventanas/ritmoteclas.h"
+
 #include <QKeyEvent>
 
 namespace tarvo {
 
 void Dialogo::keyPressEvent(QKeyEvent *evento) {
-    if (evento->key() != Qt::Key_Return && evento->key() != Qt::Key_Enter)
+    if (!EsEntrar(evento->key()))
         QDialog::keyPressEvent(evento);
 }
 

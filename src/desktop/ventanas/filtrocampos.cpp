@@ -1,7 +1,9 @@
 #include "desktop/ventanas/filtrocampos.h"
 
+#include "desktop/escaner.h"
 #include "desktop/ventanas/avisarcampo.h"
 #include "desktop/ventanas/botonzel.h"
+#include "desktop/ventanas/campofecha.h"
 
 #include <QAbstractButton>
 #include <QAbstractSpinBox>
@@ -32,10 +34,6 @@ bool EsCampo(const QWidget *control) {
 void SinFocoPorRueda(QWidget *control) {
     if (EsCampo(control) && control->focusPolicy() == Qt::WheelFocus)
         control->setFocusPolicy(Qt::StrongFocus);
-}
-
-bool SinModificador(const QKeyEvent &evento) {
-    return (evento.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
 }
 
 // Alt with a letter that nothing underlines; a field would take the letter.
@@ -78,6 +76,23 @@ void PulsarDeNuevo(QObject &boton, const QKeyEvent &evento) {
         QKeyEvent una(tipo, evento.key(), evento.modifiers(), evento.text());
         boton.event(&una);
     }
+}
+
+// What came at the pace of a scanner has more figures than this date or hour, a sign that stands in none, or
+// is eight figures that are no date.
+bool EsCodigoEn(const QDateTimeEdit &momento, const QString &leido) {
+    constexpr int kFecha = 8;
+    const QString forma = momento.displayFormat();
+    const bool conNombre = forma.contains(QLatin1String("MMM"));
+    const auto deMomento = [conNombre](QChar c) {
+        return c.isDigit() || QStringLiteral("/-.: ").contains(c) || (conNombre && c.isLetter());
+    };
+    const auto cifras = std::ranges::count_if(leido, [](QChar c) { return c.isDigit(); });
+    if (cifras > std::ranges::count_if(forma, [](QChar c) { return c.isLetter(); }))
+        return true;
+    if (!std::ranges::all_of(leido, deMomento))
+        return leido.size() >= kCodigoMenor;
+    return cifras == kFecha && cifras == leido.size() && !CampoFecha::EsDiaMesAnio(leido);
 }
 
 template <typename Accion>
@@ -261,16 +276,18 @@ bool FiltroCampos::Entrar(QWidget *control, const QKeyEvent &evento) {
     return true;
 }
 
-// A code has more figures than any date; the date or hour that it was scanned into is again what it was.
+// The date or hour that a code was scanned into is again what it was. It loses the focus for a moment, so
+// that nothing of the code is left for the next figure.
 bool FiltroCampos::DevolverMomento(QWidget *control) {
-    constexpr int kFecha = 8;
     auto *const momento = qobject_cast<QDateTimeEdit *>(control);
     const QString leido = ritmo_.Leido();
-    if (momento == nullptr || std::ranges::count_if(leido, [](QChar c) { return c.isDigit(); }) <= kFecha)
+    if (momento == nullptr || !EsCodigoEn(*momento, leido))
         return false;
-    AvisarCampo(momento, QStringLiteral("«%1» es un código leído.").arg(leido));
+    momento->clearFocus();
     momento->setDateTime(ritmo_.MomentoAntesDeLeer());
+    momento->setFocus();
     momento->setSelectedSection(momento->sectionAt(0));
+    AvisarCampo(momento, QStringLiteral("«%1» es un código leído.").arg(leido));
     return true;
 }
 

@@ -1,5 +1,7 @@
 #include "desktop/ventanas/ritmoteclas.h"
 
+#include "desktop/escaner.h"
+
 #include <QDateTimeEdit>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -19,6 +21,10 @@ bool EsEntrar(int tecla) {
     return tecla == Qt::Key_Return || tecla == Qt::Key_Enter;
 }
 
+bool SinModificador(const QKeyEvent &evento) {
+    return (evento.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+}
+
 void RitmoTeclas::Apuntar(const QWidget *recibe, const QKeyEvent &evento) {
     if (recibe != ultima_.recibe && recibe->isAncestorOf(ultima_.recibe))
         return; // left alone by its control, the stroke comes by once more
@@ -36,18 +42,16 @@ void RitmoTeclas::Apuntar(const QWidget *recibe, const QKeyEvent &evento) {
 }
 
 QString RitmoTeclas::Leido() const {
-    constexpr quint64 kRitmo = 100; // ms
-    const bool seguida = ultima_.momento != 0 && ultima_.momento - anterior_.momento < kRitmo;
+    const bool seguida = ultima_.momento != 0 && ultima_.momento - anterior_.momento < kRitmoEscaner;
     return seguida && ultima_.recibe == anterior_.recibe ? anterior_.leido : QString();
 }
 
 // The system takes the second of two strokes for a held key when it comes as the first one ends, as from a
-// scanner that sends its Enter twice. A key that is held begins to repeat much later.
+// scanner that sends its Enter twice.
 bool RitmoTeclas::Sostenida() const {
-    constexpr quint64 kEsperaMenor = 100; // ms
     const bool enSerie = anterior_.repetida && anterior_.tecla == ultima_.tecla;
     const bool segunda =
-        ultima_.momento != 0 && !enSerie && ultima_.momento - anterior_.momento < kEsperaMenor;
+        ultima_.momento != 0 && !enSerie && ultima_.momento - anterior_.momento < kEsperaRepeticion;
     return ultima_.repetida && !segunda;
 }
 

@@ -14,6 +14,8 @@ namespace tarvo {
 // The character that this key types, empty when it types none.
 QString CaracterDe(const QKeyEvent &evento);
 bool EsEntrar(int tecla);
+// Without Shift, Ctrl or Alt; that of the keypad is none.
+bool SinModificador(const QKeyEvent &evento);
 
 class RitmoTeclas {
   public:

@@ -1,5 +1,7 @@
 #include "desktop/ventanas/teclasostenida.h"
 
+#include "desktop/escaner.h"
+
 #include <QKeyEvent>
 
 namespace tarvo {
@@ -25,7 +27,6 @@ bool TeclaSostenida::eventFilter(QObject *objeto, QEvent *evento) {
 }
 
 bool TeclaSostenida::Sobra(QObject *ventana, const QKeyEvent &tecla) {
-    constexpr quint64 kEsperaMenor = 100; // ms; a held key begins to repeat much later
     const bool sigue = tecla.isAutoRepeat() || tecla.timestamp() == hasta_;
     if (tecla.key() != tecla_ || !sigue || tecla.timestamp() == 0) {
         tecla_ = tecla.key();
@@ -35,8 +36,10 @@ bool TeclaSostenida::Sobra(QObject *ventana, const QKeyEvent &tecla) {
         perdida_ = false;
         return false;
     }
-    if (tecla.timestamp() - desde_ < kEsperaMenor)
+    if (tecla.timestamp() - desde_ < kEsperaRepeticion) {
+        desde_ = tecla.timestamp(); // of a run of equal figures each begins anew
         return false;
+    }
     perdida_ |= ventana != ventana_;
     return perdida_ || !tecla.isAutoRepeat();
 }

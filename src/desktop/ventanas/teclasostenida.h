@@ -27,7 +27,7 @@ class TeclaSostenida : public QObject {
 
     int tecla_ = 0; // the last one that went down
     QPointer<QObject> ventana_;
-    quint64 desde_ = 0;    // ms, when it went down
+    quint64 desde_ = 0;    // ms, when it went down, the last time that it did so at once
     quint64 hasta_ = 0;    // when it was told to have gone up
     bool perdida_ = false; // it has come into another window since
 };

@@ -1,5 +1,7 @@
 #include "shell/ventanas/etiquetaenlace.h"
 
+#include "desktop/ventanas/ritmoteclas.h"
+
 #include <QKeyEvent>
 #include <QMouseEvent>
 
@@ -46,7 +48,7 @@ void EtiquetaEnlace::mouseReleaseEvent(QMouseEvent *evento) {
 
 void EtiquetaEnlace::keyPressEvent(QKeyEvent *evento) {
     const int tecla = evento->key();
-    if (tecla == Qt::Key_Return || tecla == Qt::Key_Enter || tecla == Qt::Key_Space)
+    if (EsEntrar(tecla) || tecla == Qt::Key_Space)
         emit Activada();
     else
         QLabel::keyPressEvent(evento);

@@ -2,6 +2,7 @@
 
 #include "desktop/preguntas.h"
 #include "desktop/ventanas/filtrocampos.h"
+#include "desktop/ventanas/ritmoteclas.h"
 #include "desktop/ventanas/tamano.h"
 #include "ui_frmatajos.h"
 
@@ -61,7 +62,7 @@ bool FrmAtajos::eventFilter(QObject *objeto, QEvent *evento) {
     if (evento->type() != QEvent::KeyPress && evento->type() != QEvent::ShortcutOverride)
         return QDialog::eventFilter(objeto, evento);
     const auto *const tecla = static_cast<QKeyEvent *>(evento);
-    const bool entra = tecla->key() == Qt::Key_Return || tecla->key() == Qt::Key_Enter;
+    const bool entra = EsEntrar(tecla->key());
     if (tecla->modifiers() == Qt::AltModifier)
         return true;
     if ((!entra && tecla->key() != Qt::Key_Escape) || tecla->modifiers() != Qt::NoModifier)

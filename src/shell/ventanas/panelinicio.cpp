@@ -1,5 +1,6 @@
 #include "shell/ventanas/panelinicio.h"
 
+#include "desktop/ventanas/ritmoteclas.h"
 #include "shell/ventanas/acciones.h"
 
 #include <QAction>
@@ -55,7 +56,7 @@ void BotonModulo::Actualizar() {
 }
 
 void BotonModulo::keyPressEvent(QKeyEvent *evento) {
-    if (evento->key() == Qt::Key_Return || evento->key() == Qt::Key_Enter)
+    if (EsEntrar(evento->key()))
         click();
     else
         QPushButton::keyPressEvent(evento);
