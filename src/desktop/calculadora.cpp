@@ -26,7 +26,7 @@ Calculadora::Calculadora(const QString &sDecimal)
     : separador_(sDecimal == QStringLiteral(".") ? u'.' : u',') {}
 
 void Calculadora::PonerDisplay(const QString &texto) {
-    display_ = nuevaEntrada_ && texto.startsWith(display_) ? texto.mid(display_.size()) : texto;
+    display_ = texto;
     nuevaEntrada_ = false;
 }
 

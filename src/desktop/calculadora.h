@@ -20,9 +20,10 @@ class Calculadora {
     explicit Calculadora(const QString &sDecimal);
 
     const QString &Display() const { return display_; }
-    // What stands in the display behind a change by other means than the keys, as a paste: behind a result or
-    // an operator it takes the place of the number that was there.
+    // What stands in the display behind a change by other means than the keys, as a paste.
     void PonerDisplay(const QString &texto);
+    // Behind a result or an operator: what is entered next takes the place of the display.
+    bool NuevaEntrada() const { return nuevaEntrada_; }
     QChar Separador() const { return separador_; }
 
     void Digito(int digito); // 0 to 9

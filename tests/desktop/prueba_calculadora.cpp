@@ -137,6 +137,11 @@ TEST_F(PruebaFrmCalc, CopiesAndTakesAPaste) {
         Tecla(Control<QWidget>(*frm, "cmdEquals"), Qt::Key_V, Qt::ControlModifier);
         EXPECT_EQ(Display(), u"40");
     }
+    Teclear(display, u"+4="_qs);
+    QApplication::clipboard()->setText(u"440"_qs);
+    display->selectAll();
+    display->paste();
+    EXPECT_EQ(Display(), u"440");
 }
 
 TEST_F(PruebaFrmCalc, StandsAtTheRightEdgeAndClosesByF5) {

@@ -1,6 +1,7 @@
 #include "desktop/ventanas/frmcalc.h"
 
 #include "desktop/ventanas/botonzel.h"
+#include "desktop/ventanas/ritmoteclas.h"
 #include "desktop/ventanas/solocaracteres.h"
 
 #include <QAction>
@@ -67,10 +68,9 @@ void FrmCalc::CrearDisplay(QGridLayout &rejilla) {
     txtDisplay->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     rejilla.addWidget(txtDisplay, 0, 0, 1, 4);
     SoloCaracteres(txtDisplay, QStringLiteral("0123456789,.-"));
-    connect(txtDisplay, &QLineEdit::textEdited, this, [this](const QString &texto) {
-        calculadora_.PonerDisplay(texto);
-        Mostrar();
-    });
+    connect(txtDisplay, &QLineEdit::textEdited, this, &FrmCalc::Pegado);
+    connect(txtDisplay, &QLineEdit::selectionChanged, this,
+            [this] { conSeleccion_ = txtDisplay->hasSelectedText(); });
     txtDisplay->setAttribute(Qt::WA_InputMethodEnabled, false);
     connect(txtDisplay, &QLineEdit::cursorPositionChanged, this, [this] {
         if (!txtDisplay->hasSelectedText())
@@ -160,7 +160,7 @@ bool FrmCalc::Tecla(const QObject *recibe, const QKeyEvent &tecla) {
     }
     if (tecla.key() == Qt::Key_F5)
         return close();
-    if (tecla.key() == Qt::Key_Return || tecla.key() == Qt::Key_Enter)
+    if (EsEntrar(tecla.key()))
         return Caracter(u'=');
     if (recibe != txtDisplay && (tecla.matches(QKeySequence::Copy) || tecla.matches(QKeySequence::Paste))) {
         tecla.matches(QKeySequence::Copy) ? Copiar() : txtDisplay->paste();
@@ -247,6 +247,14 @@ void FrmCalc::resizeEvent(QResizeEvent *evento) {
 
 void FrmCalc::Copiar() {
     QApplication::clipboard()->setText(calculadora_.Display());
+}
+
+// A paste stands behind the display, whose place it takes where a new entry is due, or over what was
+// selected.
+void FrmCalc::Pegado(const QString &texto) {
+    const bool detras = calculadora_.NuevaEntrada() && !conSeleccion_;
+    calculadora_.PonerDisplay(detras ? texto.mid(calculadora_.Display().size()) : texto);
+    Mostrar();
 }
 
 void FrmCalc::Mostrar() {

@@ -40,10 +40,12 @@ class FrmCalc : public QWidget {
     QAction *EntradaDe(const QKeyEvent &tecla) const;
     void AjustarLetra();
     void Copiar();
+    void Pegado(const QString &texto);
     void Mostrar();
 
     Calculadora calculadora_;
     QLineEdit *txtDisplay;
+    bool conSeleccion_ = false; // of the display, before the change that is being told
     QPushButton *cmdEquals = nullptr;
 };
 
