@@ -1,6 +1,7 @@
 // What stands in the three lists, their tones, order and sums; texts of a file that no window would write.
 #include "cuentasprueba.h"
 
+#include "accounts/codigoleido.h"
 #include "accounts/contenidocuenta.h"
 #include "accounts/formasmovimiento.h"
 #include "accounts/sumacuenta.h"
@@ -25,6 +26,14 @@ TEST(FormasMovimiento, ADateOrHourTakesItsOneFormAndOtherTextStays) {
         EXPECT_EQ(FechaOrden(texto, bufer), texto);
     for (const char *texto : {"24:00", "9:60", "9", "9.05", "9:05 PM", "", "9:05:", "9:05:61"})
         EXPECT_EQ(HoraMovimiento(texto, bufer), texto);
+}
+
+TEST(CodigoLeido, IsWhatNoAmountLooksLike) {
+    const std::pair<const char *, bool> casos[] = {{"7790001000011", true}, {"12345678", true},
+                                                   {"1234567", false},      {"12345678,90", false},
+                                                   {"AB-7", true},          {"-5", false}};
+    for (const auto &[leido, esCodigo] : casos)
+        EXPECT_EQ(EsCodigoLeido(QString::fromUtf8(leido)), esCodigo) << leido;
 }
 
 class Contenido : public ::testing::Test {

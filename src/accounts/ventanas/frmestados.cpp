@@ -1,5 +1,6 @@
 #include "accounts/ventanas/frmestados.h"
 
+#include "accounts/codigoleido.h"
 #include "desktop/anfitrion.h"
 #include "desktop/reloj.h"
 #include "desktop/twips.h"
@@ -17,19 +18,6 @@ namespace tarvo {
 namespace {
 
 constexpr int kDetalleMenor = 600; // twips, on the narrowest screens
-
-constexpr auto kDeImporte = "0123456789.,";
-
-// What came at the pace of a scanner has something that no amount has, or is as many figures as only a
-// barcode has: amounts of so many have a separator.
-bool EsCodigo(const QString &leido) {
-    constexpr int kCifras = 8;
-    constexpr int kSignos = 3;
-    const QString deImporte = QLatin1String(kDeImporte);
-    if (!std::ranges::all_of(leido, [&](QChar c) { return deImporte.contains(c); }))
-        return leido.size() >= kSignos;
-    return leido.size() >= kCifras && std::ranges::all_of(leido, [](QChar c) { return c.isDigit(); });
-}
 
 QString TextoMovimientos(int filas) {
     return filas == 1 ? QStringLiteral("1 movimiento") : QStringLiteral("%1 movimientos").arg(filas);
@@ -62,7 +50,8 @@ FrmEstados::FrmEstados(Servicios servicios, Anfitrion &anfitrion, QWidget *padre
       anfitrion_(anfitrion),
       logica_(servicios, *this) {
     ui_->setupUi(this);
-    SoloCaracteres(ui_->txtCantidad, QLatin1String(kDeImporte)); // before the filter, which hears keys first
+    SoloCaracteres(ui_->txtCantidad,
+                   QLatin1String(kSignosImporte)); // before the filter, which hears keys first
     filtro_ = new FiltroCampos(this);
     PrepararControles();
     PrepararClientes();
@@ -244,7 +233,7 @@ void FrmEstados::EnfocarCantidad() {
 // A code that a scanner typed is no amount: the field gets back what it held, and stays.
 void FrmEstados::EntrarCantidad() {
     const QString leido = filtro_->Ritmo().Leido();
-    if (!EsCodigo(leido)) {
+    if (!EsCodigoLeido(leido)) {
         ui_->cmdAgregar->setFocus();
         return;
     }

@@ -6,6 +6,7 @@
 #include "desktop/ventanas/estilo.h"
 #include "desktop/ventanas/filtrocampos.h"
 #include "store/errordatos.h"
+#include "store/store.h"
 #include "ui_frmstats.h"
 
 #include <QBarCategoryAxis>
@@ -117,7 +118,8 @@ void FrmStats::Mostrar(const std::vector<double> &valores, int dias) {
     for (int dia = 1; dia <= dias; ++dia) {
         rotulos += QString::number(dia);
         barras += valores[std::size_t(dia - 1)];
-        hablado += QStringLiteral("%1: %L2").arg(dia).arg(barras.last(), 0, 'f', 2);
+        hablado += QStringLiteral("%1: %2").arg(dia).arg(
+            servicios_.frmBases.moneda().FormatoMoneda(barras.last(), false));
     }
     ui_->Chart1->setAccessibleDescription(hablado.join(QStringLiteral("; ")));
     valores_->remove(0, valores_->count());
