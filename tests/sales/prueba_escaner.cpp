@@ -1,11 +1,11 @@
 // Scans are found or told in every state of the window: none is lost, none becomes a quantity or a choice.
 #include "ventanaprueba.h"
 
+#include "desktop/ventanas/preguntasqt.h"
 #include "sales/rachateclas.h"
 
 #include <QDialog>
 #include <QMenu>
-#include <QMessageBox>
 #include <QSignalSpy>
 #include <QWindow>
 
@@ -190,13 +190,15 @@ TEST_F(EscanerConCuadros, AScanIntoABoxAnswersNoQuestionAndIsSearchedBehindIt) {
 // The main window asks whether to leave the sale.
 TEST_F(Escaner, AScanIntoABoxOfAnotherWindowIsSearchedBehindItToo) {
     Abrir();
-    QMessageBox cuadro;
-    cuadro.addButton(QMessageBox::No);
-    cuadro.open();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&cuadro));
-    Escanear(kAzucar);
-    EXPECT_TRUE(cuadro.isVisible());
-    cuadro.reject();
+    QTimer::singleShot(0, ventana.get(), [this] {
+        auto *const cuadro = qobject_cast<QDialog *>(QApplication::activeModalWidget());
+        cuadro->activateWindow();
+        EXPECT_TRUE(QTest::qWaitFor([&] { return QApplication::activeWindow() == cuadro; }));
+        Escanear(kAzucar);
+        EXPECT_TRUE(cuadro->isVisible());
+        cuadro->reject();
+    });
+    EXPECT_EQ(PreguntasQt().Preguntar(u"¿Salir?"_qs, Respuesta::No), Respuesta::No);
     ventana->activateWindow();
     EXPECT_TRUE(QTest::qWaitFor([this] { return Lineas() == 1; }));
 }

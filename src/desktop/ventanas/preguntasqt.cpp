@@ -14,6 +14,8 @@ namespace tarvo {
 
 namespace {
 
+constexpr auto kMarcaPregunta = "pregunta";
+
 QMessageBox::Icon IconoDeCaja(Icono icono) {
     switch (icono) {
     case Icono::Informacion:
@@ -51,6 +53,7 @@ QString ParaCaja(const QString &texto) {
 
 void Preparar(QMessageBox &caja, const QString &texto, Icono icono) {
     new FiltroCampos(&caja); // no scan answers it
+    caja.setProperty(kMarcaPregunta, true);
     caja.setWindowTitle(QStringLiteral("Tarvo"));
     caja.setTextFormat(Qt::PlainText);
     caja.setText(ParaCaja(texto));
@@ -113,6 +116,10 @@ QString Elegida(const QFileDialog &dialogo) {
 }
 
 } // namespace
+
+bool EsPregunta(const QWidget *ventana) {
+    return ventana != nullptr && ventana->property(kMarcaPregunta).toBool();
+}
 
 Respuesta PreguntasQt::Preguntar(const QString &texto, Respuesta preseleccionada) {
     QMessageBox caja(QApplication::activeWindow());

@@ -4,7 +4,12 @@
 
 #include "desktop/preguntas.h"
 
+class QWidget;
+
 namespace tarvo {
+
+// Whether this window, or none, is a box of these questions.
+bool EsPregunta(const QWidget *ventana);
 
 class PreguntasQt final : public Preguntas {
   public:

@@ -1,5 +1,7 @@
 #include "sales/ventanas/rutaescaner.h"
 
+#include "desktop/escaner.h"
+#include "desktop/ventanas/preguntasqt.h"
 #include "desktop/ventanas/ritmoteclas.h"
 
 #include <QAbstractItemView>
@@ -22,14 +24,7 @@ namespace tarvo {
 
 namespace {
 
-constexpr int kRitmo = 100;           // ms; keys that follow one another faster come from a scanner
-constexpr int kVuelta = 200;          // ms; the window system has given the keyboard back
-constexpr qsizetype kCodigoMenor = 3; // characters that come in the rhythm of a scanner
-
-bool EsEntrar(const QKeyEvent &evento) {
-    return (evento.modifiers() & ~Qt::KeypadModifier) == 0 &&
-           (evento.key() == Qt::Key_Return || evento.key() == Qt::Key_Enter);
-}
+constexpr int kVuelta = 200; // ms; the window system has given the keyboard back
 
 bool EsMenu(const QWidget *recibe) {
     return qobject_cast<const QMenu *>(recibe) != nullptr ||
@@ -109,7 +104,9 @@ void RutaEscaner::EsperarCalma() {
 }
 
 int RutaEscaner::CalmaEn() const {
-    return desdeTecla_.isValid() ? static_cast<int>(std::max<qint64>(0, kRitmo - desdeTecla_.elapsed())) : 0;
+    return desdeTecla_.isValid()
+               ? static_cast<int>(std::max<qint64>(0, kRitmoEscaner - desdeTecla_.elapsed()))
+               : 0;
 }
 
 // Until the window system has given the keyboard back to the window, the keys would go to nobody.
@@ -143,8 +140,7 @@ void RutaEscaner::BuscarPendiente() {
 
 // One of the sale, or one of the main window over it, such as the question whether to leave the sale.
 bool RutaEscaner::ConCuadroAbierto() const {
-    const QWidget *const modal = QApplication::activeModalWidget();
-    return preguntando_ || (modal != nullptr && modal->inherits("QMessageBox"));
+    return preguntando_ || EsPregunta(QApplication::activeModalWidget());
 }
 
 bool RutaEscaner::Libre() const {
@@ -201,7 +197,7 @@ bool RutaEscaner::DetrasDelCuadro(QEvent &evento) {
 
 // True for a key that is kept from its window: the characters, and each Enter in the rhythm of a scan.
 bool RutaEscaner::Recoger(const QKeyEvent &evento) {
-    const bool seguida = evento.timestamp() <= ultima_ + kRitmo;
+    const bool seguida = evento.timestamp() <= ultima_ + kRitmoEscaner;
     if (const QString caracter = CaracterDe(evento); !caracter.isEmpty()) {
         // The blank presses the button.
         if (racha_.En(this).isEmpty() && evento.key() == Qt::Key_Space)
@@ -215,7 +211,7 @@ bool RutaEscaner::Recoger(const QKeyEvent &evento) {
         return false;
     const QString codigo = racha_.En(this);
     racha_.Cortar();
-    if (!EsEntrar(evento)) {
+    if (!SinModificador(evento) || !EsEntrar(evento.key())) {
         leida_ = false;
         return esperando_;
     }
@@ -270,7 +266,7 @@ bool RutaEscaner::Tecla(QWidget *recibe, const QKeyEvent &evento) {
         empezar(caracter);
         return true;
     }
-    if (EsEntrar(evento) && campo != nullptr)
+    if (campo != nullptr && SinModificador(evento) && EsEntrar(evento.key()))
         return Entrar(*campo);
     if (!EsModificador(evento.key()))
         racha_.Cortar();

@@ -6,7 +6,8 @@
 // is open. In a field of the sale it is typed as any other; the Enter behind it hands what can't be meant for
 // the field to the search, and the field gets back what it held. A box opens when the keyboard has been quiet
 // for a moment, so that no scan is cut by it; it stays until a key of the operator: what is scanned meanwhile
-// waits in a queue, which the sale works off as soon as it is free. A second Enter adds what was found.
+// waits in a queue, which the sale works off as soon as it is free. So it does behind a box of the main
+// window over the sale. A second Enter adds what was found.
 #pragma once
 
 #include "desktop/preguntas.h"
