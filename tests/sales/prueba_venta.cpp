@@ -2,8 +2,10 @@
 #include "tiendaprueba.h"
 
 #include "masterdata/selectorclientes.h"
+#include "sales/acciones.h"
 #include "sales/venta.h"
 #include "testkit/listas.h"
+#include "testkit/preguntasguion.h"
 
 namespace tarvo {
 namespace {
@@ -172,6 +174,25 @@ TEST_F(VentaPrueba, WhatIsNoNumberIsRefusedAndNamed) {
     }
     venta().Quitar(0); // given back as it was, but for zeros at its end
     EXPECT_EQ(Stock(6), u"12,5");
+}
+
+TEST_F(VentaPrueba, EachStepAsksOrTells) {
+    EXPECT_EQ(CantidadPedida({}), 1);
+    EXPECT_EQ(CantidadPedida(u"999999"_qs), 999999);
+    EXPECT_EQ(CantidadPedida(u"7790001000028"_qs), std::nullopt) << "a barcode";
+    datos.Ejecutar(
+        "INSERT INTO articulos.Articulos(codigo,nombre,subtotal,stock) VALUES('X','Raro','12 €','1')");
+    PreguntasGuion preguntas;
+    preguntas.EsperaMensaje(venta().Impedimento(3));
+    EXPECT_EQ(AgregarArticulo(preguntas, venta(), 3, 1), -1);
+    EXPECT_EQ(AgregarArticulo(preguntas, venta(), -1, 1), -1) << "no article selected";
+    EXPECT_EQ(AgregarArticulo(preguntas, venta(), 0, 2), 0);
+    EXPECT_FALSE(QuitarLinea(preguntas, venta(), -1));
+    for (const Respuesta contesta : {No, Si}) {
+        preguntas.Espera(u"Está seguro de querer quitar artículo de la lista?"_qs, No, contesta);
+        EXPECT_EQ(QuitarLinea(preguntas, venta(), 0), contesta == Si);
+        EXPECT_EQ(venta().Detalle().Filas(), contesta == Si ? 0 : 1);
+    }
 }
 
 // --- totals

@@ -157,9 +157,6 @@ TEST_F(VentaAbierta, RemovingALineAsks) {
         Campo("txtBuscar")->setFocus();
         Escanear(codigo);
     }
-    mundo.preguntas.Espera(pregunta, No, No);
-    Clic("cmdQuitar");
-    EXPECT_EQ(Lineas(), 3);
     mundo.preguntas.Espera(pregunta, No, Si);
     Lista("LVDetalle")->setFocus();
     Tecla(Lista("LVDetalle"), Qt::Key_Delete);

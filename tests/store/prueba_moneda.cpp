@@ -102,18 +102,28 @@ TEST(Moneda, StripsTheSymbolByItsLength) {
 }
 
 TEST(Moneda, ReadsNumbersInItsLocaleNeutrallyAndAsStored) {
-    const std::tuple<const char *, double, double, double> casos[] = {
-        {"12,5", 12.5, 12, 12},  {"12.5", 12, 12.5, 12.5}, {"21%", 21, 21, 21},
-        {"10,5%", 10.5, 10, 10}, {" -3", -3, -3, -3},      {"", 0, 0, 0},
-        {"abc", 0, 0, 0},        {",5", 0.5, 0, 0},        {"5,", 5, 5, 5},
-        {"-", 0, 0, 0},          {"7 cajas", 7, 7, 7},     {"0,1", 0.1, 0, 0},
+    const std::tuple<const char *, double, double, double, double> casos[] = {
+        {"12,5", 12.5, 12, 12, 12.5},
+        {"12.5", 12, 12.5, 12.5, 12.5},
+        {"21%", 21, 21, 21, 21},
+        {"10,5%", 10.5, 10, 10, 10.5},
+        {" -3", -3, -3, -3, -3},
+        {"", 0, 0, 0, 0},
+        {"abc", 0, 0, 0, 0},
+        {",5", 0.5, 0, 0, 0.5},
+        {"5,", 5, 5, 5, 5},
+        {"-", 0, 0, 0, 0},
+        {"7 cajas", 7, 7, 7, 7},
+        {"0,1", 0.1, 0, 0, 0.1},
+        {"-12,5", -12.5, -12, -12, -12.5},
+        {"-12.5", -12, -12.5, -12.5, -12.5},
     };
-    for (const auto &[utf8, coma, punto, neutro] : casos) {
+    for (const auto &[utf8, coma, punto, neutro, guardado] : casos) {
         const QString texto = QString::fromUtf8(utf8);
         EXPECT_EQ(kComa.Numero(texto), coma) << utf8;
         EXPECT_EQ(kPunto.Numero(texto), punto) << utf8;
         EXPECT_EQ(Moneda::NumeroNeutro(texto), neutro) << utf8;
-        EXPECT_EQ(Moneda::NumeroGuardado(texto), std::max(coma, punto)) << utf8;
+        EXPECT_EQ(Moneda::NumeroGuardado(texto), guardado) << utf8;
     }
     EXPECT_EQ(kComa.Importe(u"$ -12,50"_qs), -12.5);
     EXPECT_EQ(kComa.Importe(u"0"_qs), 0);
