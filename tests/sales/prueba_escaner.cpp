@@ -6,6 +6,7 @@
 
 #include <QDialog>
 #include <QMenu>
+#include <QMenuBar>
 #include <QSignalSpy>
 #include <QWindow>
 
@@ -57,13 +58,18 @@ TEST_F(Escaner, FoundWhateverHasTheFocus) {
     Escaneado(kAzucar);
     Hallado(1, "search off");
     // In an open menu what chooses no entry of it closes it.
-    QMenu menu(ventana.get());
+    QMenuBar barra(ventana.get());
+    barra.addAction(QStringLiteral("&Ventas"));
+    QMenu menu(&barra);
     const QAction *const salir = menu.addAction(QStringLiteral("&Salir"));
     menu.popup({});
     QTest::keyClick(&menu, '7');
     EXPECT_FALSE(menu.isVisible());
     EXPECT_NE(menu.windowHandle()->handle(), nullptr) << "the next keys are on their way to it";
     EXPECT_EQ(Campo("txtBuscar")->text(), QStringLiteral("7"));
+    menu.popup({});
+    QTest::keyClick(&menu, 'v');
+    EXPECT_EQ(Campo("txtBuscar")->text(), QStringLiteral("7")) << "it leads to another menu";
     menu.popup({});
     QSignalSpy elegida(salir, &QAction::triggered);
     QTest::keyClick(&menu, 's');

@@ -31,10 +31,13 @@ bool EsMenu(const QWidget *recibe) {
            qobject_cast<const QMenuBar *>(recibe) != nullptr;
 }
 
-// The letter that an entry of this menu underlines.
+// The letter that an entry of this menu underlines, or one of the bar from which it hangs.
 bool EligeEntrada(const QWidget &menu, const QString &caracter) {
     const QKeySequence letra(Qt::ALT | static_cast<Qt::Key>(caracter.front().toUpper().unicode()));
-    return EsMenu(&menu) && std::ranges::any_of(menu.actions(), [&](const QAction *entrada) {
+    QList<QAction *> entradas = menu.actions();
+    if (const auto *barra = qobject_cast<const QMenuBar *>(menu.parentWidget()))
+        entradas += barra->actions();
+    return EsMenu(&menu) && std::ranges::any_of(entradas, [&](const QAction *entrada) {
                return QKeySequence::mnemonic(entrada->text()) == letra;
            });
 }
