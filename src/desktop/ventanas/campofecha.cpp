@@ -7,6 +7,7 @@
 #include <QCalendarWidget>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QRegularExpression>
 #include <QSignalBlocker>
 #include <QTextCharFormat>
 
@@ -24,10 +25,12 @@ bool SeparaPartes(QChar signo) {
     return signo == u'/' || signo == u'-' || signo == u'.';
 }
 
-// Both separators have been written, or all figures without them.
-bool EsFechaEntera(const QString &escrito) {
-    const auto separadores = std::ranges::count_if(escrito, SeparaPartes);
-    return separadores == 2 || (separadores == 0 && CampoFecha::EsDiaMesAnio(escrito));
+// The date that was written at last, with both separators or with all figures; empty for less.
+QString FechaAlFinal(const QString &escrito) {
+    constexpr int kCifrasFecha = 8;
+    static const QRegularExpression separada(QStringLiteral("[0-9]{1,2}[/.-][0-9]{1,2}[/.-]$"));
+    const QString cifras = escrito.right(kCifrasFecha);
+    return CampoFecha::EsDiaMesAnio(cifras) ? cifras : separada.match(escrito).captured();
 }
 
 bool PideCalendario(const QKeyEvent &evento) {
@@ -110,13 +113,14 @@ void CampoFecha::Escribir(QChar signo) {
     }
     escrito_ += signo;
     Signo(signo);
-    if (comienzo_ == sectionAt(0) || !EsFechaEntera(escrito_))
+    const QString entera = comienzo_ == sectionAt(0) ? QString() : FechaAlFinal(escrito_);
+    if (entera.isEmpty())
         return;
     Olvidar();
     setDate(antes_);
     comienzo_ = sectionAt(0);
     setSelectedSection(comienzo_);
-    for (const QChar otra : std::as_const(escrito_))
+    for (const QChar otra : entera)
         Signo(otra);
 }
 
@@ -141,8 +145,14 @@ void CampoFecha::Cifra(int cifra) {
     }
     valor_ = valor;
     cifras_ = cifras;
-    if (anio)
-        return cifras == kCifrasAnio ? Completar() : MostrarAnio();
+    if (anio && cifras < kCifrasAnio)
+        return MostrarAnio();
+    if (anio) {
+        Completar();
+        if (comienzo_ == sectionAt(0)) // the date is whole: what follows is another one
+            escrito_.clear();
+        return;
+    }
     if (dia && valor > 0)
         dia_ = valor;
     Poner(dia || valor == 0 ? date().month() : valor, date().year());
