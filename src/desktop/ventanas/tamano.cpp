@@ -7,6 +7,7 @@
 #include <QMainWindow>
 #include <QRegularExpression>
 #include <QScreen>
+#include <QToolBar>
 
 #include <algorithm>
 #include <utility>
@@ -64,8 +65,9 @@ void Espaciar(QLayout *disposicion) {
     Escribir(disposicion, medidas);
 }
 
+// A toolbar has its measures from the sheet, which grows by itself.
 void EspaciarVentana(QWidget *control) {
-    if (control->layout() == nullptr)
+    if (control->layout() == nullptr || qobject_cast<QToolBar *>(control) != nullptr)
         return;
     Espaciar(control->layout());
     for (QLayout *interior : control->layout()->findChildren<QLayout *>())
